@@ -1,0 +1,33 @@
+// What each level's maze is made of. A level is 0 to 15 throughout; any other number makes these
+// functions throw std::out_of_range.
+#pragma once
+
+#include <cstdint>
+
+namespace trameli {
+
+/// How the walls of a level come about.
+enum class Ricetta {
+    ScatolaVuota,       ///< outside walls only, nothing carved
+    ScavataEAllargata,  ///< carved, then a number of further walls knocked down
+    Scavata             ///< carved: a perfect maze
+};
+
+/// The recipe of a level.
+Ricetta RicettaDi(int livello);
+
+/// How many more walls to knock down at levels 1 to 4, 6 and 7, from the figure that
+/// Tramelo::ContaMuriRimasti leaves; 0 at the levels whose recipe has no such step.
+std::int16_t QuantiMuriDaAbbattere(int livello, std::int16_t muriRimasti);
+
+/// Rows and columns of a grid.
+struct DimensioniGriglia {
+    std::int16_t Righe;
+    std::int16_t Colonne;
+    bool operator==(const DimensioniGriglia&) const = default;
+};
+
+/// The grid of a level.
+DimensioniGriglia DimensioniDi(int livello);
+
+}  // namespace trameli
