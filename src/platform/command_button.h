@@ -1,0 +1,27 @@
+// Push buttons.
+#pragma once
+
+#include "platform/control.h"
+
+namespace trameli {
+
+/// A button with a caption, a picture or both. The mouse presses it, or the release of Space or
+/// Enter whose press it received too: one stroke of a switch is one action.
+class CommandButton : public VisualControl {
+public:
+    CommandButton(Container& container, ControlName name, const Bounds& bounds,
+                  std::string caption = {});
+
+    /// The text; the letter behind an "&" presses the button together with Alt.
+    const std::string& Caption() const { return caption_; }
+    void Caption(const std::string& caption);
+    /// Shown in its own proportions, as large as the button leaves room.
+    void Picture(const trameli::Picture& picture);
+
+    std::function<void()> Click;
+
+private:
+    std::string caption_;
+};
+
+}  // namespace trameli

@@ -1,0 +1,149 @@
+// What all controls have in common.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "platform/colour.h"
+#include "platform/font.h"
+#include "platform/picture.h"
+
+namespace trameli {
+
+class Form;
+class Container;
+
+/// Place and size in twips, relative to the container.
+struct Bounds {
+    double Left = 0;
+    double Top = 0;
+    double Width = 0;
+    double Height = 0;
+
+    bool operator==(const Bounds&) const = default;
+};
+
+/// Name of a control, with its index if it is an element of a control array.
+struct ControlName {
+    ControlName(const char* name) : Name(name) {}  // NOLINT(google-explicit-constructor)
+    ControlName(std::string name, int index) : Name(std::move(name)), Index(index) {}
+
+    std::string Name;
+    std::optional<int> Index;
+};
+
+/// A named part of a form. A control enters its form's `Controls` when it is made and leaves it
+/// when it is destroyed.
+class Control {
+public:
+    virtual ~Control();
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+
+    const std::string& Name() const { return name_.Name; }
+    /// The index in a control array; nothing for a single control.
+    std::optional<int> Index() const { return name_.Index; }
+    Form& OwnerForm() const { return form_; }
+
+    /// Free text that goes with the control.
+    const std::string& Tag() const { return tag_; }
+    void Tag(std::string tag) { tag_ = std::move(tag); }
+
+protected:
+    Control(Form& form, ControlName name);
+
+private:
+    Form& form_;
+    ControlName name_;
+    std::string tag_;
+};
+
+/// A control that has a place on the form.
+class VisualControl : public Control {
+public:
+    ~VisualControl() override;
+
+    double Left() const { return bounds_.Left; }
+    double Top() const { return bounds_.Top; }
+    double Width() const { return bounds_.Width; }
+    double Height() const { return bounds_.Height; }
+    void Left(double twips);
+    void Top(double twips);
+    void Width(double twips);
+    void Height(double twips);
+    /// All four at once, for a control that is moved and sized in one go.
+    const Bounds& Place() const { return bounds_; }
+    void Place(const Bounds& bounds);
+
+    /// What was set, not what can be seen just now.
+    bool Visible() const { return visible_; }
+    void Visible(bool visible);
+    /// What was set; a control on a disabled container keeps its own value.
+    bool Enabled() const { return enabled_; }
+    void Enabled(bool enabled);
+
+    Colour BackColor() const { return backColor_; }
+    virtual void BackColor(Colour colour);
+    Colour ForeColor() const { return foreColor_; }
+    void ForeColor(Colour colour);
+    const trameli::Font& Font() const { return font_; }
+    void Font(const trameli::Font& font);
+
+    const std::string& ToolTipText() const { return toolTipText_; }
+    void ToolTipText(const std::string& text);
+    /// What assistive technology calls the control where its caption does not say it.
+    void AccessibleName(const std::string& name);
+
+    /// Place in the order of the Tab key; equal ones go by creation.
+    int TabIndex() const { return tabIndex_; }
+    void TabIndex(int index);
+
+    /// Gives the control the keyboard. Does nothing if it cannot take it just now, and never
+    /// brings a window to the front.
+    void SetFocus();
+
+    /// The pointer over the control: a picture, or nothing for the system's own.
+    const std::optional<PointerImage>& MouseIcon() const { return mouseIcon_; }
+    void MouseIcon(std::optional<PointerImage> icon);
+
+    // Events. Each is a routine of the form, set when the form is made.
+    std::function<void()> GotFocus;
+    std::function<void()> MouseMove;
+    /// Key code and shift bits. Comes after the form has seen the key.
+    std::function<void(int, int)> KeyUp;
+
+    struct Native;
+    /// The toolkit's side of the control; of use below `platform` only.
+    Native& NativePart() const { return *native_; }
+
+protected:
+    VisualControl(Container& container, ControlName name, const Bounds& bounds,
+                  std::unique_ptr<Native> native);
+
+private:
+    std::unique_ptr<Native> native_;
+    Bounds bounds_;
+    bool visible_ = true;
+    bool enabled_ = true;
+    Colour backColor_ = ButtonFace;
+    Colour foreColor_ = Black;
+    trameli::Font font_;
+    std::string toolTipText_;
+    int tabIndex_ = 0;
+    std::optional<PointerImage> mouseIcon_;
+};
+
+/// Something that controls lie on: a form, a frame or a picture box.
+class Container {
+public:
+    virtual ~Container() = default;
+
+    struct Native;
+    virtual Form& ContainerForm() = 0;
+    /// The toolkit's side of the container; of use below `platform` only.
+    virtual Native ContainerNative() = 0;
+};
+
+}  // namespace trameli

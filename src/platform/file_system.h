@@ -1,0 +1,44 @@
+// Files and folders under the names that the program knows them by.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace trameli {
+
+/// The service for files. Paths are the program's own: "C:\..." with backslashes, UTF-8, without
+/// regard to case. "C:\" stands for the folder `trameli` in the user's data folder. A path with a
+/// part that could lead out of its folder ("..", a slash, a zero character) names nothing. No call
+/// throws.
+class FileSystem {
+public:
+    virtual ~FileSystem() = default;
+
+    /// True if an ordinary file of that path exists.
+    virtual bool FileExists(const std::string& path) const = 0;
+
+    /// True if the path names an existing folder.
+    virtual bool FolderExists(const std::string& path) const = 0;
+
+    /// Makes a folder, with those above it. False if there is none afterwards.
+    virtual bool CreateFolder(const std::string& path) = 0;
+
+    /// The first bytes of an ordinary file, `limit` at the most; nothing if it cannot be read.
+    virtual std::optional<std::string> Read(const std::string& path, std::size_t limit) const = 0;
+
+    /// Makes `bytes` the content of the file, whole or not at all: whatever happens in between,
+    /// the file holds either what it held before or what it is given. False if it could not.
+    virtual bool Replace(const std::string& path, const std::string& bytes) = 0;
+
+    /// Names in a folder, files and folders, that end in `ending` (without regard to case), in
+    /// alphabetical order; of names that differ only in case the first alone.
+    virtual std::vector<std::string> List(const std::string& folder,
+                                          const std::string& ending) const = 0;
+
+    /// Where a path lies on this machine, to be shown to a person.
+    virtual std::string OnThisMachine(const std::string& path) const = 0;
+};
+
+}  // namespace trameli

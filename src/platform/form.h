@@ -1,0 +1,100 @@
+// Windows.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/control.h"
+#include "platform/surface.h"
+
+namespace trameli {
+
+class Forms;
+
+/// A window of the program. A class of its own declares the controls as members, and overrides
+/// the event routines that it needs.
+///
+/// Events of a form and of its controls arrive only while it is loaded. A routine that waits can
+/// find its form unloaded afterwards; the object itself lives until the last of its routines has
+/// returned.
+class Form : public Container {
+public:
+    /// Size of the client area as laid out, in twips; the menu bar is not part of it.
+    struct DesignSize {
+        double Width;
+        double Height;
+    };
+
+    Form(Forms& forms, std::string name, DesignSize size);
+    ~Form() override;
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
+
+    const std::string& Name() const { return name_; }
+    trameli::Forms& Forms() const { return forms_; }
+    /// True from `Form_Load` until the form is unloaded or the program ended.
+    bool Loaded() const;
+
+    /// Size of the client area in twips, without menu bar and window frame, whose measures belong
+    /// to the desktop. A maximised form has its final size from `Form_Activate` on.
+    double Width() const;
+    double Height() const;
+
+    const std::string& Caption() const { return caption_; }
+    void Caption(const std::string& caption);
+    const std::string& Tag() const { return tag_; }
+    void Tag(std::string tag) { tag_ = std::move(tag); }
+    Colour BackColor() const { return backColor_; }
+    void BackColor(Colour colour);
+    void MouseIcon(std::optional<PointerImage> icon);
+    const std::optional<PointerImage>& MouseIcon() const { return mouseIcon_; }
+    /// What is drawn on the form itself, under its controls; made at the first call.
+    Surface& Canvas();
+
+    /// All controls in the order of their making, timers and menu entries included.
+    const std::vector<Control*>& Controls() const { return controls_; }
+
+    Form& ContainerForm() override { return *this; }
+    Container::Native ContainerNative() override;
+
+    struct Native;
+    /// The toolkit's side of the form; of use below `platform` only.
+    Native& NativePart() const { return *native_; }
+
+protected:
+    // Event routines, in the order in which they arrive.
+    virtual void Form_Load() {}
+    /// The client area has another size.
+    virtual void Form_Resize() {}
+    /// The form has come to the front and has its final size; again whenever it comes back.
+    virtual void Form_Activate() {}
+    /// A key was released that had been pressed in this form. Comes before the control's event.
+    virtual void Form_KeyUp(int keyCode, int shift);
+    /// The pointer moved over the form itself, not over a control.
+    virtual void Form_MouseMove() {}
+    virtual void Form_Unload() {}
+
+    /// Waits so many seconds while events are served. Ends early if the form is unloaded
+    /// meanwhile, or the program ended. Returns whether the form is still loaded: if it is not,
+    /// the caller returns at once.
+    [[nodiscard]] bool Attesa(double secondi);
+
+private:
+    friend class Control;
+    friend class trameli::Forms;
+    friend struct Native;
+
+    trameli::Forms& forms_;
+    std::string name_;
+    std::string caption_;
+    std::string tag_;
+    Colour backColor_ = ButtonFace;
+    std::optional<PointerImage> mouseIcon_;
+    std::vector<Control*> controls_;
+    bool loaded_ = false;
+    std::unique_ptr<Native> native_;
+};
+
+}  // namespace trameli

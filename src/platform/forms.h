@@ -1,0 +1,73 @@
+// The windows of a program and its life.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/clock.h"
+#include "platform/form.h"
+#include "platform/screen.h"
+
+namespace trameli {
+
+/// All forms of one program, by name. Each exists at most once. Forms open each other through this
+/// class and so need not know of each other.
+class Forms {
+public:
+    using Maker = std::function<std::unique_ptr<Form>(Forms&)>;
+
+    Forms(trameli::Clock& clock, trameli::Screen& screen);
+    ~Forms();
+    Forms(const Forms&) = delete;
+    Forms& operator=(const Forms&) = delete;
+
+    trameli::Clock& Clock() const { return clock_; }
+    trameli::Screen& Screen() const { return screen_; }
+
+    /// Tells how the form `name` is made.
+    void Register(const std::string& name, Maker maker);
+    /// True if the program has a form of that name.
+    bool Knows(const std::string& name) const { return makers_.contains(name); }
+
+    /// Loads the form if it is not loaded, and brings it to the front; returns before its
+    /// `Form_Activate`. A name that is not known shows nothing.
+    void Show(const std::string& name);
+    /// The form of that name, loaded but not shown if it was not loaded before. It must be known.
+    Form& Load(const std::string& name);
+    /// The form of that name if it is loaded, else nothing.
+    Form* Find(const std::string& name) const;
+    /// Runs the form's `Form_Unload` and takes it from the screen. None of its routines is started
+    /// any more; it is destroyed when the last one under way has returned. The program ends when
+    /// no form is left on the screen.
+    void Unload(Form& form);
+
+    /// Ends the program at once: no routine of any form is started any more.
+    void End();
+    bool Ended() const { return ended_; }
+
+    /// Serves events until the program ends.
+    void Run();
+
+    /// Runs an event routine of `form` if the form is loaded; of use below `platform` only.
+    void Dispatch(Form& form, const std::function<void()>& routine);
+
+private:
+    void Bury();
+    void StopIfDeserted();
+
+    trameli::Clock& clock_;
+    trameli::Screen& screen_;
+    std::map<std::string, Maker> makers_;
+    std::vector<std::unique_ptr<Form>> loaded_;
+    std::vector<std::unique_ptr<Form>> buried_;  // unloaded, perhaps with a routine under way
+    int routinesUnderWay_ = 0;
+    bool ended_ = false;
+
+    struct Native;
+    std::unique_ptr<Native> native_;
+};
+
+}  // namespace trameli

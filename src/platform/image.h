@@ -1,0 +1,24 @@
+// Pictures on a form.
+#pragma once
+
+#include "platform/control.h"
+
+namespace trameli {
+
+/// A picture stretched to the control's size, whatever its own proportions. What lies under its
+/// transparent parts shows through.
+class Image : public VisualControl {
+public:
+    Image(Container& container, ControlName name, const Bounds& bounds,
+          const trameli::Picture& picture = {});
+
+    const trameli::Picture& Picture() const { return picture_; }
+    void Picture(const trameli::Picture& picture);
+
+    std::function<void()> Click;
+
+private:
+    trameli::Picture picture_;
+};
+
+}  // namespace trameli

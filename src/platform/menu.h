@@ -1,0 +1,44 @@
+// Menu bars and their entries.
+#pragma once
+
+#include "platform/control.h"
+
+namespace trameli {
+
+/// An entry of the form's menu bar or of one of its menus. An "&" in the caption marks the letter
+/// that chooses it from the keyboard.
+class MenuItem : public Control {
+public:
+    /// An entry on the bar.
+    MenuItem(Form& form, ControlName name, std::string caption);
+    /// An entry of a menu; `letter` is its shortcut together with Ctrl, 0 for none.
+    MenuItem(MenuItem& parent, ControlName name, std::string caption, char letter = 0);
+    /// A further element of a control array at run time: beside `model`, but invisible.
+    MenuItem(MenuItem& model, int index);
+    ~MenuItem() override;
+
+    const std::string& Caption() const { return caption_; }
+    void Caption(const std::string& caption);
+    bool Enabled() const { return enabled_; }
+    void Enabled(bool enabled);
+    bool Visible() const { return visible_; }
+    void Visible(bool visible);
+    /// The mark in front of the entry.
+    bool Checked() const { return checked_; }
+    void Checked(bool checked);
+
+    std::function<void()> Click;
+
+    struct Native;
+    /// The toolkit's side of the entry; of use below `platform` only.
+    Native& NativePart() const { return *native_; }
+
+private:
+    std::string caption_;
+    bool enabled_ = true;
+    bool visible_ = true;
+    bool checked_ = false;
+    std::unique_ptr<Native> native_;
+};
+
+}  // namespace trameli

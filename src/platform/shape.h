@@ -1,0 +1,23 @@
+// Drawn figures that take no part in the play of mouse and keyboard.
+#pragma once
+
+#include "platform/control.h"
+
+namespace trameli {
+
+/// The outline of a rectangle. It lies under the controls of its container, and the mouse goes
+/// through it.
+class Shape : public VisualControl {
+public:
+    /// borderWidth in pixels of a screen of 15 twips a pixel.
+    Shape(Container& container, ControlName name, const Bounds& bounds, int borderWidth,
+          Colour borderColor);
+
+    Colour BorderColor() const { return borderColor_; }
+    void BorderColor(Colour colour);
+
+private:
+    Colour borderColor_;
+};
+
+}  // namespace trameli

@@ -1,0 +1,43 @@
+// Surfaces to draw on.
+#pragma once
+
+#include <memory>
+
+#include "platform/colour.h"
+
+namespace trameli {
+
+/// A drawing that stays until it is cleared. Coordinates are twips from the upper left corner, pen
+/// widths pixels, at least one. Nothing is smoothed: what a pen drew, the same pen in the
+/// background's colour takes away to the last pixel, and so does a thicker one.
+class Surface {
+public:
+    struct Native;
+
+    Surface();
+    virtual ~Surface();
+    Surface(const Surface&) = delete;
+    Surface& operator=(const Surface&) = delete;
+
+    int DrawWidth() const { return drawWidth_; }
+    void DrawWidth(int pixels) { drawWidth_ = pixels < 1 ? 1 : pixels; }
+
+    /// A line with round ends; of length zero it is a round point of the pen's width.
+    void DrawLine(double x1, double y1, double x2, double y2, Colour colour);
+    /// The outline of the rectangle with these corners. With both corners on one horizontal or
+    /// vertical line it is a bar of the pen's width with square ends half a width beyond them.
+    void DrawBox(double x1, double y1, double x2, double y2, Colour colour);
+    /// The rectangle between two corners, filled, without an outline.
+    void FillBox(double x1, double y1, double x2, double y2, Colour colour);
+    /// Clears to the background.
+    void Cls();
+
+    /// The toolkit's side of the surface; of use below `platform` only.
+    Native& SurfaceNative() const { return *native_; }
+
+private:
+    int drawWidth_ = 1;
+    std::unique_ptr<Native> native_;
+};
+
+}  // namespace trameli

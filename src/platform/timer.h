@@ -1,0 +1,31 @@
+// Timers.
+#pragma once
+
+#include "platform/clock.h"
+#include "platform/control.h"
+
+namespace trameli {
+
+/// Fires again and again at its interval while it is enabled and its form is loaded. Switching it
+/// on or changing the interval starts the interval anew.
+class Timer : public Control {
+public:
+    /// interval in milliseconds; starts disabled.
+    Timer(Form& form, ControlName name, int interval);
+
+    int Interval() const { return interval_; }
+    void Interval(int milliseconds);
+    bool Enabled() const { return enabled_; }
+    void Enabled(bool enabled);
+
+    std::function<void()> Tick;
+
+private:
+    void Restart();
+
+    int interval_;
+    bool enabled_ = false;
+    std::unique_ptr<Clock::Ticker> ticker_;
+};
+
+}  // namespace trameli

@@ -1,0 +1,19 @@
+// What every window of the game is given when it is made.
+#pragma once
+
+#include "platform/file_system.h"
+#include "shell/lingue.h"
+#include "shell/modulo_per_ini.h"
+#include "shell/stato.h"
+
+namespace trameli {
+
+/// The shared variables and the routines that windows call. All outlive the windows.
+struct Servizi {
+    trameli::Stato& Stato;
+    trameli::Lingue& Lingue;
+    trameli::ModuloPerIni& ModuloPerIni;
+    trameli::FileSystem& FileSystem;
+};
+
+}  // namespace trameli
