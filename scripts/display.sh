@@ -1,0 +1,133 @@
+# shellcheck shell=bash
+# Finds out whether there is a display, and makes a virtual one where there is none. Sourced.
+
+# Whether something answers behind $DISPLAY. The variable alone says little: it outlives its
+# server in a detached terminal.
+x11_answers() {
+    local name=${DISPLAY:-} host number
+    [[ $name =~ ^(unix|.*/unix)?:([0-9]+)(\.[0-9]+)?$ ]] && {
+        unix_socket_answers "/tmp/.X11-unix/X${BASH_REMATCH[2]}"
+        return
+    }
+    [[ $name =~ ^(.+):([0-9]+)(\.[0-9]+)?$ ]] || return 1
+    host=${BASH_REMATCH[1]} number=${BASH_REMATCH[2]}
+    timeout 3 bash -c "exec 3<>/dev/tcp/\$0/$((6000 + number))" "$host" 2>/dev/null
+}
+
+# The shell cannot open such a socket itself, but Debian's smallest system has a Perl that can.
+# Servers listen under the path, or under the same name in the abstract space, or both.
+unix_socket_answers() {
+    if ! perl -MIO::Socket::UNIX -e1 2>/dev/null; then
+        [[ -S $1 ]]
+        return
+    fi
+    perl -MIO::Socket::UNIX -e '
+        exit !grep { IO::Socket::UNIX->new(Peer => $_) } $ARGV[0], "\0$ARGV[0]"' "$1"
+}
+
+wayland_answers() {
+    local name=${WAYLAND_DISPLAY:-}
+    [[ -n $name ]] || return 1
+    [[ $name == /* ]] || name=${XDG_RUNTIME_DIR:-/nowhere}/$name
+    unix_socket_answers "$name"
+}
+
+# x11, wayland or none; "chosen" where the caller has told the toolkit to do without either.
+kind_of_display() {
+    case ${QT_QPA_PLATFORM:-} in
+        '' | xcb* | wayland*) ;;
+        *)
+            echo chosen
+            return
+            ;;
+    esac
+    if x11_answers; then
+        echo x11
+    elif wayland_answers; then
+        echo wayland
+    else
+        echo none
+    fi
+}
+
+# Waits until a file is there or a process is gone; at most ten seconds.
+wait_for_file() {
+    local file=$1 process=$2 tries=500
+    until [[ -s $file ]]; do
+        kill -0 "$process" 2>/dev/null && ((tries-- > 0)) || return 1
+        sleep 0.02
+    done
+}
+
+# Sets `server` and `number`. Each attempt lets the server itself find out whether the number and
+# its port are free, so that two starts at the same moment cannot take the same one.
+start_server() {
+    local port
+    for number in {1..50}; do
+        port=$((5900 + number))
+        # Nobody asks for a password, which is good only because nobody from outside can connect:
+        # the viewers' port is on the loopback address and the X protocol has no port at all.
+        # A viewer must not change the size either; the game lays itself out for one size.
+        setsid Xvnc ":$number" -rfbport "$port" -localhost -SecurityTypes None -nolisten tcp \
+            -geometry "$geometry" -depth 24 -AlwaysShared -AcceptSetDesktopSize=0 \
+            -desktop Trameli -displayfd 3 3>"$room/number" >"$room/server.log" 2>&1 &
+        server=$!
+        if wait_for_file "$room/number" "$server"; then
+            return
+        fi
+        kill "$server" 2>/dev/null || true
+        wait "$server" 2>/dev/null || true
+    done
+    server=
+    cat "$room/server.log" >&2
+    echo "The virtual display could not be started." >&2
+    return 1
+}
+
+# The game starts when the window manager is ready, so that its first window is placed by it.
+start_window_manager() {
+    setsid openbox --startup "sh -c 'echo ready >\"\$TRAMELI_ROOM/manager\"'" \
+        >"$room/manager.log" 2>&1 &
+    manager=$!
+    wait_for_file "$room/manager" "$manager" && return
+    cat "$room/manager.log" >&2
+    echo "The window manager could not be started." >&2
+    return 1
+}
+
+stop_display() {
+    local process
+    trap - EXIT
+    trap '' HUP INT TERM
+    # The game first: it must not see its display go.
+    for process in $player $manager $server; do
+        kill "$process" 2>/dev/null || true
+        wait "$process" 2>/dev/null || true
+    done
+    rm -rf -- "$room"
+}
+
+# Runs a command on a display of its own, which ends with it, and returns its exit code.
+run_on_virtual_display() {
+    geometry=${TRAMELI_GEOMETRY:-1366x768}
+    server='' manager='' player=''
+    room=$(mktemp -d)
+    trap stop_display EXIT
+    trap 'exit 129' HUP
+    trap 'exit 130' INT
+    trap 'exit 143' TERM
+
+    start_server
+    export DISPLAY=":$number" QT_QPA_PLATFORM=xcb TRAMELI_ROOM=$room
+    unset WAYLAND_DISPLAY XAUTHORITY
+    start_window_manager
+    unset TRAMELI_ROOM
+    cat >&2 <<END
+There is no display here, so a virtual one of $geometry was started.
+A VNC viewer on this machine connects to localhost:$((5900 + number)).
+END
+    # Not in the foreground: the shell would answer a signal only after the game's end.
+    "$@" &
+    player=$!
+    wait "$player"
+}

@@ -1,0 +1,80 @@
+# shellcheck shell=bash
+# shellcheck disable=SC2034  # the lists are for the scripts that source this
+# What the scripts need from the system, and how it gets there. Sourced, not run.
+#
+# Each group is listed here and nowhere else. The names are Debian's (12 and later).
+
+# Compiler, build tools, and the toolkit's headers with its widgets and SVG drawing.
+packages_build=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev)
+# The window plugins of the toolkit, and the fonts that stand in for Comic Sans MS and Arial.
+packages_run=(qt6-qpa-plugins libqt6svg6 fonts-comic-neue fonts-liberation)
+# Only for a session that has Wayland and no X11.
+packages_wayland=(qt6-wayland)
+# Only where there is no display: a virtual one with a window manager.
+packages_display=(tigervnc-standalone-server openbox)
+# The tests bring their own X servers, with and without a window manager.
+packages_test=(libgtest-dev xvfb openbox xdotool)
+packages_bench=(libbenchmark-dev)
+
+# Sets `missing` to those of the named packages that are not installed.
+find_missing() {
+    local installed name
+    # One call for all of them: this is on the way of every start. It fails when it does not know
+    # one of the names, and lists the others all the same.
+    installed=$(dpkg-query -W -f '${db:Status-Status} ${Package}\n' "$@" 2>/dev/null || true)
+    missing=()
+    for name in "$@"; do
+        case $'\n'"$installed"$'\n' in
+            *$'\n'"installed $name"$'\n'*) ;;
+            *) missing+=("$name") ;;
+        esac
+    done
+}
+
+tell_needs() {
+    cat >&2 <<END
+$1
+
+Needed are a C++20 compiler, CMake 3.25 or later, Ninja, and Qt 6.4 or later with Widgets, Svg
+and its X11 or Wayland plugin; the fonts Comic Neue and Liberation Sans (or Comic Sans MS and
+Arial); without a display also TigerVNC's X server and the window manager openbox; for tests and
+benchmarks GoogleTest, Google Benchmark, Xvfb, openbox and xdotool.
+
+Debian's names of what this script uses:
+  ${*:2}
+
+If all of it is here already, run the script again with TRAMELI_SKIP_PACKAGES=1.
+END
+}
+
+# Installs what is missing of the named packages. With nothing missing it asks for nothing: no
+# network, no root.
+need_packages() {
+    [[ -z ${TRAMELI_SKIP_PACKAGES:-} ]] || return 0
+    local missing=() as_root=()
+    if command -v dpkg-query >/dev/null; then
+        find_missing "$@"
+    else
+        missing=("$@")
+    fi
+    [[ ${#missing[@]} -gt 0 ]] || return 0
+
+    if ! command -v apt-get >/dev/null; then
+        tell_needs "This system has no apt-get, so nothing was installed." "${missing[@]}"
+        return 1
+    fi
+    if [[ $(id -u) -ne 0 ]]; then
+        if ! command -v sudo >/dev/null; then
+            tell_needs "Packages are missing, and neither root nor sudo is at hand." "${missing[@]}"
+            return 1
+        fi
+        as_root=(sudo)
+    fi
+
+    echo "Installing: ${missing[*]}" >&2
+    # The variable goes through env: sudo would drop it.
+    as_root+=(env DEBIAN_FRONTEND=noninteractive apt-get -q)
+    # A list that cannot be renewed may still be good enough to install from.
+    "${as_root[@]}" update >&2 || echo "The package lists could not be renewed." >&2
+    "${as_root[@]}" install -y --no-install-recommends "${missing[@]}" >&2
+}

@@ -1,0 +1,22 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds with warnings as errors, and runs all tests twice: on the
+# optimised build and under the sanitizers. An argument picks tests by name, as CTest's -R does.
+set -euo pipefail
+cd -- "$(dirname -- "${BASH_SOURCE[0]}")"
+# shellcheck source=scripts/packages.sh
+. scripts/packages.sh
+# shellcheck source=scripts/build.sh
+. scripts/build.sh
+
+pick=()
+if [[ $# -gt 0 ]]; then
+    pick=(-R "$1")
+fi
+
+need_packages "${packages_build[@]}" "${packages_run[@]}" "${packages_test[@]}"
+# The first failure ends the script, so that the summary at the end is the one that matters.
+for preset in check asan; do
+    echo "== $preset" >&2
+    build_preset "$preset"
+    ctest --preset "$preset" -j "$(nproc)" "${pick[@]}"
+done
