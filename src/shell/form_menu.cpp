@@ -1,0 +1,320 @@
+#include "shell/form_menu.h"
+
+#include <algorithm>
+#include <array>
+
+#include "base/rounding.h"
+#include "platform/forms.h"
+#include "shell/livelli.h"
+#include "shell/maiuscolo.h"
+#include "shell/puntatori.h"
+
+namespace trameli {
+
+namespace {
+
+constexpr Form::DesignSize Dimensioni{10200, 6630};
+constexpr int Ritardo = 300;  // milliseconds from the activation to the set-up
+constexpr int Bordo = 5;
+
+// The highlight.
+constexpr Colour Rosso = 255;
+constexpr Colour Arancione = 33023;
+constexpr Colour Bianco = 16777215;
+constexpr Colour GrigioChiaro = 14737632;
+
+/// The levels that share a coloured band.
+struct Fascia {
+    int Primo;
+    int Ultimo;
+    double Top;
+    Colour Testo;
+};
+
+constexpr std::array<Fascia, 3> Fasce{{
+    {0, 4, 720, Rgb(0, 64, 0)},
+    {5, 7, 1800, Rgb(64, 0, 0)},
+    {8, 15, 2880, Rgb(0, 0, 64)},
+}};
+constexpr Fascia LivelliATempo = Fasce[1];
+constexpr double PrimoLeft = 240;
+constexpr double PassoLeft = 1200;
+
+struct Bottone {
+    Bounds Posto;
+    const char* Immagine;
+    const char* Nome;  ///< for those who cannot see the picture
+    int Ordine;        ///< of the Tab key
+};
+
+/// Start and exit.
+constexpr int Inizio = 0;
+constexpr std::array<Bottone, 2> Bottoni{{
+    {{6360, 4080, 3315, 1095}, "menu/inizio.svg", "Inizia il gioco", NumeroLivelli},
+    {{6360, 5280, 3315, 1095}, "menu/fine.svg", "Esci dal programma", NumeroLivelli + 2},
+}};
+
+const Font Grande{"Arial", 14.25, false};
+const Font Piccolo{"Arial", 8.25, false};
+
+constexpr std::size_t Estensione = 4;  // ".ini"
+
+template <typename Controllo>
+void Colora(Controllo& controllo, Colour colore) {
+    // Setting a colour repaints even if it stays the same, and then the control flickers.
+    if (controllo.BackColor() != colore) {
+        controllo.BackColor(colore);
+    }
+}
+
+}  // namespace
+
+FormMenu::FormMenu(trameli::Forms& forms, Servizi& servizi)
+    : Form(forms, "FormMenu", Dimensioni),
+      mnuConfigura(*this, "mnuConfigura", "&Configurazioni"),
+      mnuInformazioni(*this, "mnuInformazioni", "&Informazioni"),
+      mnuDocumentazione(mnuInformazioni, "mnuDocumentazione", "documentazione"),
+      mnuAbout(mnuInformazioni, "mnuAbout", "about"),
+      mnuLanguages(*this, "mnuLanguages", "Lingua"),
+      Frame1(*this, "Frame1", {120, 120, 9855, 3855}, "Imposta il livello"),
+      Shape1(Frame1, "Shape1", {120, 480, 9615, 855}, Bordo, Rgb(0, 192, 0)),
+      Shape2(Frame1, "Shape2", {120, 1560, 9615, 855}, Bordo, Rgb(255, 128, 128)),
+      Shape3(Frame1, "Shape3", {120, 2640, 9615, 855}, Bordo, Rgb(0, 0, 255)),
+      Option1("Option1"),
+      Combo1(*this, "Combo1", {240, 5280, 3495, 330}),
+      Command1("Command1"),
+      Timer1(*this, "Timer1", Ritardo),
+      EssResizer1(*this),
+      servizi_(servizi) {
+    BackColor(Rgb(255, 255, 192));
+
+    mnuConfigura.Enabled(forms.Knows("FormConfigura"));
+    mnuConfigura.Click = [this] { mnuConfigura_Click(); };
+    mnuDocumentazione.Enabled(false);
+    mnuAbout.Enabled(forms.Knows("FormInfo"));
+    mnuAbout.Click = [this] { mnuAbout_Click(); };
+    mnuLanguages.Enabled(false);
+
+    Frame1.BackColor(Bianco);
+    Frame1.Font(Grande);
+    Frame1.MouseMove = [this] { Frame1_MouseMove(); };
+    DisponiLivelli();
+
+    // Tab goes as the eye does: levels, start, users, exit. From a level to the start it is one
+    // stroke.
+    Combo1.Font(Piccolo);
+    Combo1.AccessibleName("Utente");
+    Combo1.TabIndex(NumeroLivelli + 1);
+    Combo1.Click = [this] { Combo1_Click(); };
+    DisponiBottoni();
+
+    Timer1.Tick = [this] { Timer1_Timer(); };
+}
+
+void FormMenu::DisponiLivelli() {
+    for (const Fascia& fascia : Fasce) {
+        for (int livello = fascia.Primo; livello <= fascia.Ultimo; ++livello) {
+            const double left = PrimoLeft + PassoLeft * (livello - fascia.Primo);
+            OptionButton& opzione = Option1.Add(Frame1, Bounds{left, fascia.Top, 1000, 375},
+                                                std::to_string(livello + 1));
+            opzione.Font(Grande);
+            opzione.BackColor(Bianco);
+            opzione.ForeColor(fascia.Testo);
+            opzione.TabIndex(livello);
+            opzione.Click = [this, livello] { Option1_Click(livello); };
+            opzione.MouseMove = [this, livello] { Option1_MouseMove(livello); };
+        }
+    }
+    Option1(0).MouseIcon(FrecciaGrande());
+}
+
+void FormMenu::DisponiBottoni() {
+    for (const Bottone& disegno : Bottoni) {
+        const int indice = Command1.Count();
+        CommandButton& bottone = Command1.Add(*this, disegno.Posto);
+        bottone.Picture({disegno.Immagine});
+        bottone.AccessibleName(disegno.Nome);
+        bottone.TabIndex(disegno.Ordine);
+        bottone.MouseIcon(FrecciaGrande());
+        bottone.Click = [this, indice] { Command1_Click(indice); };
+        bottone.MouseMove = [this, indice] { Command1_MouseMove(indice); };
+    }
+}
+
+void FormMenu::Form_Load() {
+    EssResizer1.Carica();
+    Command1.ForEach([](CommandButton& bottone) { bottone.BackColor(GrigioChiaro); });
+    servizi_.Stato.TrameloDisegnato = false;
+}
+
+void FormMenu::Form_Resize() {
+    EssResizer1.Ridimensiona();
+}
+
+void FormMenu::Form_Activate() {
+    // The window comes to the front again after each message box.
+    if (!preparato_) {
+        Timer1.Enabled(true);
+    }
+}
+
+void FormMenu::Form_MouseMove() {
+    Command1.ForEach([](CommandButton& bottone) { Colora(bottone, GrigioChiaro); });
+}
+
+void FormMenu::Frame1_MouseMove() {
+    Form_MouseMove();
+    EvidenziaLivello();
+}
+
+void FormMenu::Option1_Click(int Index) {
+    servizi_.Stato.Livello = Saturated(Index);
+    ImpostaGriglia(servizi_.Stato);
+    EvidenziaLivello();
+}
+
+void FormMenu::Option1_MouseMove(int Index) {
+    Colora(Option1(Index), Arancione);
+}
+
+void FormMenu::Command1_Click(int Index) {
+    servizi_.ModuloPerIni.ScriviUtente();
+    if (!Loaded()) {
+        return;
+    }
+    if (Index == Inizio) {
+        AvviaGioco();
+    } else {
+        Forms().End();
+    }
+}
+
+void FormMenu::Command1_MouseMove(int Index) {
+    if (Command1(Index).BackColor() != Rosso) {
+        Form_MouseMove();
+        Command1(Index).BackColor(Rosso);
+    }
+}
+
+void FormMenu::Combo1_Click() {
+    // The settings still belong to the old user.
+    servizi_.ModuloPerIni.ScriviUtente();
+    if (!Loaded()) {
+        return;
+    }
+    Stato& stato = servizi_.Stato;
+    stato.NomeUtente = Combo1.Text();
+    stato.NomeGiocatore = stato.NomeUtente;
+    stato.FileUtente = ModuloPerIni::CartellaUtenti + stato.NomeUtente + ".ini";
+    servizi_.ModuloPerIni.LeggiUtente();
+    ImpostaUtente();
+}
+
+void FormMenu::Timer1_Timer() {
+    // The timer goes on while a message box is open in the middle of this routine.
+    if (preparato_) {
+        return;
+    }
+    preparato_ = true;
+
+    const Stato& stato = servizi_.Stato;
+    if (stato.ModoInput != 0) {
+        EscludiLivelliATempo();
+    }
+    // An option that is chosen already fires no event, but the grid's size must be right anyway.
+    Option1(stato.Livello).Value(true);
+    Option1_Click(stato.Livello);
+    ImpostaUtente();
+    ElencaUtenti();
+    ScegliUtente();
+    if (!Loaded()) {
+        return;
+    }
+    Timer1.Enabled(false);
+    // Where the keyboard starts: one stroke away from the neighbouring levels and from the start.
+    Option1(stato.Livello).SetFocus();
+}
+
+void FormMenu::mnuConfigura_Click() {
+    Cedi("FormConfigura");
+}
+
+void FormMenu::mnuAbout_Click() {
+    Cedi("FormInfo");
+}
+
+void FormMenu::ImpostaUtente() {
+    const Stato& stato = servizi_.Stato;
+    if (stato.UsaMaiuscolo) {
+        Frame1.Caption(Maiuscolo(Frame1.Caption()));
+        for (int i = 0; i < Combo1.ListCount(); ++i) {
+            Combo1.List(i, Maiuscolo(Combo1.List(i)));
+        }
+    }
+    // The buttons never get their pointer back while the window is open, only the options do.
+    if (stato.PuntatoreSistema) {
+        Command1.ForEach([](CommandButton& bottone) { bottone.MouseIcon(std::nullopt); });
+        Option1.ForEach([](OptionButton& opzione) { opzione.MouseIcon(std::nullopt); });
+    } else {
+        Option1.ForEach([](OptionButton& opzione) { opzione.MouseIcon(FrecciaGrande()); });
+    }
+    EvidenziaLivello();
+    Option1(stato.Livello).Value(true);
+}
+
+/// A symbol that walks by itself leaves no time for scanning. The levels stay out of reach until
+/// the window is made anew, whoever is chosen meanwhile.
+void FormMenu::EscludiLivelliATempo() {
+    Stato& stato = servizi_.Stato;
+    if (stato.Livello >= LivelliATempo.Primo && stato.Livello <= LivelliATempo.Ultimo) {
+        stato.Livello = Saturated(LivelliATempo.Primo - 1);
+    }
+    for (int livello = LivelliATempo.Primo; livello <= LivelliATempo.Ultimo; ++livello) {
+        Option1(livello).Enabled(false);
+    }
+    Shape2.BorderColor(Bianco);
+}
+
+void FormMenu::ElencaUtenti() {
+    const bool maiuscolo = servizi_.Stato.UsaMaiuscolo;
+    Combo1.Clear();
+    for (const std::string& nome : servizi_.FileSystem.List(ModuloPerIni::CartellaUtenti, ".ini")) {
+        const std::string utente = nome.substr(0, nome.size() - std::min(nome.size(), Estensione));
+        Combo1.AddItem(maiuscolo ? Maiuscolo(utente) : utente);
+    }
+    Combo1.Visible(Combo1.ListCount() >= 2);
+}
+
+/// Chooses the current user in the list, which saves the settings and reads them back. Both the
+/// name and the list can turn to capitals on the way.
+void FormMenu::ScegliUtente() {
+    for (int i = 0; Loaded() && i < Combo1.ListCount(); ++i) {
+        if (Maiuscolo(Combo1.List(i)) == Maiuscolo(servizi_.Stato.NomeUtente)) {
+            Combo1.ListIndex(i);
+        }
+    }
+}
+
+void FormMenu::EvidenziaLivello() {
+    const int scelto = servizi_.Stato.Livello;
+    for (int livello = 0; livello < Option1.Count(); ++livello) {
+        Colora(Option1(livello), livello == scelto ? Rosso : Bianco);
+    }
+}
+
+void FormMenu::AvviaGioco() {
+    // Whoever is faster than the timer has chosen no level yet.
+    ImpostaGriglia(servizi_.Stato);
+    const char* const form = FormDelLivello(servizi_.Stato.Livello);
+    if (Forms().Knows(form)) {
+        Cedi(form);
+    }
+}
+
+/// Hands over to another window.
+void FormMenu::Cedi(const char* form) {
+    Forms().Show(form);
+    Forms().Unload(*this);
+}
+
+}  // namespace trameli

@@ -1,0 +1,75 @@
+// The main menu.
+#pragma once
+
+#include "platform/combo_box.h"
+#include "platform/command_button.h"
+#include "platform/control_array.h"
+#include "platform/form.h"
+#include "platform/frame.h"
+#include "platform/menu.h"
+#include "platform/option_button.h"
+#include "platform/shape.h"
+#include "platform/timer.h"
+#include "scaling/ess_resizer.h"
+#include "shell/servizi.h"
+
+namespace trameli {
+
+/// The window that the player comes back to between everything else: choice of level and user,
+/// start and end. It is made anew whenever it is shown, and most of its set-up runs in a timer a
+/// moment after it has come up.
+class FormMenu : public Form {
+public:
+    FormMenu(trameli::Forms& forms, Servizi& servizi);
+
+    // The menu bar.
+    MenuItem mnuConfigura;
+    MenuItem mnuInformazioni;
+    MenuItem mnuDocumentazione;
+    MenuItem mnuAbout;
+    MenuItem mnuLanguages;
+
+    Frame Frame1;
+    Shape Shape1;
+    Shape Shape2;
+    Shape Shape3;
+    ControlArray<OptionButton> Option1;
+    ComboBox Combo1;
+    ControlArray<CommandButton> Command1;
+    Timer Timer1;
+    EssResizer EssResizer1;
+
+    /// Brings the controls into line with the settings.
+    void ImpostaUtente();
+
+protected:
+    void Form_Load() override;
+    void Form_Resize() override;
+    void Form_Activate() override;
+    void Form_MouseMove() override;
+
+private:
+    void Frame1_MouseMove();
+    void Option1_Click(int Index);
+    void Option1_MouseMove(int Index);
+    void Command1_Click(int Index);
+    void Command1_MouseMove(int Index);
+    void Combo1_Click();
+    void Timer1_Timer();
+    void mnuConfigura_Click();
+    void mnuAbout_Click();
+
+    void DisponiLivelli();
+    void DisponiBottoni();
+    void EscludiLivelliATempo();
+    void ElencaUtenti();
+    void ScegliUtente();
+    void EvidenziaLivello();
+    void AvviaGioco();
+    void Cedi(const char* form);
+
+    Servizi& servizi_;
+    bool preparato_ = false;  ///< the timer has run; it does so once per loading
+};
+
+}  // namespace trameli

@@ -1,0 +1,18 @@
+// The program's own mouse pointers.
+#pragma once
+
+#include "platform/picture.h"
+
+namespace trameli {
+
+/// The large arrow over the controls that matter.
+inline PointerImage FrecciaGrande() {
+    return {{"puntatori/freccia_grande.svg"}, 3, 1};
+}
+
+/// The program's icon; it has no tip and points with its middle.
+inline PointerImage PuntatoreIcona() {
+    return {{"icona/trameli.svg"}, 16, 16};
+}
+
+}  // namespace trameli
