@@ -27,7 +27,7 @@ public:
         double Height;
     };
 
-    Form(Forms& forms, std::string name, DesignSize size);
+    Form(trameli::Forms& forms, std::string name, DesignSize size);
     ~Form() override;
     Form(const Form&) = delete;
     Form& operator=(const Form&) = delete;
@@ -82,7 +82,7 @@ protected:
     [[nodiscard]] bool Attesa(double secondi);
 
 private:
-    friend class Control;
+    friend class trameli::Control;
     friend class trameli::Forms;
     friend struct Native;
 

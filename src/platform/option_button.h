@@ -8,8 +8,7 @@ namespace trameli {
 /// One choice among the option buttons of its container.
 class OptionButton : public VisualControl {
 public:
-    OptionButton(Container& container, ControlName name, const Bounds& bounds,
-                 std::string caption);
+    OptionButton(Container& container, ControlName name, const Bounds& bounds, std::string caption);
 
     const std::string& Caption() const { return caption_; }
     void Caption(const std::string& caption);

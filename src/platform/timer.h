@@ -7,7 +7,8 @@
 namespace trameli {
 
 /// Fires again and again at its interval while it is enabled and its form is loaded. Switching it
-/// on or changing the interval starts the interval anew.
+/// on or changing the interval starts the interval anew. It does not fire while its own routine is
+/// still under way, in a wait for instance.
 class Timer : public Control {
 public:
     /// interval in milliseconds; starts disabled.
@@ -25,6 +26,7 @@ private:
 
     int interval_;
     bool enabled_ = false;
+    bool ticking_ = false;
     std::unique_ptr<Clock::Ticker> ticker_;
 };
 

@@ -1,0 +1,34 @@
+// The real services of a desktop machine.
+#pragma once
+
+#include <memory>
+
+#include "platform/clock.h"
+#include "platform/dialogs.h"
+#include "platform/file_system.h"
+#include "platform/instances.h"
+#include "platform/screen.h"
+
+namespace trameli {
+
+/// The connection to the desktop, made once at the start of the process and kept to its end. It
+/// takes the arguments that belong to the window system out of the command line.
+class Desktop {
+public:
+    Desktop(int& argc, char** argv);
+    ~Desktop();
+    Desktop(const Desktop&) = delete;
+    Desktop& operator=(const Desktop&) = delete;
+
+    trameli::Clock& Clock() const;
+    trameli::Screen& Screen() const;
+    trameli::FileSystem& FileSystem() const;
+    trameli::Dialogs& Dialogs() const;
+    trameli::Instances& Instances() const;
+
+private:
+    struct Services;
+    std::unique_ptr<Services> services_;
+};
+
+}  // namespace trameli

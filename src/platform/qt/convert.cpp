@@ -1,0 +1,40 @@
+#include "platform/qt/convert.h"
+
+#include <QStringList>
+#include <algorithm>
+
+#include "base/rounding.h"
+
+namespace trameli {
+
+namespace {
+
+/// What takes the place of a family that is not installed.
+struct Substitute {
+    const char* Family;
+    const char* StandIn;
+};
+constexpr Substitute Substitutes[] = {
+    {"Comic Sans MS", "Comic Neue"},
+    {"Arial", "Liberation Sans"},
+};
+
+constexpr double TwipsPerPoint = 20;
+
+}  // namespace
+
+QFont ToQt(const Font& font, double twipsPerPixel) {
+    QStringList families{ToQt(font.Family)};
+    for (const Substitute& substitute : Substitutes) {
+        if (font.Family == substitute.Family) {
+            families << QString::fromLatin1(substitute.StandIn);
+        }
+    }
+    QFont result;
+    result.setFamilies(families);
+    result.setPixelSize(std::max(1, Nearest(font.Points * TwipsPerPoint / twipsPerPixel)));
+    result.setBold(font.Bold);
+    return result;
+}
+
+}  // namespace trameli

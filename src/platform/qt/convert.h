@@ -1,0 +1,29 @@
+// Between the layer's plain values and the toolkit's.
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QString>
+#include <string>
+
+#include "platform/colour.h"
+#include "platform/font.h"
+
+namespace trameli {
+
+inline QString ToQt(const std::string& text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+inline std::string FromQt(const QString& text) {
+    return text.toStdString();
+}
+
+inline QColor ToQt(Colour colour) {
+    return QColor(RedOf(colour), GreenOf(colour), BlueOf(colour));
+}
+
+/// A font's size follows the twips, so that a text keeps its proportion to its control.
+QFont ToQt(const Font& font, double twipsPerPixel);
+
+}  // namespace trameli

@@ -1,0 +1,136 @@
+#include "platform/desktop.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QIcon>
+#include <QMessageBox>
+#include <QScreen>
+#include <QStyle>
+#include <QTimer>
+#include <chrono>
+
+#include "platform/qt/convert.h"
+#include "platform/qt/desktop_services.h"
+#include "platform/qt/folder_lock.h"
+#include "platform/qt/graphics.h"
+#include "platform/qt/local_file_system.h"
+
+namespace trameli {
+
+namespace {
+
+class DesktopTicker final : public Clock::Ticker {
+public:
+    DesktopTicker(int milliseconds, std::function<void()> tick) : tick_(std::move(tick)) {
+        timer_.setTimerType(Qt::PreciseTimer);
+        QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] {
+            // The routine may stop this very timer.
+            const auto routine = tick_;
+            routine();
+        });
+        timer_.start(milliseconds);
+    }
+
+private:
+    std::function<void()> tick_;
+    QTimer timer_;
+};
+
+}  // namespace
+
+double DesktopClock::Now() const {
+    using namespace std::chrono;
+    return duration<double>(steady_clock::now().time_since_epoch()).count();
+}
+
+std::unique_ptr<Clock::Ticker> DesktopClock::Every(int milliseconds, std::function<void()> tick) {
+    return std::make_unique<DesktopTicker>(milliseconds, std::move(tick));
+}
+
+void DesktopClock::Wait(double seconds, const std::function<bool()>& over) {
+    const double end = Now() + seconds;
+    QTimer alarm;
+    alarm.setSingleShot(true);
+    alarm.setTimerType(Qt::PreciseTimer);
+    for (double left = seconds; left > 0 && !over(); left = end - Now()) {
+        alarm.start(static_cast<int>(left * 1000) + 1);
+        QEventLoop().processEvents(QEventLoop::WaitForMoreEvents);
+    }
+}
+
+PixelSize DesktopScreen::Size() const {
+    const QSize size = QGuiApplication::primaryScreen()->size();
+    return {size.width(), size.height()};
+}
+
+PixelSize DesktopScreen::Available() const {
+    const QSize size = QGuiApplication::primaryScreen()->availableGeometry().size();
+    return {size.width(), size.height()};
+}
+
+void DesktopDialogs::Critical(const std::string& text, const std::string& title) {
+    QMessageBox box(QMessageBox::Critical, ToQt(title), ToQt(text), QMessageBox::Ok,
+                    QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+void PrepareToolkit() {
+    // The forms bring their own colours; with a desktop's dark or coloured theme the texts in
+    // between could not be read.
+    QApplication::setStyle(QStringLiteral("fusion"));
+    QPalette palette(QColor(240, 240, 240), QColor(240, 240, 240));
+    palette.setColor(QPalette::Base, Qt::white);
+    QApplication::setPalette(palette);
+    // A program ends with its forms, not with the toolkit's windows.
+    QApplication::setQuitOnLastWindowClosed(false);
+    DescribeGraphics();
+}
+
+struct Desktop::Services {
+    Services(int& argc, char** argv)
+        : Application(argc, argv), Files(UserDataFolder()), Lock(UserDataFolder()) {}
+
+    QApplication Application;
+    DesktopClock Clock;
+    DesktopScreen Screen;
+    LocalFileSystem Files;
+    DesktopDialogs Dialogs;
+    FolderLock Lock;
+};
+
+Desktop::Desktop(int& argc, char** argv) {
+    QApplication::setApplicationName(QStringLiteral("trameli"));
+    QApplication::setDesktopFileName(QStringLiteral("trameli"));
+    services_ = std::make_unique<Services>(argc, argv);
+    PrepareToolkit();
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
+        icon.addFile(QStringLiteral(":/icona/trameli-%1.png").arg(size), QSize(size, size));
+    }
+    QApplication::setWindowIcon(icon);
+}
+
+Desktop::~Desktop() = default;
+
+Clock& Desktop::Clock() const {
+    return services_->Clock;
+}
+
+Screen& Desktop::Screen() const {
+    return services_->Screen;
+}
+
+FileSystem& Desktop::FileSystem() const {
+    return services_->Files;
+}
+
+Dialogs& Desktop::Dialogs() const {
+    return services_->Dialogs;
+}
+
+Instances& Desktop::Instances() const {
+    return services_->Lock;
+}
+
+}  // namespace trameli

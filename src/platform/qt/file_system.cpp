@@ -1,0 +1,259 @@
+#include <fcntl.h>
+#include <pwd.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QString>
+#include <QStringDecoder>
+#include <algorithm>
+#include <cstdlib>
+#include <map>
+
+#include "platform/qt/convert.h"
+#include "platform/qt/local_file_system.h"
+
+namespace fs = std::filesystem;
+
+namespace trameli {
+
+namespace {
+
+constexpr std::string_view Drive = "C:\\";
+
+/// Longest path on the disk that is tried; longer ones are refused by the system anyway.
+constexpr std::size_t LongestPath = 4000;
+
+bool IsUtf8(const std::string& text) {
+    QStringDecoder decoder(QStringDecoder::Utf8);
+    [[maybe_unused]] const QString decoded =
+        decoder.decode(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
+    return !decoder.hasError();
+}
+
+QString Folded(const std::string& name) {
+    return ToQt(name).toCaseFolded();
+}
+
+/// A part of a path that stays inside its folder on every file system.
+bool IsName(std::string_view part) {
+    return !part.empty() && part != "." && part != ".." &&
+           part.find_first_of(std::string_view("/\0", 2)) == std::string_view::npos;
+}
+
+/// The parts of a path behind the drive; nothing if one of them is not a name.
+std::optional<std::vector<std::string>> PartsOf(const std::string& path) {
+    const std::string_view drive = std::string_view(path).substr(0, Drive.size());
+    if (drive != Drive && drive != "c:\\") {
+        return std::nullopt;
+    }
+    std::vector<std::string> parts;
+    std::string_view rest = std::string_view(path).substr(Drive.size());
+    while (!rest.empty()) {
+        const std::size_t end = std::min(rest.find('\\'), rest.size());
+        if (!IsName(rest.substr(0, end))) {
+            return std::nullopt;
+        }
+        parts.emplace_back(rest.substr(0, end));
+        rest.remove_prefix(std::min(end + 1, rest.size()));
+    }
+    return parts;
+}
+
+/// The names in a folder that the program can name too, by their names without regard to case; of
+/// several the first in alphabetical order.
+std::map<QString, std::string> NamesIn(const fs::path& folder) {
+    std::map<QString, std::string> names;
+    std::error_code error;
+    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error)) {
+        std::string name = entry->path().filename().string();
+        if (!IsUtf8(name) || name.find('\\') != std::string::npos) {
+            continue;
+        }
+        const auto [place, isNew] = names.try_emplace(Folded(name), name);
+        if (!isNew && name < place->second) {
+            place->second = std::move(name);
+        }
+    }
+    return names;
+}
+
+/// The entry of that name in any case, else the name as it is.
+fs::path Within(const fs::path& folder, const std::string& name) {
+    const auto names = NamesIn(folder);
+    const auto found = names.find(Folded(name));
+    return folder / (found == names.end() ? name : found->second);
+}
+
+/// A file that is closed when it goes out of scope.
+class OpenFile {
+public:
+    OpenFile(const fs::path& path, int flags) : handle_(open(path.c_str(), flags, 0666)) {}
+    ~OpenFile() { Close(); }
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+
+    int Handle() const { return handle_; }
+    bool IsOpen() const { return handle_ >= 0; }
+    bool Close() {
+        const bool closed = handle_ >= 0 && close(handle_) == 0;
+        handle_ = -1;
+        return closed;
+    }
+
+private:
+    int handle_;
+};
+
+bool WriteAll(int handle, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t written = write(handle, bytes.data(), bytes.size());
+        if (written < 0) {
+            if (errno == EINTR) {
+                continue;
+            }
+            return false;
+        }
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return true;
+}
+
+}  // namespace
+
+std::optional<fs::path> LocalFileSystem::Find(const std::string& path) const {
+    const auto parts = PartsOf(path);
+    if (!parts) {
+        return std::nullopt;
+    }
+    fs::path place = root_;
+    for (const std::string& part : *parts) {
+        place = Within(place, part);
+        if (place.native().size() > LongestPath) {
+            return std::nullopt;
+        }
+    }
+    return place;
+}
+
+bool LocalFileSystem::FileExists(const std::string& path) const {
+    const auto place = Find(path);
+    std::error_code error;
+    return place && fs::is_regular_file(*place, error);
+}
+
+bool LocalFileSystem::FolderExists(const std::string& path) const {
+    const auto place = Find(path);
+    std::error_code error;
+    return place && fs::is_directory(*place, error);
+}
+
+bool LocalFileSystem::CreateFolder(const std::string& path) {
+    const auto place = Find(path);
+    if (!place) {
+        return false;
+    }
+    std::error_code error;
+    fs::create_directories(*place, error);
+    return fs::is_directory(*place, error);
+}
+
+std::optional<std::string> LocalFileSystem::Read(const std::string& path, std::size_t limit) const {
+    const auto place = Find(path);
+    if (!place) {
+        return std::nullopt;
+    }
+    // A pipe of that name must not hold the program up.
+    const OpenFile file(*place, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    struct stat state {};
+    if (!file.IsOpen() || fstat(file.Handle(), &state) != 0 || !S_ISREG(state.st_mode)) {
+        return std::nullopt;
+    }
+    std::string bytes(limit, '\0');
+    std::size_t length = 0;
+    while (length < limit) {
+        const ssize_t count = read(file.Handle(), bytes.data() + length, limit - length);
+        if (count < 0 && errno == EINTR) {
+            continue;
+        }
+        if (count < 0) {
+            return std::nullopt;
+        }
+        if (count == 0) {
+            break;
+        }
+        length += static_cast<std::size_t>(count);
+    }
+    bytes.resize(length);
+    return bytes;
+}
+
+bool LocalFileSystem::Replace(const std::string& path, const std::string& bytes) {
+    auto place = Find(path);
+    if (!place) {
+        return false;
+    }
+    std::error_code error;
+    if (fs::is_symlink(*place, error)) {
+        // What the link points to is replaced, not the link.
+        place = fs::weakly_canonical(*place, error);
+        if (error) {
+            return false;
+        }
+    }
+    if (fs::exists(*place, error)) {
+        // A file that somebody made read-only stays as it is.
+        if (!fs::is_regular_file(*place, error) || access(place->c_str(), W_OK) != 0) {
+            return false;
+        }
+    }
+    // Always the same name beside the file: what a crash left there is written over.
+    const fs::path beside = place->parent_path() / ("." + place->filename().string() + ".new");
+    OpenFile file(beside, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
+    const bool written = file.IsOpen() && WriteAll(file.Handle(), bytes) &&
+                         fsync(file.Handle()) == 0 && file.Close() &&
+                         rename(beside.c_str(), place->c_str()) == 0;
+    if (!written) {
+        unlink(beside.c_str());
+        return false;
+    }
+    // The new name itself has to reach the disk too; not every file system can be asked for that.
+    const OpenFile folder(place->parent_path(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (folder.IsOpen()) {
+        fsync(folder.Handle());
+    }
+    return true;
+}
+
+std::vector<std::string> LocalFileSystem::List(const std::string& folder,
+                                               const std::string& ending) const {
+    std::vector<std::string> names;
+    if (const auto place = Find(folder)) {
+        for (const auto& [folded, name] : NamesIn(*place)) {
+            if (folded.endsWith(Folded(ending))) {
+                names.push_back(name);
+            }
+        }
+    }
+    return names;
+}
+
+std::string LocalFileSystem::OnThisMachine(const std::string& path) const {
+    const auto place = Find(path);
+    return place ? place->string() : path;
+}
+
+fs::path UserDataFolder() {
+    const char* data = std::getenv("XDG_DATA_HOME");
+    if (data && fs::path(data).is_absolute()) {
+        return fs::path(data) / "trameli";
+    }
+    const char* home = std::getenv("HOME");
+    if (!home || !*home) {
+        const passwd* user = getpwuid(getuid());
+        home = user ? user->pw_dir : "/";
+    }
+    return fs::path(home) / ".local" / "share" / "trameli";
+}
+
+}  // namespace trameli

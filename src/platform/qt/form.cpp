@@ -1,0 +1,91 @@
+#include "platform/form.h"
+
+#include "base/rounding.h"
+#include "platform/forms.h"
+#include "platform/qt/convert.h"
+#include "platform/qt/form_window.h"
+#include "platform/qt/graphics.h"
+#include "platform/qt/native.h"
+#include "platform/qt/surface_native.h"
+
+namespace trameli {
+
+Form::Form(trameli::Forms& forms, std::string name, DesignSize size)
+    : forms_(forms), name_(std::move(name)) {
+    const double twips = forms.Screen().TwipsPerPixelX();
+    native_ = std::make_unique<Native>(
+        *this, QSize(Nearest(size.Width / twips), Nearest(size.Height / twips)));
+}
+
+Form::~Form() = default;
+
+bool Form::Loaded() const {
+    return loaded_ && !forms_.Ended();
+}
+
+double Form::Width() const {
+    return native_->Window.Client().width() * TwipsPerPixel(*this);
+}
+
+double Form::Height() const {
+    return native_->Window.Client().height() * TwipsPerPixel(*this);
+}
+
+void Form::Caption(const std::string& caption) {
+    caption_ = caption;
+    native_->Window.setWindowTitle(ToQt(caption));
+}
+
+void Form::BackColor(Colour colour) {
+    backColor_ = colour;
+    if (native_->Canvas) {
+        native_->Canvas->SurfaceNative().Background(colour);
+    }
+    native_->Window.Client().update();
+}
+
+void Form::MouseIcon(std::optional<PointerImage> icon) {
+    mouseIcon_ = std::move(icon);
+    SetPointer(native_->Window.Client(), mouseIcon_);
+}
+
+Surface& Form::Canvas() {
+    if (!native_->Canvas) {
+        ClientArea& client = native_->Window.Client();
+        native_->Canvas = std::make_unique<Surface>();
+        auto& surface = native_->Canvas->SurfaceNative();
+        surface.Changed = [&client](const QRect& where) { client.update(where); };
+        surface.Setup(TwipsPerPixel(*this), backColor_);
+        surface.Resize(client.size(), client.devicePixelRatioF());
+    }
+    return *native_->Canvas;
+}
+
+Container::Native Form::ContainerNative() {
+    return {&native_->Window.Client()};
+}
+
+void Form::Form_KeyUp(int /*keyCode*/, int /*shift*/) {}
+
+bool Form::Attesa(double secondi) {
+    forms_.Clock().Wait(secondi, [this] { return !Loaded(); });
+    return Loaded();
+}
+
+void Form::Native::Resize(Form& form) {
+    form.Form_Resize();
+}
+
+void Form::Native::Activate(Form& form) {
+    form.Form_Activate();
+}
+
+void Form::Native::KeyReleased(Form& form, int keyCode, int shift) {
+    form.Form_KeyUp(keyCode, shift);
+}
+
+void Form::Native::MouseMoved(Form& form) {
+    form.Form_MouseMove();
+}
+
+}  // namespace trameli

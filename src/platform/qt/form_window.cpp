@@ -1,0 +1,227 @@
+#include "platform/qt/form_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QPainter>
+#include <QScreen>
+#include <QWindow>
+#include <algorithm>
+
+#include "platform/forms.h"
+#include "platform/qt/convert.h"
+#include "platform/qt/native.h"
+#include "platform/qt/surface_native.h"
+
+namespace trameli {
+
+namespace {
+
+/// How long a window's size must stay the same to count as final where nothing else tells, in
+/// milliseconds. Only a desktop without window frames needs it.
+constexpr int SettlingTime = 100;
+
+constexpr Qt::WindowFlags FrameWithoutSizeButtons = Qt::Window | Qt::CustomizeWindowHint |
+                                                    Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                                                    Qt::WindowCloseButtonHint;
+
+}  // namespace
+
+ClientArea::ClientArea(Form& form, QWidget* parent) : QWidget(parent), form_(form) {
+    setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void ClientArea::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    if (const auto& canvas = form_.NativePart().Canvas) {
+        canvas->SurfaceNative().Paint(painter, event->rect());
+    } else {
+        painter.fillRect(event->rect(), ToQt(form_.BackColor()));
+    }
+}
+
+void ClientArea::resizeEvent(QResizeEvent*) {
+    if (const auto& canvas = form_.NativePart().Canvas) {
+        canvas->SurfaceNative().Resize(size(), devicePixelRatioF());
+    }
+    form_.Forms().Dispatch(form_, [this] { Form::Native::Resize(form_); });
+}
+
+void ClientArea::mouseMoveEvent(QMouseEvent*) {
+    form_.Forms().Dispatch(form_, [this] { Form::Native::MouseMoved(form_); });
+}
+
+FormWindow::FormWindow(Form& form, QSize clientSize)
+    : form_(form), client_(*new ClientArea(form, this)) {
+    setWindowFlags(FrameWithoutSizeButtons);
+    setAccessibleName(ToQt(form.Name()));
+    setCentralWidget(&client_);
+    client_.resize(clientSize);
+    settling_.setSingleShot(true);
+    settling_.setInterval(SettlingTime);
+    connect(&settling_, &QTimer::timeout, this, [this] { Activate(); });
+}
+
+void FormWindow::Present() {
+    if (isVisible()) {
+        raise();
+        activateWindow();
+        return;
+    }
+    OrderTabs();
+    const Screen& screen = form_.Forms().Screen();
+    const PixelSize size = screen.Available();
+    // The size comes first and the wish to be maximised after it, so that the window fills the
+    // screen also where no window manager hears of the wish.
+    if (screen.HasDesktop()) {
+        move(QGuiApplication::primaryScreen()->availableGeometry().topLeft());
+    }
+    resize(size.Width, size.Height);
+    if (screen.HasDesktop()) {
+        setWindowState(Qt::WindowMaximized);
+    }
+    winId();  // makes the window, whose keys are filtered
+    windowHandle()->installEventFilter(this);
+    show();
+    Settle();
+}
+
+void FormWindow::Dismiss() {
+    settling_.stop();
+    hide();
+}
+
+bool FormWindow::event(QEvent* event) {
+    switch (event->type()) {
+        case QEvent::WindowActivate:
+            if (frontAnnounced_ && activated_) {
+                // Later, because the desktop's event is not over yet and the routine may wait.
+                QMetaObject::invokeMethod(
+                    this,
+                    [this] {
+                        form_.Forms().Dispatch(form_, [this] { Form::Native::Activate(form_); });
+                    },
+                    Qt::QueuedConnection);
+            }
+            frontAnnounced_ = true;
+            break;
+        case QEvent::WindowDeactivate:
+            keys_.Forget();
+            break;
+        case QEvent::Resize:
+            if (!activated_ && isVisible()) {
+                const bool handled = QMainWindow::event(event);
+                Settle();
+                return handled;
+            }
+            break;
+        default:
+            break;
+    }
+    return QMainWindow::event(event);
+}
+
+bool FormWindow::eventFilter(QObject* object, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+            if (FilterKey(*static_cast<QKeyEvent*>(event))) {
+                return true;
+            }
+            break;
+        case QEvent::Expose:
+            if (!activated_) {
+                // After the window has dealt with it.
+                QMetaObject::invokeMethod(
+                    this, [this] { Settle(); }, Qt::QueuedConnection);
+            }
+            break;
+        default:
+            break;
+    }
+    return QMainWindow::eventFilter(object, event);
+}
+
+/// True if the key goes no further.
+bool FormWindow::FilterKey(QKeyEvent& event) {
+    if (event.type() == QEvent::KeyPress) {
+        keys_.Press(event);
+        return false;
+    }
+    if (QApplication::activePopupWidget()) {
+        return false;
+    }
+    if (!keys_.Release(event)) {
+        return true;
+    }
+    const int keyCode = KeyCodeOf(event);
+    const int shift = ShiftBitsOf(event);
+    form_.Forms().Dispatch(form_, [&] { Form::Native::KeyReleased(form_, keyCode, shift); });
+    return !form_.Loaded();
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    if (form_.Loaded()) {
+        form_.Forms().Unload(form_);
+    }
+}
+
+/// Called whenever something has happened to a window that was not activated yet.
+void FormWindow::Settle() {
+    if (activated_ || !isVisible() || !windowHandle()->isExposed()) {
+        return;
+    }
+    if (HasFinalSize()) {
+        settling_.stop();
+        QMetaObject::invokeMethod(
+            this, [this] { Activate(); }, Qt::QueuedConnection);
+    } else {
+        settling_.start();
+    }
+}
+
+/// True if it is sure that the desktop will not size the window once more.
+bool FormWindow::HasFinalSize() const {
+    // X11 alone tells of a size before the window manager has had its say; there the frame that it
+    // put round the window shows that it has.
+    if (QGuiApplication::platformName() != QLatin1String("xcb")) {
+        return true;
+    }
+    const QRect available = windowHandle()->screen()->availableGeometry();
+    const QRect outside = windowHandle()->frameGeometry();
+    return !windowHandle()->frameMargins().isNull() && outside.size() == available.size();
+}
+
+void FormWindow::Activate() {
+    if (activated_ || !form_.Loaded()) {
+        return;
+    }
+    activated_ = true;
+    settling_.stop();
+    form_.Forms().Dispatch(form_, [this] { Form::Native::Activate(form_); });
+}
+
+void FormWindow::OrderTabs() {
+    std::vector<const VisualControl*> controls;
+    for (const Control* control : form_.Controls()) {
+        if (const auto* visual = dynamic_cast<const VisualControl*>(control)) {
+            controls.push_back(visual);
+        }
+    }
+    std::stable_sort(controls.begin(), controls.end(),
+                     [](const auto* a, const auto* b) { return a->TabIndex() < b->TabIndex(); });
+    for (std::size_t i = 1; i < controls.size(); ++i) {
+        setTabOrder(controls[i - 1]->NativePart().Widget, controls[i]->NativePart().Widget);
+    }
+    for (const VisualControl* control : controls) {
+        QWidget* widget = control->NativePart().Widget;
+        if (widget->focusPolicy() != Qt::NoFocus && control->Visible() && control->Enabled()) {
+            widget->setFocus();
+            break;
+        }
+    }
+}
+
+}  // namespace trameli

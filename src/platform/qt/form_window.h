@@ -1,0 +1,72 @@
+// The window of a form.
+#pragma once
+
+#include <QMainWindow>
+#include <QTimer>
+
+#include "platform/form.h"
+#include "platform/qt/key_gate.h"
+
+namespace trameli {
+
+/// The area below the menu bar: it carries the form's controls and shows the form's own drawing.
+class ClientArea : public QWidget {
+public:
+    ClientArea(Form& form, QWidget* parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+
+private:
+    Form& form_;
+};
+
+/// A form's window on the screen. It tells the form of its size, of keys, of its coming to the
+/// front and of being closed.
+class FormWindow : public QMainWindow {
+public:
+    FormWindow(Form& form, QSize clientSize);
+
+    ClientArea& Client() { return client_; }
+    /// Shows the window as large as the screen allows, or brings it to the front.
+    void Present();
+    /// Takes the window from the screen for good.
+    void Dismiss();
+
+protected:
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    bool FilterKey(QKeyEvent& event);
+    void Settle();
+    bool HasFinalSize() const;
+    void Activate();
+    void OrderTabs();
+
+    Form& form_;
+    ClientArea& client_;
+    KeyGate keys_;
+    QTimer settling_;
+    bool activated_ = false;       // Form_Activate has come once
+    bool frontAnnounced_ = false;  // the desktop has said once that the window is in front
+};
+
+/// The toolkit's side of a form.
+struct Form::Native {
+    Native(Form& form, QSize clientSize) : Window(form, clientSize) {}
+
+    FormWindow Window;
+    std::unique_ptr<Surface> Canvas;
+
+    // The event routines of a form are its own; its window reaches them through here.
+    static void Resize(Form& form);
+    static void Activate(Form& form);
+    static void KeyReleased(Form& form, int keyCode, int shift);
+    static void MouseMoved(Form& form);
+};
+
+}  // namespace trameli

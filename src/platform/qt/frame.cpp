@@ -1,0 +1,66 @@
+#include "platform/frame.h"
+
+#include <QGroupBox>
+#include <QPainter>
+#include <algorithm>
+
+#include "platform/qt/convert.h"
+#include "platform/qt/native.h"
+
+namespace trameli {
+
+namespace {
+
+class FrameWidget : public QGroupBox {
+public:
+    explicit FrameWidget(QWidget* parent) : QGroupBox(parent) {
+        setAttribute(Qt::WA_OpaquePaintEvent);
+    }
+
+    bool Border = true;
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        const QColor back = palette().color(QPalette::Window);
+        painter.fillRect(rect(), back);
+        if (!Border) {
+            return;
+        }
+        const int line = fontMetrics().height() / 2;
+        painter.setPen(back.darker(150));
+        painter.drawRect(rect().adjusted(0, line, -1, -1));
+        if (title().isEmpty()) {
+            return;
+        }
+        const int blank = fontMetrics().horizontalAdvance(QLatin1Char(' '));
+        const QRect caption(3 * blank, 0, fontMetrics().horizontalAdvance(title()) + 2 * blank,
+                            fontMetrics().height());
+        painter.fillRect(caption, back);
+        painter.setPen(palette().color(QPalette::WindowText));
+        painter.drawText(caption, Qt::AlignCenter, title());
+    }
+};
+
+}  // namespace
+
+Frame::Frame(Container& container, ControlName name, const Bounds& bounds, std::string caption)
+    : VisualControl(container, std::move(name), bounds, MakeNative<FrameWidget>(container)) {
+    Caption(caption);
+}
+
+void Frame::Caption(const std::string& caption) {
+    caption_ = caption;
+    WidgetOf<FrameWidget>(*this).setTitle(ToQt(caption));
+}
+
+void Frame::Border(bool border) {
+    WidgetOf<FrameWidget>(*this).Border = border;
+    WidgetOf<FrameWidget>(*this).update();
+}
+
+Container::Native Frame::ContainerNative() {
+    return {VisualControl::NativePart().Widget};
+}
+
+}  // namespace trameli

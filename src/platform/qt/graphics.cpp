@@ -1,0 +1,78 @@
+#include "platform/qt/graphics.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QCursor>
+#include <QPainter>
+
+#include "platform/qt/convert.h"
+
+namespace trameli {
+
+namespace {
+
+constexpr int PointerSize = 32;  // pixels, each way
+
+QString PathOf(const Picture& picture) {
+    return QStringLiteral(":/") + ToQt(picture.Name);
+}
+
+QPixmap Rendered(QSvgRenderer& renderer, const QSize& size, double devicePixelRatio) {
+    QPixmap pixmap((QSizeF(size) * devicePixelRatio).toSize());
+    pixmap.setDevicePixelRatio(devicePixelRatio);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    renderer.render(&painter, QRectF(QPointF(0, 0), QSizeF(size)));
+    return pixmap;
+}
+
+}  // namespace
+
+void ShownPicture::Set(const Picture& picture) {
+    picture_ = picture;
+    renderer_.reset();
+    drawn_ = QPixmap();
+}
+
+QSize ShownPicture::OwnSize() {
+    return Empty() ? QSize(0, 0) : Renderer().defaultSize();
+}
+
+void ShownPicture::Paint(QPainter& painter, const QRect& target, double devicePixelRatio) {
+    if (Empty() || target.isEmpty()) {
+        return;
+    }
+    const QSize wanted = (QSizeF(target.size()) * devicePixelRatio).toSize();
+    if (drawn_.size() != wanted) {
+        Renderer().setAspectRatioMode(Qt::IgnoreAspectRatio);
+        drawn_ = Rendered(Renderer(), target.size(), devicePixelRatio);
+    }
+    painter.drawPixmap(target.topLeft(), drawn_);
+}
+
+QSvgRenderer& ShownPicture::Renderer() {
+    if (!renderer_) {
+        renderer_ = std::make_unique<QSvgRenderer>(PathOf(picture_));
+    }
+    return *renderer_;
+}
+
+void SetPointer(QWidget& widget, const std::optional<PointerImage>& icon) {
+    if (!icon) {
+        widget.unsetCursor();
+        return;
+    }
+    QSvgRenderer renderer(PathOf(icon->Image));
+    const QPixmap image =
+        Rendered(renderer, QSize(PointerSize, PointerSize), widget.devicePixelRatioF());
+    widget.setCursor(QCursor(image, icon->HotX, icon->HotY));
+}
+
+void DescribeGraphics() {
+    QAccessible::installFactory([](const QString&, QObject* object) -> QAccessibleInterface* {
+        auto* graphic = dynamic_cast<GraphicWidget*>(object);
+        return graphic ? new QAccessibleWidget(graphic, QAccessible::Graphic) : nullptr;
+    });
+}
+
+}  // namespace trameli

@@ -1,0 +1,46 @@
+// Pictures and pointers as the toolkit shows them.
+#pragma once
+
+#include <QPixmap>
+#include <QSvgRenderer>
+#include <QWidget>
+#include <memory>
+#include <optional>
+
+#include "platform/picture.h"
+
+namespace trameli {
+
+/// A picture that is loaded when it is first drawn, and kept at the size it was drawn in last.
+class ShownPicture {
+public:
+    void Set(const Picture& picture);
+    bool Empty() const { return picture_.Name.empty(); }
+
+    /// The size it was drawn in by its maker, in pixels; 0 x 0 if it cannot be loaded.
+    QSize OwnSize();
+
+    /// Paints it into `target`, stretched.
+    void Paint(QPainter& painter, const QRect& target, double devicePixelRatio);
+
+private:
+    QSvgRenderer& Renderer();
+
+    Picture picture_;
+    std::unique_ptr<QSvgRenderer> renderer_;
+    QPixmap drawn_;
+};
+
+/// Gives a widget a pointer of its own, or the system's.
+void SetPointer(QWidget& widget, const std::optional<PointerImage>& icon);
+
+/// A widget that shows something drawn: for assistive technology it is a graphic.
+class GraphicWidget : public QWidget {
+public:
+    using QWidget::QWidget;
+};
+
+/// Makes assistive technology see graphics as such; called once at the start of the process.
+void DescribeGraphics();
+
+}  // namespace trameli

@@ -1,0 +1,30 @@
+// Which keys reach a form.
+#pragma once
+
+#include <QKeyEvent>
+#include <QSet>
+#include <functional>
+
+namespace trameli {
+
+/// The code of a key in the layer's terms; 0 for a key that has none.
+int KeyCodeOf(const QKeyEvent& event);
+int ShiftBitsOf(const QKeyEvent& event);
+
+/// Stands between a window and its keys. Lets a release through only if its press came here too:
+/// not the releases that auto-repeat makes up, nor one whose press chose a menu entry, closed a
+/// message box, or belonged to another window.
+class KeyGate {
+public:
+    /// Takes note of a press. Presses while a menu is open are the menu's.
+    void Press(const QKeyEvent& event);
+    /// True if this release belongs to a press that was noted.
+    bool Release(const QKeyEvent& event);
+    /// The window lost the keyboard: releases go elsewhere from now on.
+    void Forget() { pressed_.clear(); }
+
+private:
+    QSet<quint64> pressed_;
+};
+
+}  // namespace trameli

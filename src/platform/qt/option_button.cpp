@@ -1,0 +1,101 @@
+#include "platform/option_button.h"
+
+#include <QPainter>
+#include <QRadioButton>
+#include <algorithm>
+
+#include "base/rounding.h"
+#include "platform/qt/convert.h"
+#include "platform/qt/key_press.h"
+#include "platform/qt/native.h"
+
+namespace trameli {
+
+namespace {
+
+/// Drawn here and not by the style, so that the circle grows with the font.
+class OptionWidget : public QRadioButton {
+public:
+    explicit OptionWidget(QWidget* parent) : QRadioButton(parent) {
+        setFocusPolicy(Qt::StrongFocus);
+    }
+
+protected:
+    bool hitButton(const QPoint& position) const override { return rect().contains(position); }
+
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.fillRect(rect(), palette().color(QPalette::Window));
+        const QColor ink = palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled,
+                                           QPalette::WindowText);
+        const int size = std::min(height() - 4, Nearest(fontMetrics().height() * 0.8));
+        const QRectF circle(size * 0.3, (height() - size) / 2.0, size, size);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(ink, std::max(1.0, size / 12.0)));
+        painter.setBrush(Qt::white);
+        painter.drawEllipse(circle);
+        if (isChecked()) {
+            const double ring = size * 0.25;
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(ink);
+            painter.drawEllipse(circle.adjusted(ring, ring, -ring, -ring));
+        }
+        const QRect room = rect().adjusted(Nearest(size * 1.7), 0, 0, 0);
+        painter.setPen(ink);
+        painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, text());
+        if (hasFocus()) {
+            painter.setRenderHint(QPainter::Antialiasing, false);
+            painter.setPen(QPen(QColor(0, 0, 128), 2));
+            painter.setBrush(Qt::NoBrush);
+            painter.drawRect(rect().adjusted(1, 1, -1, -1));
+        }
+    }
+
+    void keyPressEvent(QKeyEvent* event) override {
+        if (!keys_.Pressed(*event, *this)) {
+            QRadioButton::keyPressEvent(event);
+        }
+    }
+    void keyReleaseEvent(QKeyEvent* event) override {
+        if (keys_.Released(*event, *this)) {
+            click();
+        } else {
+            event->accept();
+        }
+    }
+    void focusOutEvent(QFocusEvent* event) override {
+        keys_.Forget(*this);
+        QRadioButton::focusOutEvent(event);
+    }
+
+private:
+    KeyPressOnRelease keys_;
+};
+
+}  // namespace
+
+OptionButton::OptionButton(Container& container, ControlName name, const Bounds& bounds,
+                           std::string caption)
+    : VisualControl(container, std::move(name), bounds, MakeNative<OptionWidget>(container)) {
+    QObject::connect(&WidgetOf<OptionWidget>(*this), &QRadioButton::toggled, [this](bool chosen) {
+        if (chosen) {
+            Fire(*this, Click);
+        }
+    });
+    Caption(caption);
+}
+
+void OptionButton::Caption(const std::string& caption) {
+    caption_ = caption;
+    WidgetOf<OptionWidget>(*this).setText(ToQt(caption));
+}
+
+bool OptionButton::Value() const {
+    return WidgetOf<OptionWidget>(*this).isChecked();
+}
+
+void OptionButton::Value(bool chosen) {
+    WidgetOf<OptionWidget>(*this).setChecked(chosen);
+}
+
+}  // namespace trameli

@@ -1,0 +1,84 @@
+#include "platform/picture_box.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+
+#include "platform/qt/convert.h"
+#include "platform/qt/graphics.h"
+#include "platform/qt/native.h"
+#include "platform/qt/surface_native.h"
+
+namespace trameli {
+
+namespace {
+
+class PictureBoxWidget : public GraphicWidget {
+public:
+    explicit PictureBoxWidget(QWidget* parent) : GraphicWidget(parent) {
+        setAttribute(Qt::WA_OpaquePaintEvent);
+        setFocusPolicy(Qt::StrongFocus);
+    }
+
+    /// The surface of the control; the control makes it after its widget.
+    Surface::Native* Drawn = nullptr;
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        QPainter painter(this);
+        Drawn->Paint(painter, event->rect());
+    }
+    void resizeEvent(QResizeEvent*) override {
+        if (Drawn) {
+            Drawn->Resize(size(), devicePixelRatioF());
+        }
+    }
+};
+
+}  // namespace
+
+PictureBox::PictureBox(Container& container, ControlName name, const Bounds& bounds)
+    : VisualControl(container, std::move(name), bounds, MakeNative<PictureBoxWidget>(container)),
+      container_(container) {
+    auto& widget = WidgetOf<PictureBoxWidget>(*this);
+    widget.Drawn = &SurfaceNative();
+    SurfaceNative().Changed = [&widget](const QRect& where) { widget.update(where); };
+    SurfaceNative().Setup(TwipsPerPixel(OwnerForm()), BackColor());
+    SurfaceNative().Resize(widget.size(), widget.devicePixelRatioF());
+}
+
+PictureBox::PictureBox(PictureBox& model, int index)
+    : PictureBox(model.container_, {model.Name(), index}, model.Place()) {
+    Visible(false);
+    BackColor(model.BackColor());
+    Picture(model.picture_);
+}
+
+void PictureBox::BackColor(Colour colour) {
+    VisualControl::BackColor(colour);
+    SurfaceNative().Background(colour);
+}
+
+void PictureBox::Picture(const trameli::Picture& picture) {
+    picture_ = picture;
+    ShownPicture shown;
+    shown.Set(picture);
+    const QSize size = shown.OwnSize();
+    QImage image;
+    if (!size.isEmpty()) {
+        const double ratio = WidgetOf<PictureBoxWidget>(*this).devicePixelRatioF();
+        image = QImage((QSizeF(size) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        image.setDevicePixelRatio(ratio);
+        QPainter painter(&image);
+        shown.Paint(painter, QRect(QPoint(0, 0), size), ratio);
+        painter.end();
+        image.setDevicePixelRatio(1);
+    }
+    SurfaceNative().Backdrop(std::move(image));
+}
+
+Container::Native PictureBox::ContainerNative() {
+    return {VisualControl::NativePart().Widget};
+}
+
+}  // namespace trameli

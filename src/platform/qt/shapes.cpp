@@ -1,0 +1,110 @@
+#include <QPainter>
+#include <algorithm>
+
+#include "base/rounding.h"
+#include "platform/line.h"
+#include "platform/qt/convert.h"
+#include "platform/qt/native.h"
+#include "platform/shape.h"
+
+namespace trameli {
+
+namespace {
+
+/// Something drawn that the mouse goes through, behind its siblings.
+class DrawnWidget : public QWidget {
+public:
+    explicit DrawnWidget(QWidget* parent) : QWidget(parent) {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+    }
+
+    QColor Ink;
+    int PenWidth = 1;  // pixels
+};
+
+class ShapeWidget : public DrawnWidget {
+    using DrawnWidget::DrawnWidget;
+
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        const int w = PenWidth;
+        painter.fillRect(0, 0, width(), w, Ink);
+        painter.fillRect(0, height() - w, width(), w, Ink);
+        painter.fillRect(0, 0, w, height(), Ink);
+        painter.fillRect(width() - w, 0, w, height(), Ink);
+    }
+};
+
+class LineWidget : public DrawnWidget {
+    using DrawnWidget::DrawnWidget;
+
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.setPen(QPen(Ink, PenWidth, Qt::SolidLine, Qt::RoundCap));
+        painter.drawLine(From, To);
+    }
+
+public:
+    QPointF From;
+    QPointF To;
+};
+
+}  // namespace
+
+Shape::Shape(Container& container, ControlName name, const Bounds& bounds, int borderWidth,
+             Colour borderColor)
+    : VisualControl(container, std::move(name), bounds, MakeNative<ShapeWidget>(container)) {
+    constexpr double usualTwips = 15;
+    auto& widget = WidgetOf<ShapeWidget>(*this);
+    widget.PenWidth = std::max(1, Nearest(borderWidth * usualTwips / TwipsPerPixel(OwnerForm())));
+    widget.lower();
+    BorderColor(borderColor);
+}
+
+void Shape::BorderColor(Colour colour) {
+    borderColor_ = colour;
+    WidgetOf<ShapeWidget>(*this).Ink = ToQt(colour);
+    WidgetOf<ShapeWidget>(*this).update();
+}
+
+Line::Line(Container& container, ControlName name, double x1, double y1, double x2, double y2,
+           int borderWidth, Colour borderColor)
+    : VisualControl(container, std::move(name), {}, MakeNative<LineWidget>(container)),
+      ends_{x1, y1, x2, y2},
+      borderWidth_(borderWidth) {
+    WidgetOf<LineWidget>(*this).lower();
+    BorderColor(borderColor);
+    Lay();
+}
+
+void Line::Ends(double x1, double y1, double x2, double y2) {
+    ends_ = {x1, y1, x2, y2};
+    Lay();
+}
+
+void Line::BorderWidth(int pixels) {
+    borderWidth_ = std::max(1, pixels);
+    Lay();
+}
+
+void Line::BorderColor(Colour colour) {
+    borderColor_ = colour;
+    WidgetOf<LineWidget>(*this).Ink = ToQt(colour);
+    WidgetOf<LineWidget>(*this).update();
+}
+
+/// Sizes the widget so that the line fits into it with its full thickness.
+void Line::Lay() {
+    const double twips = TwipsPerPixel(OwnerForm());
+    const double room = borderWidth_ * twips;
+    const double left = std::min(X1(), X2()) - room;
+    const double top = std::min(Y1(), Y2()) - room;
+    Place({left, top, std::abs(X2() - X1()) + 2 * room, std::abs(Y2() - Y1()) + 2 * room});
+    auto& widget = WidgetOf<LineWidget>(*this);
+    widget.PenWidth = borderWidth_;
+    widget.From = QPointF(X1() - left, Y1() - top) / twips;
+    widget.To = QPointF(X2() - left, Y2() - top) / twips;
+    widget.update();
+}
+
+}  // namespace trameli

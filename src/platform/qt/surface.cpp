@@ -1,0 +1,166 @@
+#include "platform/surface.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "base/rounding.h"
+#include "platform/qt/surface_native.h"
+
+namespace trameli {
+
+namespace {
+
+std::uint32_t PixelOf(Colour colour) {
+    return 0xFF000000U | static_cast<std::uint32_t>(RedOf(colour)) << 16 |
+           static_cast<std::uint32_t>(GreenOf(colour)) << 8 |
+           static_cast<std::uint32_t>(BlueOf(colour));
+}
+
+}  // namespace
+
+Surface::Surface() : native_(std::make_unique<Native>()) {}
+
+Surface::~Surface() = default;
+
+void Surface::DrawLine(double x1, double y1, double x2, double y2, Colour colour) {
+    native_->Round(x1, y1, x2, y2, drawWidth_, colour);
+}
+
+void Surface::DrawBox(double x1, double y1, double x2, double y2, Colour colour) {
+    if (x1 == x2 || y1 == y2) {
+        native_->Bar(x1, y1, x2, y2, drawWidth_, colour);
+        return;
+    }
+    native_->Bar(x1, y1, x2, y1, drawWidth_, colour);
+    native_->Bar(x1, y2, x2, y2, drawWidth_, colour);
+    native_->Bar(x1, y1, x1, y2, drawWidth_, colour);
+    native_->Bar(x2, y1, x2, y2, drawWidth_, colour);
+}
+
+void Surface::FillBox(double x1, double y1, double x2, double y2, Colour colour) {
+    native_->Fill(x1, y1, x2, y2, colour);
+}
+
+void Surface::Cls() {
+    native_->Clear();
+}
+
+void Surface::Native::Setup(double twipsPerPixel, Colour background) {
+    twipsPerPixel_ = twipsPerPixel;
+    background_ = PixelOf(background);
+}
+
+void Surface::Native::Resize(const QSize& size, double devicePixelRatio) {
+    const QSize wanted = (QSizeF(size) * devicePixelRatio).toSize();
+    if (image_.size() == wanted && ratio_ == devicePixelRatio) {
+        return;
+    }
+    const QImage before = image_;
+    ratio_ = devicePixelRatio;
+    image_ = QImage(wanted, QImage::Format_RGB32);
+    Clear();
+    if (!before.isNull() && !image_.isNull()) {
+        QPainter painter(&image_);
+        painter.drawImage(0, 0, before);
+    }
+}
+
+void Surface::Native::Background(Colour colour) {
+    background_ = PixelOf(colour);
+    Clear();
+}
+
+void Surface::Native::Backdrop(QImage picture) {
+    backdrop_ = std::move(picture);
+    Clear();
+}
+
+void Surface::Native::Clear() {
+    image_.fill(background_);
+    if (!backdrop_.isNull() && !image_.isNull()) {
+        QPainter painter(&image_);
+        painter.drawImage(0, 0, backdrop_);
+    }
+    Touch(0, 0, image_.width(), image_.height());
+}
+
+void Surface::Native::Fill(double x1, double y1, double x2, double y2, Colour colour) {
+    const Point a = ToDevice(std::min(x1, x2), std::min(y1, y2));
+    const Point b = ToDevice(std::max(x1, x2), std::max(y1, y2));
+    FillRectangle(Target(), a.X, a.Y, b.X - a.X, b.Y - a.Y, PixelOf(colour));
+    Touch(a.X, a.Y, b.X, b.Y);
+}
+
+void Surface::Native::Bar(double x1, double y1, double x2, double y2, int pen, Colour colour) {
+    const int width = PenOnDevice(pen);
+    const Point a = ToDevice(std::min(x1, x2), std::min(y1, y2));
+    const Point b = ToDevice(std::max(x1, x2), std::max(y1, y2));
+    const int left = a.X + PenOffset(width);
+    const int top = a.Y + PenOffset(width);
+    FillRectangle(Target(), left, top, b.X - a.X + width, b.Y - a.Y + width, PixelOf(colour));
+    Touch(left, top, b.X + PenOffset(width) + width, b.Y + PenOffset(width) + width);
+}
+
+void Surface::Native::Round(double x1, double y1, double x2, double y2, int pen, Colour colour) {
+    const int width = PenOnDevice(pen);
+    const std::uint32_t pixel = PixelOf(colour);
+    const Pixels target = Target();
+    const Point a = ToDevice(x1, y1);
+    const Point b = ToDevice(x2, y2);
+    pens_.DrawPoint(target, a.X, a.Y, width, pixel);
+    if (a.Y == b.Y) {
+        FillRectangle(target, std::min(a.X, b.X), a.Y + PenOffset(width), std::abs(b.X - a.X),
+                      width, pixel);
+    } else if (a.X == b.X) {
+        FillRectangle(target, a.X + PenOffset(width), std::min(a.Y, b.Y), width,
+                      std::abs(b.Y - a.Y), pixel);
+    } else {
+        // A slanting line is the pen set down at each pixel of its longer side.
+        const int steps = std::max(std::abs(b.X - a.X), std::abs(b.Y - a.Y));
+        for (int step = 1; step < steps; ++step) {
+            const double part = static_cast<double>(step) / steps;
+            pens_.DrawPoint(target, a.X + Nearest((b.X - a.X) * part),
+                            a.Y + Nearest((b.Y - a.Y) * part), width, pixel);
+        }
+    }
+    pens_.DrawPoint(target, b.X, b.Y, width, pixel);
+    Touch(std::min(a.X, b.X) + PenOffset(width), std::min(a.Y, b.Y) + PenOffset(width),
+          std::max(a.X, b.X) + PenOffset(width) + width,
+          std::max(a.Y, b.Y) + PenOffset(width) + width);
+}
+
+void Surface::Native::Paint(QPainter& painter, const QRect& where) {
+    announced_ = QRect();
+    const QRectF source(QPointF(where.topLeft()) * ratio_, QSizeF(where.size()) * ratio_);
+    painter.drawImage(QRectF(where), image_, source);
+}
+
+int Surface::Native::ToDevice(double twips) const {
+    // Always to the same side, so that equal lengths in twips stay equal wherever they lie.
+    return Floor(twips / twipsPerPixel_ * ratio_ + 0.5);
+}
+
+int Surface::Native::PenOnDevice(int pen) const {
+    return std::max(1, Nearest(pen * ratio_));
+}
+
+Pixels Surface::Native::Target() {
+    return {reinterpret_cast<std::uint32_t*>(image_.bits()), image_.width(), image_.height(),
+            static_cast<int>(image_.bytesPerLine() / 4)};
+}
+
+void Surface::Native::Touch(int left, int top, int right, int bottom) {
+    if (!Changed) {
+        return;
+    }
+    const QPoint first(Floor(left / ratio_), Floor(top / ratio_));
+    const QPoint last(Floor(right / ratio_) + 1, Floor(bottom / ratio_) + 1);
+    const QRect touched(first, last);
+    // A thousand lines in one step are announced as a few growing areas.
+    if (!announced_.contains(touched)) {
+        announced_ |= touched;
+        Changed(announced_);
+    }
+}
+
+}  // namespace trameli

@@ -1,0 +1,62 @@
+// The toolkit's side of surfaces.
+#pragma once
+
+#include <QImage>
+#include <QPainter>
+#include <QRect>
+#include <QSize>
+#include <functional>
+
+#include "platform/qt/raster.h"
+#include "platform/surface.h"
+
+namespace trameli {
+
+/// The pixels of a surface, in the full resolution of the device.
+struct Surface::Native {
+    /// Called with the area that has to be shown anew, in logical pixels.
+    std::function<void(const QRect&)> Changed;
+
+    void Setup(double twipsPerPixel, Colour background);
+    /// Keeps what is drawn, as far as the new size has room for it.
+    void Resize(const QSize& size, double devicePixelRatio);
+    /// Sets the background and clears to it.
+    void Background(Colour colour);
+    /// A picture that `Clear` puts on the background, at the upper left corner.
+    void Backdrop(QImage picture);
+    void Clear();
+
+    /// Fills the rectangle between two corners given in twips.
+    void Fill(double x1, double y1, double x2, double y2, Colour colour);
+    /// A bar along the line, as thick as the pen, reaching half a pen beyond its ends.
+    void Bar(double x1, double y1, double x2, double y2, int pen, Colour colour);
+    /// A line with round ends.
+    void Round(double x1, double y1, double x2, double y2, int pen, Colour colour);
+
+    /// Shows what lies in `where`, in logical pixels.
+    void Paint(QPainter& painter, const QRect& where);
+    const QImage& Image() const { return image_; }
+
+private:
+    struct Point {
+        int X;
+        int Y;
+    };
+
+    int ToDevice(double twips) const;
+    Point ToDevice(double x, double y) const { return {ToDevice(x), ToDevice(y)}; }
+    int PenOnDevice(int pen) const;
+    Pixels Target();
+    /// Notes that device pixels from (left, top) to before (right, bottom) have changed.
+    void Touch(int left, int top, int right, int bottom);
+
+    QImage image_;
+    QImage backdrop_;
+    RoundPens pens_;
+    std::uint32_t background_ = 0;
+    double twipsPerPixel_ = 15;
+    double ratio_ = 1;
+    QRect announced_;  // what Changed was told of since the last Paint
+};
+
+}  // namespace trameli
