@@ -59,9 +59,6 @@ class Lettore {
 public:
     explicit Lettore(std::string_view testo) : resto_(testo) {}
 
-    /// True if the text has ended: there is not even an empty value left.
-    bool Finito() const { return resto_.empty(); }
-
     /// The next characters up to a comma or a line end. Blanks belong to the word.
     std::string_view Parola() {
         const std::string_view parola = Prendi([](char c) { return c != ',' && !FineRiga(c); });
@@ -197,7 +194,8 @@ std::optional<Impostazioni> Leggi(std::string_view testo) {
     Impostazioni impostazioni;
     Lettore lettore(testo);
     for (const Riga& riga : Formato) {
-        if (lettore.Finito() || !std::visit(Lettura{lettore, riga, impostazioni}, riga.Campo)) {
+        // A text that ends early is found out by its last number, which has no digits.
+        if (!std::visit(Lettura{lettore, riga, impostazioni}, riga.Campo)) {
             return std::nullopt;
         }
     }

@@ -90,7 +90,7 @@ private:
     }
 
     std::map<std::string, File> file_;
-    std::set<std::string> cartelle_{"C:"};
+    std::set<std::string> cartelle_{"", "C:"};  // no path at all is the current folder
 };
 
 }  // namespace trameli
