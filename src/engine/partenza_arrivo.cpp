@@ -38,7 +38,8 @@ struct Riga {
 using enum Angolo;
 
 // One row a configuration; then the first point (x, y) and the finish picture (top, left). The left
-// of rows 5 and 7 has neither the sixth nor the half wall: there the picture is cut off by the edge.
+// of rows 5 and 7 has neither the sixth nor the half wall: there the picture is cut off by the
+// edge.
 // clang-format off
 constexpr std::array<Riga, NumeroConfigurazioni> Tabella{{
     {AltoSinistra, Lato::Alto, BassoDestra, Lato::Basso,

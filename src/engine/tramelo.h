@@ -1,6 +1,7 @@
 // The maze: a grid of cells with a wall flag on each side, and the carving that joins its regions.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -13,7 +14,7 @@ enum class Lato : std::int8_t { Alto = 0, Destra = 1, Basso = 2, Sinistra = 3 };
 
 /// The same wall as seen from the cell on its other side.
 constexpr Lato Opposto(Lato lato) {
-    return static_cast<Lato>((static_cast<int>(lato) + 2) % 4);
+    return static_cast<Lato>(static_cast<unsigned>(lato) ^ 2U);
 }
 
 /// A place on the grid, counted from 1; row 1 is at the top, column 1 at the left. Row 0, column 0,
@@ -98,12 +99,29 @@ public:
     bool Esterno(Cella cella, Lato lato) const;
 
 private:
+    // A wall as one of its cells sees it: the cell's entry in the arrays below, and the side.
+    struct Faccia {
+        std::size_t Cella;
+        Lato Su;
+    };
+
     static constexpr std::uint8_t Bit(Lato lato) {
         return static_cast<std::uint8_t>(1U << static_cast<unsigned>(lato));
     }
     std::size_t Indice(int r, int c) const {
         return static_cast<std::size_t>(r) * m_passo + static_cast<std::size_t>(c);
     }
+    using Bandiere = std::vector<std::uint8_t>;  // four flags a cell, bit s for side s
+
+    static bool Ha(const Bandiere& bandiere, Faccia faccia) {
+        return (bandiere[faccia.Cella] & Bit(faccia.Su)) != 0;
+    }
+    void Togli(Faccia faccia) {
+        m_muri[faccia.Cella] &= static_cast<std::uint8_t>(~Bit(faccia.Su));
+    }
+    Faccia EstraiFaccia();
+    Faccia Altra(Faccia faccia) const;
+    void Unisci(std::int16_t minore, std::int16_t maggiore);
 
     Casuale& m_casuale;
     std::int16_t m_righe;
@@ -113,9 +131,12 @@ private:
     std::int16_t m_muriRimasti = 0;
     std::size_t m_passo;  // entries from one row to the next, column 0 included
     std::vector<std::int16_t> m_griglia;
-    // Four flags a cell, bit s for side s.
-    std::vector<std::uint8_t> m_muri;
-    std::vector<std::uint8_t> m_muriProtetti;
+    Bandiere m_muri;
+    Bandiere m_muriProtetti;
+    Bandiere m_esterni;  // the outside walls, by position
+    // By label: the entries of the first and the last cell of its region, in reading order.
+    std::vector<std::size_t> m_prime;
+    std::vector<std::size_t> m_ultime;
 };
 
 }  // namespace trameli
