@@ -15,6 +15,12 @@
 #include "platform/qt/graphics.h"
 #include "platform/qt/local_file_system.h"
 
+/// The pictures lie in a static library, where nothing else makes the linker keep them. Outside
+/// every namespace, as the toolkit wants it.
+static void LoadPictures() {
+    Q_INIT_RESOURCE(assets);
+}
+
 namespace trameli {
 
 namespace {
@@ -84,6 +90,7 @@ void PrepareToolkit() {
     QApplication::setPalette(palette);
     // A program ends with its forms, not with the toolkit's windows.
     QApplication::setQuitOnLastWindowClosed(false);
+    LoadPictures();
     DescribeGraphics();
 }
 

@@ -33,7 +33,7 @@ double Form::Height() const {
 
 void Form::Caption(const std::string& caption) {
     caption_ = caption;
-    native_->Window.setWindowTitle(ToQt(caption));
+    native_->Window.Title(ToQt(caption));
 }
 
 void Form::BackColor(Colour colour) {

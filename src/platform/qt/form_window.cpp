@@ -55,12 +55,18 @@ void ClientArea::mouseMoveEvent(QMouseEvent*) {
 FormWindow::FormWindow(Form& form, QSize clientSize)
     : form_(form), client_(*new ClientArea(form, this)) {
     setWindowFlags(FrameWithoutSizeButtons);
-    setAccessibleName(ToQt(form.Name()));
+    setAccessibleName(QStringLiteral("Trameli"));
+    Title(QString());
     setCentralWidget(&client_);
     client_.resize(clientSize);
     settling_.setSingleShot(true);
     settling_.setInterval(SettlingTime);
     connect(&settling_, &QTimer::timeout, this, [this] { Activate(); });
+}
+
+void FormWindow::Title(const QString& title) {
+    // A window with no title at all would get the program's name from the toolkit.
+    setWindowTitle(title.isEmpty() ? QStringLiteral(" ") : title);
 }
 
 void FormWindow::Present() {

@@ -30,6 +30,8 @@ public:
     FormWindow(Form& form, QSize clientSize);
 
     ClientArea& Client() { return client_; }
+    /// The text in the window's frame; it may be empty.
+    void Title(const QString& title);
     /// Shows the window as large as the screen allows, or brings it to the front.
     void Present();
     /// Takes the window from the screen for good.

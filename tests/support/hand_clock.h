@@ -1,0 +1,51 @@
+// Time that stands still until a test moves it.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "platform/clock.h"
+
+namespace trameli {
+
+/// A clock moved by hand. A wait of the program moves it too, to the wait's end at once, with all
+/// timers and appointments on the way in their order: what takes minutes at a desk takes no time
+/// here.
+class HandClock final : public Clock {
+public:
+    double Now() const override { return now_; }
+    std::unique_ptr<Ticker> Every(int milliseconds, std::function<void()> tick) override;
+    void Wait(double seconds, const std::function<bool()>& over) override;
+
+    /// Moves on by so many seconds, serving window events after each timer and appointment.
+    void Advance(double seconds);
+
+    /// Makes an appointment: `action` is called once, so many seconds from now, also in the middle
+    /// of a wait.
+    void In(double seconds, std::function<void()> action);
+
+    /// Waits of the program that are under way, one inside the other.
+    int WaitsUnderWay() const { return waits_; }
+    /// Timers that are running.
+    int TimersRunning() const;
+
+private:
+    class HandTicker;
+
+    struct Appointment {
+        double Due;
+        long Order;
+        std::function<void()> Action;
+    };
+
+    bool RunNext(double until);
+
+    double now_ = 1000;
+    long made_ = 0;
+    int waits_ = 0;
+    std::vector<Appointment> appointments_;
+    std::vector<HandTicker*> tickers_;
+};
+
+}  // namespace trameli
