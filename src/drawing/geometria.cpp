@@ -1,0 +1,24 @@
+#include "drawing/geometria.h"
+
+#include <algorithm>
+
+#include "base/rounding.h"
+
+namespace trameli {
+
+Geometria CalcolaGeometria(double larghezza, double altezza, int righe, int colonne) {
+    const std::int16_t cella = Saturated(
+        std::min(Quotient(Nearest(larghezza), colonne + 1), Quotient(Nearest(altezza), righe + 2)));
+    // The margins take the box as it is, not the rounded one.
+    const auto margine = [cella](double lunghezza, int celle) {
+        return Saturated(Floor((lunghezza - static_cast<double>(cella) * celle) / 2));
+    };
+    return {cella, margine(larghezza, colonne), margine(altezza, righe)};
+}
+
+Misure MisureDi(const Geometria& geometria, const Spessori& spessori) {
+    return {geometria.DimensioneCella, geometria.MargineSinistro, geometria.MargineSuperiore,
+            spessori.SpessoreMuri};
+}
+
+}  // namespace trameli

@@ -1,0 +1,65 @@
+#include "drawing/muri_a_linee.h"
+
+#include <array>
+#include <cstddef>
+
+#include "base/rounding.h"
+
+namespace trameli {
+
+namespace {
+
+/// The ends of a wall as corners of its cell: 0 the left or upper edge, 1 the right or lower one.
+struct Spigoli {
+    int X1, Y1, X2, Y2;
+};
+
+// By the number of the side.
+constexpr std::array<Spigoli, 4> Lati{{
+    {0, 0, 1, 0},
+    {1, 0, 1, 1},
+    {0, 1, 1, 1},
+    {0, 0, 0, 1},
+}};
+
+constexpr std::array Ordine{Lato::Alto, Lato::Basso, Lato::Sinistra, Lato::Destra};
+
+}  // namespace
+
+int SporgenzaMuri(double spessoreMuri, double twipsPerPixelX) {
+    return Quotient(Nearest(twipsPerPixelX * spessoreMuri), 2);
+}
+
+Segmento SegmentoMuro(Cella cella, Lato lato, const Misure& misure, int sporgenza) {
+    const Spigoli& spigoli = Lati[static_cast<std::size_t>(lato)];
+    const bool orizzontale = spigoli.Y1 == spigoli.Y2;
+    const int lungoX = orizzontale ? sporgenza : 0;
+    const int lungoY = orizzontale ? 0 : sporgenza;
+    const auto x = [&](int spigolo) {
+        return (cella.Colonna - 1 + spigolo) * misure.DimensioneCella + misure.MargineSinistro;
+    };
+    const auto y = [&](int spigolo) {
+        return (cella.Riga - 1 + spigolo) * misure.DimensioneCella + misure.MargineSuperiore;
+    };
+    return {{Saturated(x(spigoli.X1) - lungoX), Saturated(y(spigoli.Y1) - lungoY)},
+            {Saturated(x(spigoli.X2) + lungoX), Saturated(y(spigoli.Y2) + lungoY)}};
+}
+
+void DisegnaMuriALinee(Surface& superficie, const Tramelo& tramelo, const Misure& misure,
+                       Estremi estremi, Colour colore, double twipsPerPixelX) {
+    const int sporgenza =
+        estremi == Estremi::Quadri ? SporgenzaMuri(misure.SpessoreMuri, twipsPerPixelX) : 0;
+    superficie.DrawWidth(Nearest(misure.SpessoreMuri));
+    for (std::int16_t r = 1; r <= tramelo.Righe(); ++r) {
+        for (std::int16_t c = 1; c <= tramelo.Colonne(); ++c) {
+            for (const Lato lato : Ordine) {
+                if (tramelo.Muri(r, c, lato)) {
+                    Disegna(superficie, SegmentoMuro({r, c}, lato, misure, sporgenza), estremi,
+                            colore);
+                }
+            }
+        }
+    }
+}
+
+}  // namespace trameli

@@ -1,0 +1,92 @@
+#include "play/finestra_trm.h"
+
+#include <string>
+#include <utility>
+
+#include "shell/puntatori.h"
+
+namespace trameli {
+
+namespace {
+
+constexpr const char* Separatore = "----------------------";
+constexpr double LarghezzaPannello = 2540;
+constexpr int IntervalloTimer = 100;  // milliseconds
+
+template <typename T, typename... Argomenti>
+std::optional<T> Se(bool presente, Argomenti&&... argomenti) {
+    if (!presente) {
+        return std::nullopt;
+    }
+    return std::optional<T>(std::in_place, std::forward<Argomenti>(argomenti)...);
+}
+
+std::optional<PictureBox> Se(Form& form, const char* nome, const std::optional<Bounds>& posto) {
+    return Se<PictureBox>(posto.has_value(), form, nome, posto.value_or(Bounds{}));
+}
+
+}  // namespace
+
+FinestraTrm::FinestraTrm(trameli::Forms& forms, const DisegnoTrm& disegno)
+    : Form(forms, disegno.Nome, disegno.Dimensioni),
+      mnuTrameli(*this, "mnuTrameli", "Trameli"),
+      mnuNuovo(mnuTrameli, "mnuNuovo", "Nuovo", 'N'),
+      mnuRicomincia(mnuTrameli, "mnuRicomincia", "Ricomincia", 'R'),
+      mnuColora(mnuTrameli, "mnuColora", "Colora l'intera casella", 'C'),
+      mnuLinea1(mnuTrameli, "mnuLinea1", Separatore),
+      mnuLineeMuri(Se<MenuItem>(disegno.ConMuri, mnuTrameli, "mnuLineeMuri", "Usa linee", 'M')),
+      mnuLinee(mnuTrameli, "mnuLinee", "Modifica spessore linee", 'L'),
+      mnulinea2(mnuTrameli, "mnulinea2", Separatore),
+      mnuStampa(mnuTrameli, "mnuStampa", "Stampa", 'S'),
+      mnuEsci(*this, "mnuEsci", "Torna al menù"),
+      PictureScansioneAutomatica(
+          Se(*this, "PictureScansioneAutomatica", disegno.PictureScansioneAutomatica)),
+      PictureScansioneManuale(
+          Se(*this, "PictureScansioneManuale", disegno.PictureScansioneManuale)),
+      pictureTramelo(*this, "pictureTramelo", disegno.pictureTramelo),
+      pictureStampa(*this, "pictureStampa", {600, 480, 3495, 2295}),
+      Image2(pictureTramelo, "Image2", disegno.Image2),
+      Image1("Image1"),
+      BottoneAvanti(*this, "BottoneAvanti", disegno.BottoneAvanti),
+      Timer1(*this, "Timer1", IntervalloTimer),
+      StatusBar1(*this, "StatusBar1", LarghezzaPannello, {"", "Livello", "Boing", "Passi"}) {
+    BackColor(White);
+    mnuLinea1.Enabled(false);
+    mnulinea2.Enabled(false);
+    mnuStampa.Enabled(false);  // until there is a way to print
+
+    pictureTramelo.TabIndex(1);
+    pictureTramelo.AccessibleName("Tramelo");
+    pictureStampa.Visible(false);
+    pictureStampa.AccessibleName("Stampa");
+    Image2.Visible(disegno.Image2Visibile);
+    Image2.AccessibleName("Arrivo");
+
+    const DisegnoCoppe& coppe = disegno.Image1;
+    for (const double left : coppe.Left) {
+        Image& coppa = Image1.Add(*this, Bounds{left, coppe.Top, coppe.Lato, coppe.Lato},
+                                  Picture{"coppa.svg"});
+        coppa.Visible(false);
+        coppa.AccessibleName("Coppa " + std::to_string(Image1.Count()));
+    }
+
+    BottoneAvanti.TabIndex(5);
+    BottoneAvanti.Visible(false);
+    BottoneAvanti.Picture({"menu/inizio.svg"});
+    BottoneAvanti.AccessibleName("Avanti");
+    BottoneAvanti.MouseIcon(FrecciaGrande());
+
+    if (PictureScansioneAutomatica) {
+        PictureScansioneAutomatica->TabIndex(2);
+        PictureScansioneAutomatica->Visible(false);
+        PictureScansioneAutomatica->AccessibleName("Scansione automatica");
+    }
+    if (PictureScansioneManuale) {
+        PictureScansioneManuale->TabIndex(3);
+        PictureScansioneManuale->Visible(false);
+        PictureScansioneManuale->AccessibleName("Scansione manuale");
+    }
+    StatusBar1.AccessibleName("Barra di stato");
+}
+
+}  // namespace trameli

@@ -1,0 +1,22 @@
+#include "play/form_archivio.h"
+
+#include <string>
+
+namespace trameli {
+
+namespace {
+
+constexpr int NumeroArrivi = 20;
+constexpr double Lato = 1200;  // twips; those who take a picture stretch it to their own size
+
+}  // namespace
+
+FormArchivio::FormArchivio(trameli::Forms& forms)
+    : Form(forms, "FormArchivio", {Lato, Lato * NumeroArrivi}) {
+    for (int i = 0; i < NumeroArrivi; ++i) {
+        const std::string numero = (i < 10 ? "0" : "") + std::to_string(i);
+        Image2.Add(*this, Bounds{0, Lato * i, Lato, Lato}, Picture{"arrivo/" + numero + ".svg"});
+    }
+}
+
+}  // namespace trameli

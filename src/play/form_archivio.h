@@ -1,0 +1,19 @@
+// The store of the game's pictures.
+#pragma once
+
+#include "platform/control_array.h"
+#include "platform/form.h"
+#include "platform/image.h"
+
+namespace trameli {
+
+/// A form that is loaded and never shown: the other forms take their pictures from it.
+class FormArchivio : public Form {
+public:
+    explicit FormArchivio(trameli::Forms& forms);
+
+    /// The pictures that can mark the finish.
+    ControlArray<Image> Image2{"Image2"};
+};
+
+}  // namespace trameli

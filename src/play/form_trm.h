@@ -1,0 +1,66 @@
+// What the play forms have in common.
+#pragma once
+
+#include <cstdint>
+
+#include "play/tavola_trm.h"
+
+namespace trameli {
+
+/// A game at one level: five mazes one after the other, with the counters of each. The forms
+/// differ in single steps of the routines; these are the virtual ones.
+class FormTrm : public TavolaTrm {
+protected:
+    FormTrm(trameli::Forms& forms, Servizi& servizi, Casuale& casuale, const DisegnoTrm& disegno);
+
+    void Form_Load() override;
+    void Form_Activate() override;
+    void BottoneAvanti_Click();
+    void BottoneAvanti_GotFocus();
+    virtual void mnuNuovo_Click();
+    void mnuRicomincia_Click();
+    void mnuColora_Click();
+    void mnuLinee_Click();
+    void mnuEsci_Click();
+
+    /// Whether an activation finds no maze, and no other activation is about to make one.
+    bool DaPreparare() const;
+    void ScriviIntestazione();
+    /// The set-up of such an activation, up to the first maze. The form may be unloaded afterwards.
+    void PreparaGioco();
+    /// Places the controls in the window's final size and lets the settings take effect.
+    virtual void Disponi() = 0;
+    /// Seconds that the window is shown empty before the first maze.
+    virtual double AttesaIniziale() const = 0;
+    virtual void AzzeraContatori() = 0;
+    /// When a changed thickness takes effect: at every restart of the maze, or only when the menu
+    /// entry changes it.
+    virtual bool SpessoriAllaRipartenza() const = 0;
+
+    /// A wish to go somewhere, from keyboard, switch or clock. The caller has set ColoreTratto to
+    /// the colour of a way forward. The form may be unloaded afterwards.
+    void Muovi(Lato lato);
+    void Sinistra();
+    void Alto();
+    void Destra();
+    void Basso();
+    virtual void ColpitoMuro();
+    void DisegnaLinea();
+    void MostraFrameTrameloRisolto();
+    void ScriviBoing(const char* parola);
+    void ScriviPassi();
+
+    Colour ColoreTratto = 0;          ///< of the step under way
+    std::int16_t ContaBoing = 0;      ///< wall hits in this maze
+    std::int16_t ContaPassi = 0;      ///< steps in this maze
+    std::int16_t TrameliRisolti = 0;  ///< since the activation, 0 to 4
+
+private:
+    void PrimoPasso(Lato lato);
+    void Passo(Lato lato);
+
+    bool preparando_ = false;        ///< an activation waits for the first maze
+    bool StatoTimerSalvato = false;  ///< Timer1 as it was before BottoneAvanti stopped it
+};
+
+}  // namespace trameli

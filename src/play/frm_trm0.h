@@ -1,0 +1,34 @@
+// The play form of levels 0 to 4.
+#pragma once
+
+#include "play/form_a_passi.h"
+
+namespace trameli {
+
+/// Mazes of 6 by 9 cells, from an empty box to one with most of its walls. The walls can be lines
+/// or bars.
+class frmTrm0 : public FormAPassi {
+public:
+    frmTrm0(trameli::Forms& forms, Servizi& servizi, Casuale& casuale);
+
+    /// The bars of the walls. Element 0 is never seen: it is what the others are made like.
+    ControlArray<PictureBox> PictureMuri{"PictureMuri"};
+
+protected:
+    void mnuNuovo_Click() override;
+
+    DimensioniGriglia Griglia() const override { return {6, 9}; }
+    void Disponi() override;
+    double AttesaIniziale() const override { return 0.5; }
+    void AzzeraContatori() override;
+    bool SpessoriAllaRipartenza() const override { return true; }
+    trameli::Pareti AspettoPareti() const override;
+    void InserisciArrivo() override;
+
+private:
+    void ScriviLineeMuri();
+
+    bool LineeMuri = false;  ///< walls are lines; the form's own copy of the setting
+};
+
+}  // namespace trameli

@@ -1,0 +1,64 @@
+#include "play/frm_trm3.h"
+
+#include "base/rounding.h"
+
+namespace trameli {
+
+namespace {
+
+constexpr DisegnoTrm Disegno{
+    .Nome = "frmTrm3",
+    .Dimensioni = {8400, 6255},
+    .pictureTramelo = {120, 120, 5325, 4725},
+    .Image2 = {600, 3120, 855, 735},
+    .Image2Visibile = true,
+    .Image1 = {{120, 1080, 2040, 2880}, 5160, 615},
+    .BottoneAvanti = {4440, 5040, 1725, 780},
+    .PictureScansioneAutomatica = Bounds{7200, 3600, 495, 495},
+    .PictureScansioneManuale = Bounds{6360, 4440, 615, 495},
+    .ConMuri = false,
+};
+
+}  // namespace
+
+frmTrm3::frmTrm3(trameli::Forms& forms, Servizi& servizi, Casuale& casuale)
+    : FormAPassi(forms, servizi, casuale, Disegno) {}
+
+void frmTrm3::Form_Activate() {
+    if (DaPreparare()) {
+        ScriviIntestazione();
+        PreparaGioco();
+    }
+}
+
+DimensioniGriglia frmTrm3::Griglia() const {
+    return {stato_.RigheGriglia, stato_.ColonneGriglia};
+}
+
+void frmTrm3::Disponi() {
+    DisponiControlli(Height() - 2 * BottoneAvanti.Height(),
+                     Quotient(Nearest(Image1(0).Height()), 2));
+    ImpostaModoInput();
+}
+
+void frmTrm3::mnuNuovo_Click() {
+    FormAPassi::mnuNuovo_Click();
+    if (HaTramelo() && (stato_.ModoInput == 1 || stato_.ModoInput == 2)) {
+        Timer1.Enabled(true);
+    }
+}
+
+void frmTrm3::AzzeraContatori() {
+    ContaBoing = 0;
+    ContaPassi = 0;
+    ScriviPassi();
+    ScriviBoing("boing ");
+}
+
+void frmTrm3::CompletaTramelo() {
+    DisegnaTramelo();
+    AzzeraVariabili();
+    InserisciArrivo();
+}
+
+}  // namespace trameli

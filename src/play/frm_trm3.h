@@ -1,0 +1,25 @@
+// The play form of levels 8 to 15.
+#pragma once
+
+#include "play/form_a_passi.h"
+
+namespace trameli {
+
+/// Perfect mazes, from 3 by 4 to 15 by 20 cells.
+class frmTrm3 : public FormAPassi {
+public:
+    frmTrm3(trameli::Forms& forms, Servizi& servizi, Casuale& casuale);
+
+protected:
+    void Form_Activate() override;
+    void mnuNuovo_Click() override;
+
+    DimensioniGriglia Griglia() const override;
+    void Disponi() override;
+    double AttesaIniziale() const override { return 0; }
+    void AzzeraContatori() override;
+    bool SpessoriAllaRipartenza() const override { return false; }
+    void CompletaTramelo() override;
+};
+
+}  // namespace trameli
