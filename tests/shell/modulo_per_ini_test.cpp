@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 #include "dialogs_finto.h"
 #include "file_system_finto.h"
 #include "shell/file_utente.h"
@@ -50,6 +53,8 @@ TEST_F(ModuloPerIniTest, TheFirstPathAndLaterOnesNameOneFile) {
     Variabili.FileUtente = ModuloPerIni::PrimoFileUtente;
     Altera();
     Modulo.ScriviUtente();
+    EXPECT_EQ(File.List(ModuloPerIni::CartellaUtenti, ".ini"),
+              std::vector<std::string>{"_predefinito.ini"});
     Modulo.ImpostaPredefiniti();
     Variabili.FileUtente =
         std::string(ModuloPerIni::CartellaUtenti) + ModuloPerIni::PrimoUtente + ".ini";
