@@ -29,7 +29,8 @@ public:
     virtual std::optional<std::string> Read(const std::string& path, std::size_t limit) const = 0;
 
     /// Makes `bytes` the content of the file, whole or not at all: whatever happens in between,
-    /// the file holds either what it held before or what it is given. False if it could not.
+    /// the file holds either what it held before or what it is given. A new file gets its
+    /// extension in small letters. False if it could not.
     virtual bool Replace(const std::string& path, const std::string& bytes) = 0;
 
     /// Names in a folder, files and folders, that end in `ending` (without regard to case), in

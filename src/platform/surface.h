@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <span>
 
 #include "platform/colour.h"
 
@@ -29,6 +30,10 @@ public:
     void DrawBox(double x1, double y1, double x2, double y2, Colour colour);
     /// The rectangle between two corners, filled, without an outline.
     void FillBox(double x1, double y1, double x2, double y2, Colour colour);
+    /// Filled ellipses round the middle of the surface, one inside the other, in the surface's own
+    /// proportions. The largest touches the edges and has the last colour; the others follow
+    /// towards the middle in equal steps down to the first.
+    void FillRings(std::span<const Colour> colours);
     /// Clears to the background.
     void Cls();
 

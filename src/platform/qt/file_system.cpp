@@ -85,6 +85,12 @@ fs::path Within(const fs::path& folder, const std::string& name) {
     return folder / (found == names.end() ? name : found->second);
 }
 
+/// The extension of a new file in small letters, whatever a path literal spells.
+std::string WithSmallExtension(const std::string& name) {
+    const std::size_t dot = std::min(name.rfind('.'), name.size());
+    return name.substr(0, dot) + FromQt(ToQt(name.substr(dot)).toLower());
+}
+
 /// A file that is closed when it goes out of scope.
 class OpenFile {
 public:
@@ -201,7 +207,9 @@ bool LocalFileSystem::Replace(const std::string& path, const std::string& bytes)
             return false;
         }
     }
-    if (fs::exists(*place, error)) {
+    if (!fs::exists(*place, error)) {
+        *place = place->parent_path() / WithSmallExtension(place->filename().string());
+    } else {
         // A file that somebody made read-only stays as it is.
         if (!fs::is_regular_file(*place, error) || access(place->c_str(), W_OK) != 0) {
             return false;

@@ -1,6 +1,7 @@
 #include "platform/qt/raster.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace trameli {
 
@@ -16,6 +17,49 @@ void FillRectangle(const Pixels& pixels, int x, int y, int width, int height,
     for (int row = top; row < bottom; ++row) {
         std::uint32_t* start = pixels.Data + static_cast<std::ptrdiff_t>(row) * pixels.Stride;
         std::fill(start + left, start + right, colour);
+    }
+}
+
+void FillRings(const Pixels& pixels, const std::vector<std::uint32_t>& colours) {
+    if (colours.empty() || pixels.Width <= 0 || pixels.Height <= 0) {
+        return;
+    }
+    // One quarter is computed, in parts of the way from the middle to the edge, and mirrored.
+    const int columns = (pixels.Width + 1) / 2;
+    const int rows = (pixels.Height + 1) / 2;
+    const auto rings = static_cast<float>(colours.size());
+    const auto squares = [](int count, int size) {
+        std::vector<float> result;
+        for (int i = 0; i < count; ++i) {
+            // From the edge inwards, like the pixels.
+            const float way =
+                1.0F - (2.0F * static_cast<float>(i) + 1.0F) / static_cast<float>(size);
+            result.push_back(way * way);
+        }
+        return result;
+    };
+    const std::vector<float> across = squares(columns, pixels.Width);
+    const std::vector<float> down = squares(rows, pixels.Height);
+    std::vector<std::int32_t> ring(static_cast<std::size_t>(columns));
+    for (int y = 0; y < rows; ++y) {
+        const float fromMiddle = down[static_cast<std::size_t>(y)];
+        for (std::size_t x = 0; x < ring.size(); ++x) {
+            ring[x] = static_cast<std::int32_t>(std::sqrt(across[x] + fromMiddle) * rings);
+        }
+        std::uint32_t* const upper = pixels.Data + static_cast<std::ptrdiff_t>(y) * pixels.Stride;
+        for (std::size_t x = 0; x < ring.size(); ++x) {
+            const auto index = static_cast<std::size_t>(ring[x]);
+            if (index < colours.size()) {
+                upper[x] = colours[index];
+                upper[static_cast<std::size_t>(pixels.Width) - 1 - x] = colours[index];
+            }
+        }
+        const int mirrored = pixels.Height - 1 - y;
+        if (mirrored != y) {
+            std::uint32_t* const lower =
+                pixels.Data + static_cast<std::ptrdiff_t>(mirrored) * pixels.Stride;
+            std::copy(upper, upper + pixels.Width, lower);
+        }
     }
 }
 

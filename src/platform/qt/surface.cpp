@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 #include "base/rounding.h"
 #include "platform/qt/surface_native.h"
@@ -39,6 +40,10 @@ void Surface::DrawBox(double x1, double y1, double x2, double y2, Colour colour)
 
 void Surface::FillBox(double x1, double y1, double x2, double y2, Colour colour) {
     native_->Fill(x1, y1, x2, y2, colour);
+}
+
+void Surface::FillRings(std::span<const Colour> colours) {
+    native_->Rings(colours);
 }
 
 void Surface::Cls() {
@@ -127,6 +132,13 @@ void Surface::Native::Round(double x1, double y1, double x2, double y2, int pen,
     Touch(std::min(a.X, b.X) + PenOffset(width), std::min(a.Y, b.Y) + PenOffset(width),
           std::max(a.X, b.X) + PenOffset(width) + width,
           std::max(a.Y, b.Y) + PenOffset(width) + width);
+}
+
+void Surface::Native::Rings(std::span<const Colour> colours) {
+    std::vector<std::uint32_t> pixels;
+    std::transform(colours.begin(), colours.end(), std::back_inserter(pixels), PixelOf);
+    FillRings(Target(), pixels);
+    Touch(0, 0, image_.width(), image_.height());
 }
 
 void Surface::Native::Paint(QPainter& painter, const QRect& where) {

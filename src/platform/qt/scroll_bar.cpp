@@ -1,0 +1,28 @@
+#include "platform/scroll_bar.h"
+
+#include <QScrollBar>
+
+#include "platform/qt/native.h"
+
+namespace trameli {
+
+HScrollBar::HScrollBar(Container& container, ControlName name, const Bounds& bounds, int min,
+                       int max, int largeChange)
+    : VisualControl(container, std::move(name), bounds,
+                    MakeNative<QScrollBar>(container, Qt::Horizontal)) {
+    auto& widget = WidgetOf<QScrollBar>(*this);
+    widget.setFocusPolicy(Qt::NoFocus);
+    widget.setRange(min, max);
+    widget.setPageStep(largeChange);
+    QObject::connect(&widget, &QScrollBar::valueChanged, [this] { Fire(*this, Change); });
+}
+
+int HScrollBar::Value() const {
+    return WidgetOf<QScrollBar>(*this).value();
+}
+
+void HScrollBar::Value(int value) {
+    WidgetOf<QScrollBar>(*this).setValue(value);
+}
+
+}  // namespace trameli

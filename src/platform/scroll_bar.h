@@ -1,0 +1,22 @@
+// Scroll bars.
+#pragma once
+
+#include "platform/control.h"
+
+namespace trameli {
+
+/// A horizontal scroll bar: a number between two ends, set with the mouse. It never takes the
+/// keyboard, so the arrow keys stay with the form.
+class HScrollBar : public VisualControl {
+public:
+    HScrollBar(Container& container, ControlName name, const Bounds& bounds, int min, int max,
+               int largeChange);
+
+    int Value() const;
+    /// Beyond an end, the end counts. A new value fires `Change`, whoever sets it.
+    void Value(int value);
+
+    std::function<void()> Change;
+};
+
+}  // namespace trameli
