@@ -1,0 +1,65 @@
+#include "program.h"
+
+#include <bit>
+#include <cstdint>
+#include <utility>
+
+#include "play/form_archivio.h"
+#include "play/frm_trm0.h"
+#include "play/frm_trm3.h"
+#include "shell/form_avvio.h"
+#include "shell/form_menu.h"
+
+namespace trameli {
+
+Program::Program(Clock& clock, Screen& screen, FileSystem& fileSystem, Dialogs& dialogs,
+                 Instances& instances, std::unique_ptr<Casuale> casuale)
+    : dialogs_(dialogs),
+      instances_(instances),
+      casuale_(std::move(casuale)),
+      moduloPerIni_(stato_, fileSystem, dialogs, lingue_),
+      servizi_{stato_, lingue_, moduloPerIni_, fileSystem},
+      forms_(clock, screen) {
+    RegistraForm();
+}
+
+bool Program::Main() {
+    if (instances_.AnotherRuns()) {
+        dialogs_.Critical(lingue_.TestoLingua("0001"), "Error");
+        return false;
+    }
+    if (!casuale_) {
+        // All bits of the time: those behind the point differ from one start to the next.
+        casuale_ =
+            std::make_unique<CasualeConSeme>(std::bit_cast<std::uint64_t>(forms_.Clock().Now()));
+    }
+    moduloPerIni_.VerificaCartelle();
+    stato_.FileUtente = ModuloPerIni::PrimoFileUtente;
+    stato_.NomeUtente = ModuloPerIni::PrimoUtente;
+    moduloPerIni_.LeggiUtente();
+    forms_.Show("FormAvvio");
+    return true;
+}
+
+void Program::Run() {
+    forms_.Run();
+}
+
+void Program::RegistraForm() {
+    forms_.Register("FormAvvio", [this](trameli::Forms& forms) {
+        return std::make_unique<FormAvvio>(forms, servizi_);
+    });
+    forms_.Register("FormMenu", [this](trameli::Forms& forms) {
+        return std::make_unique<FormMenu>(forms, servizi_);
+    });
+    forms_.Register("FormArchivio",
+                    [](trameli::Forms& forms) { return std::make_unique<FormArchivio>(forms); });
+    forms_.Register("frmTrm0", [this](trameli::Forms& forms) {
+        return std::make_unique<frmTrm0>(forms, servizi_, *casuale_);
+    });
+    forms_.Register("frmTrm3", [this](trameli::Forms& forms) {
+        return std::make_unique<frmTrm3>(forms, servizi_, *casuale_);
+    });
+}
+
+}  // namespace trameli

@@ -1,0 +1,52 @@
+// One run of the program.
+#pragma once
+
+#include <memory>
+
+#include "engine/casuale.h"
+#include "platform/clock.h"
+#include "platform/dialogs.h"
+#include "platform/file_system.h"
+#include "platform/forms.h"
+#include "platform/instances.h"
+#include "platform/screen.h"
+#include "shell/lingue.h"
+#include "shell/modulo_per_ini.h"
+#include "shell/servizi.h"
+#include "shell/stato.h"
+
+namespace trameli {
+
+/// Everything of one run but the services of the machine, which must outlive it. The only place
+/// that knows every form. There can be any number of programs, one after the other or at once.
+class Program {
+public:
+    /// `casuale` takes the place of the generator that `Main` seeds from the clock.
+    Program(Clock& clock, Screen& screen, FileSystem& fileSystem, Dialogs& dialogs,
+            Instances& instances, std::unique_ptr<Casuale> casuale = nullptr);
+
+    /// Starts the game: reads the first user's settings and shows the splash. False if another
+    /// instance runs: that was told in a message box, and nothing was opened, read or written.
+    [[nodiscard]] bool Main();
+
+    /// Serves events until the program ends.
+    void Run();
+
+    trameli::Forms& Forms() { return forms_; }
+    trameli::Stato& Stato() { return stato_; }
+
+private:
+    void RegistraForm();
+
+    Dialogs& dialogs_;
+    Instances& instances_;
+    std::unique_ptr<Casuale> casuale_;
+
+    trameli::Stato stato_;
+    Lingue lingue_;
+    ModuloPerIni moduloPerIni_;
+    Servizi servizi_;
+    trameli::Forms forms_;  // last: the forms work with all of the above to their end
+};
+
+}  // namespace trameli
