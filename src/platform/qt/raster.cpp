@@ -46,19 +46,17 @@ void FillRings(const Pixels& pixels, const std::vector<std::uint32_t>& colours) 
         for (std::size_t x = 0; x < ring.size(); ++x) {
             ring[x] = static_cast<std::int32_t>(std::sqrt(across[x] + fromMiddle) * rings);
         }
-        std::uint32_t* const upper = pixels.Data + static_cast<std::ptrdiff_t>(y) * pixels.Stride;
+        const auto row = [&](int number) {
+            return pixels.Data + static_cast<std::ptrdiff_t>(number) * pixels.Stride;
+        };
+        std::uint32_t* const upper = row(y);
+        std::uint32_t* const lower = row(pixels.Height - 1 - y);
+        const std::size_t last = static_cast<std::size_t>(pixels.Width) - 1;
         for (std::size_t x = 0; x < ring.size(); ++x) {
             const auto index = static_cast<std::size_t>(ring[x]);
             if (index < colours.size()) {
-                upper[x] = colours[index];
-                upper[static_cast<std::size_t>(pixels.Width) - 1 - x] = colours[index];
+                upper[x] = upper[last - x] = lower[x] = lower[last - x] = colours[index];
             }
-        }
-        const int mirrored = pixels.Height - 1 - y;
-        if (mirrored != y) {
-            std::uint32_t* const lower =
-                pixels.Data + static_cast<std::ptrdiff_t>(mirrored) * pixels.Stride;
-            std::copy(upper, upper + pixels.Width, lower);
         }
     }
 }

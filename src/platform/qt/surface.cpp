@@ -137,7 +137,7 @@ void Surface::Native::Round(double x1, double y1, double x2, double y2, int pen,
 void Surface::Native::Rings(std::span<const Colour> colours) {
     std::vector<std::uint32_t> pixels;
     std::transform(colours.begin(), colours.end(), std::back_inserter(pixels), PixelOf);
-    FillRings(Target(), pixels);
+    trameli::FillRings(Target(), pixels);
     Touch(0, 0, image_.width(), image_.height());
 }
 
