@@ -17,5 +17,8 @@ build_preset() {
         # From scratch, or what an older preset or another place left in the cache would stay.
         cmake --fresh --preset "$preset" >&2
     fi
-    ninja -C "build/$preset" --quiet "$@" >&2
+    # Silent where nothing changed, as on most starts.
+    if [[ $(ninja -C "build/$preset" -n "$@") != *'ninja: no work to do.' ]]; then
+        ninja -C "build/$preset" "$@" >&2
+    fi
 }

@@ -59,6 +59,12 @@ wait_for_file() {
     done
 }
 
+# Ctrl-C at the terminal is for this script, which then ends things in order. Should the script be
+# killed outright, the system ends them.
+on_its_own() {
+    exec setpriv --pdeathsig TERM setsid "$@"
+}
+
 # Sets `server` and `number`. Each attempt lets the server itself find out whether the number and
 # its port are free, so that two starts at the same moment cannot take the same one.
 start_server() {
@@ -68,7 +74,7 @@ start_server() {
         # Nobody asks for a password, which is good only because nobody from outside can connect:
         # the viewers' port is on the loopback address and the X protocol has no port at all.
         # A viewer must not change the size either; the game lays itself out for one size.
-        setsid Xvnc ":$number" -rfbport "$port" -localhost -SecurityTypes None -nolisten tcp \
+        on_its_own Xvnc ":$number" -rfbport "$port" -localhost -SecurityTypes None -nolisten tcp \
             -geometry "$geometry" -depth 24 -AlwaysShared -AcceptSetDesktopSize=0 \
             -desktop Trameli -displayfd 3 3>"$room/number" >"$room/server.log" 2>&1 &
         server=$!
@@ -76,17 +82,16 @@ start_server() {
             return
         fi
         kill "$server" 2>/dev/null || true
-        wait "$server" 2>/dev/null || true
     done
-    server=
-    cat "$room/server.log" >&2
+    server=''
+    tail -n 3 "$room/server.log" >&2
     echo "The virtual display could not be started." >&2
     return 1
 }
 
 # The game starts when the window manager is ready, so that its first window is placed by it.
 start_window_manager() {
-    setsid openbox --startup "sh -c 'echo ready >\"\$TRAMELI_ROOM/manager\"'" \
+    on_its_own openbox --startup "sh -c 'echo ready >\"\$TRAMELI_ROOM/manager\"'" \
         >"$room/manager.log" 2>&1 &
     manager=$!
     wait_for_file "$room/manager" "$manager" && return
@@ -95,27 +100,37 @@ start_window_manager() {
     return 1
 }
 
+# May be interrupted by itself at its first line, never later. It does not `wait`: inside a handler
+# the shell can wait for ever for a process whose end it has already seen.
 stop_display() {
-    local process
-    trap - EXIT
     trap '' HUP INT TERM
+    local process tries=100
     # The game first: it must not see its display go.
     for process in $player $manager $server; do
         kill "$process" 2>/dev/null || true
-        wait "$process" 2>/dev/null || true
     done
+    # Whoever starts the game again at once should find the same display number free.
+    while [[ -n $server && -e /tmp/.X11-unix/X$number ]] && ((tries-- > 0)); do
+        sleep 0.02
+    done
+    player='' manager='' server=''
     rm -rf -- "$room"
 }
 
 # Runs a command on a display of its own, which ends with it, and returns its exit code.
 run_on_virtual_display() {
     geometry=${TRAMELI_GEOMETRY:-1366x768}
+    if [[ ! $geometry =~ ^[1-9][0-9]*x[1-9][0-9]*$ ]]; then
+        echo "TRAMELI_GEOMETRY is a width and a height like 1366x768, not '$geometry'." >&2
+        return 1
+    fi
     server='' manager='' player=''
     room=$(mktemp -d)
+    # Each on its own, as an exit inside a handler would cut short the one for EXIT.
     trap stop_display EXIT
-    trap 'exit 129' HUP
-    trap 'exit 130' INT
-    trap 'exit 143' TERM
+    trap 'stop_display; exit 129' HUP
+    trap 'stop_display; exit 130' INT
+    trap 'stop_display; exit 143' TERM
 
     start_server
     export DISPLAY=":$number" QT_QPA_PLATFORM=xcb TRAMELI_ROOM=$room

@@ -72,8 +72,10 @@ need_packages() {
     fi
 
     echo "Installing: ${missing[*]}" >&2
-    # The variable goes through env: sudo would drop it.
-    as_root+=(env DEBIAN_FRONTEND=noninteractive apt-get -q)
+    # The variable goes through env: sudo would drop it. A fresh machine is often busy with its own
+    # updates, so wait for those.
+    as_root+=(env DEBIAN_FRONTEND=noninteractive apt-get -q
+        -o DPkg::Lock::Timeout=300)
     # A list that cannot be renewed may still be good enough to install from.
     "${as_root[@]}" update >&2 || echo "The package lists could not be renewed." >&2
     "${as_root[@]}" install -y --no-install-recommends "${missing[@]}" >&2
