@@ -13,6 +13,17 @@
 
 namespace trameli {
 
+namespace {
+
+/// A colour two thirds of the way to grey.
+QColor Pale(const QColor& colour) {
+    constexpr int grey = 192;
+    return QColor((colour.red() + 2 * grey) / 3, (colour.green() + 2 * grey) / 3,
+                  (colour.blue() + 2 * grey) / 3);
+}
+
+}  // namespace
+
 Control::Control(Form& form, ControlName name) : form_(form), name_(std::move(name)) {
     form_.controls_.push_back(this);
 }
@@ -89,6 +100,8 @@ void VisualControl::ForeColor(Colour colour) {
     foreColor_ = colour;
     QPalette palette = native_->Widget->palette();
     palette.setColor(QPalette::WindowText, ToQt(colour));
+    // What cannot be used is pale, whatever its colour.
+    palette.setColor(QPalette::Disabled, QPalette::WindowText, Pale(ToQt(colour)));
     native_->Widget->setPalette(palette);
 }
 
