@@ -109,6 +109,7 @@ public:
     void MouseIcon(std::optional<PointerImage> icon);
 
     // Events. Each is a routine of the form, set when the form is made.
+    /// The keyboard came here from another control of the form, not just back with the window.
     std::function<void()> GotFocus;
     std::function<void()> MouseMove;
     /// Key code and shift bits. Comes after the form has seen the key.

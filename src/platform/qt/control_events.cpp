@@ -3,7 +3,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
-#include "platform/qt/key_gate.h"
+#include "platform/qt/form_window.h"
 #include "platform/qt/native.h"
 
 namespace trameli {
@@ -22,7 +22,10 @@ bool ControlEvents::eventFilter(QObject* object, QEvent* event) {
             // report a pointer that is not over it.
             return static_cast<QMouseEvent*>(event)->buttons() == Qt::NoButton;
         case QEvent::FocusIn:
-            Fire(control_, control_.GotFocus);
+            // The same control again means that only the window was away.
+            if (control_.OwnerForm().NativePart().Window.FocusMovedTo(control_)) {
+                Fire(control_, control_.GotFocus);
+            }
             return false;
         case QEvent::KeyRelease: {
             const auto* key = static_cast<QKeyEvent*>(event);

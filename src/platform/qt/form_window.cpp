@@ -93,6 +93,12 @@ void FormWindow::Present() {
     Settle();
 }
 
+bool FormWindow::FocusMovedTo(const Control& control) {
+    const bool moved = focused_ != &control;
+    focused_ = &control;
+    return moved;
+}
+
 void FormWindow::Dismiss() {
     settling_.stop();
     hide();

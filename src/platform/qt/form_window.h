@@ -34,6 +34,8 @@ public:
     void Title(const QString& title);
     /// Shows the window as large as the screen allows, or brings it to the front.
     void Present();
+    /// Notes which control has the keyboard; true if it is another one than before.
+    bool FocusMovedTo(const Control& control);
     /// Takes the window from the screen for good.
     void Dismiss();
 
@@ -52,6 +54,7 @@ private:
     Form& form_;
     ClientArea& client_;
     KeyGate keys_;
+    const Control* focused_ = nullptr;
     QTimer settling_;
     bool activated_ = false;       // Form_Activate has come once
     bool frontAnnounced_ = false;  // the desktop has said once that the window is in front
