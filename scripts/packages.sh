@@ -40,7 +40,7 @@ and its X11 or Wayland plugin; the fonts Comic Neue and Liberation Sans (or Comi
 Arial); without a display also TigerVNC's X server and the window manager openbox; for tests and
 benchmarks GoogleTest, Google Benchmark, Xvfb, openbox and xdotool.
 
-Debian's names of what this script uses:
+Missing, by Debian's names:
   ${*:2}
 
 If all of it is here already, run the script again with TRAMELI_SKIP_PACKAGES=1.
