@@ -4,10 +4,12 @@
 #
 # Each group is listed here and nowhere else. The names are Debian's (12 and later).
 
-# Compiler, build tools, and the toolkit's headers with its widgets and SVG drawing.
-packages_build=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev)
-# The window plugins of the toolkit, and the fonts that stand in for Comic Sans MS and Arial.
-packages_run=(qt6-qpa-plugins libqt6svg6 fonts-comic-neue fonts-liberation)
+# Compiler, build tools, the toolkit's headers with its widgets and SVG drawing, and the mixer's.
+packages_build=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libsdl2-mixer-dev)
+# The window plugins of the toolkit, the fonts that stand in for Comic Sans MS and Arial, and the
+# instruments of the music.
+packages_run=(qt6-qpa-plugins libqt6svg6 fonts-comic-neue fonts-liberation
+    libsdl2-mixer-2.0-0 timgm6mb-soundfont)
 # Only for a session that has Wayland and no X11.
 packages_wayland=(qt6-wayland)
 # Only where there is no display: a virtual one with a window manager.
@@ -35,10 +37,11 @@ tell_needs() {
     cat >&2 <<END
 $1
 
-Needed are a C++20 compiler, CMake 3.25 or later, Ninja, and Qt 6.4 or later with Widgets, Svg
-and its X11 or Wayland plugin; the fonts Comic Neue and Liberation Sans (or Comic Sans MS and
-Arial); without a display also TigerVNC's X server and the window manager openbox; for tests and
-benchmarks GoogleTest, Google Benchmark, Xvfb, openbox and xdotool.
+Needed are a C++20 compiler, CMake 3.25 or later, Ninja, Qt 6.4 or later with Widgets, Svg and
+its X11 or Wayland plugin, and SDL2_mixer 2.6 or later with FluidSynth; the fonts Comic Neue and
+Liberation Sans (or Comic Sans MS and Arial); for the music a General MIDI soundfont;
+without a display also TigerVNC's X server and the window manager openbox; for tests and benchmarks
+GoogleTest, Google Benchmark, Xvfb, openbox and xdotool.
 
 Missing, by Debian's names:
   ${*:2}

@@ -5,7 +5,7 @@
 int main(int argc, char** argv) {
     const trameli::Desktop desktop(argc, argv);
     trameli::Program program(desktop.Clock(), desktop.Screen(), desktop.FileSystem(),
-                             desktop.Dialogs(), desktop.Instances());
+                             desktop.Dialogs(), desktop.Instances(), desktop.Sounds());
     if (program.Main()) {
         program.Run();
     }

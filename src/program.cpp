@@ -13,12 +13,13 @@
 namespace trameli {
 
 Program::Program(Clock& clock, Screen& screen, FileSystem& fileSystem, Dialogs& dialogs,
-                 Instances& instances, std::unique_ptr<Casuale> casuale)
+                 Instances& instances, Sounds& sounds, std::unique_ptr<Casuale> casuale)
     : dialogs_(dialogs),
       instances_(instances),
       casuale_(std::move(casuale)),
       moduloPerIni_(stato_, fileSystem, dialogs, lingue_),
-      servizi_{stato_, lingue_, moduloPerIni_, fileSystem},
+      suoni_(stato_, sounds),
+      servizi_{stato_, lingue_, moduloPerIni_, fileSystem, suoni_},
       forms_(clock, screen) {
     RegistraForm();
 }

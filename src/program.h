@@ -10,10 +10,12 @@
 #include "platform/forms.h"
 #include "platform/instances.h"
 #include "platform/screen.h"
+#include "platform/sounds.h"
 #include "shell/lingue.h"
 #include "shell/modulo_per_ini.h"
 #include "shell/servizi.h"
 #include "shell/stato.h"
+#include "shell/suoni.h"
 
 namespace trameli {
 
@@ -23,7 +25,7 @@ class Program {
 public:
     /// `casuale` takes the place of the generator that `Main` seeds from the clock.
     Program(Clock& clock, Screen& screen, FileSystem& fileSystem, Dialogs& dialogs,
-            Instances& instances, std::unique_ptr<Casuale> casuale = nullptr);
+            Instances& instances, Sounds& sounds, std::unique_ptr<Casuale> casuale = nullptr);
 
     /// Starts the game: reads the first user's settings and shows the splash. False if another
     /// instance runs: that was told in a message box, and nothing was opened, read or written.
@@ -45,6 +47,7 @@ private:
     trameli::Stato stato_;
     Lingue lingue_;
     ModuloPerIni moduloPerIni_;
+    Suoni suoni_;
     Servizi servizi_;
     trameli::Forms forms_;  // last: the forms work with all of the above to their end
 };

@@ -8,6 +8,7 @@
 #include "platform/file_system.h"
 #include "platform/instances.h"
 #include "platform/screen.h"
+#include "platform/sounds.h"
 
 namespace trameli {
 
@@ -25,6 +26,7 @@ public:
     trameli::FileSystem& FileSystem() const;
     trameli::Dialogs& Dialogs() const;
     trameli::Instances& Instances() const;
+    trameli::Sounds& Sounds() const;
 
 private:
     struct Services;

@@ -8,10 +8,13 @@
 
 namespace trameli {
 
+/// What paths into the program folder begin with: sounds, languages and documents lie there.
+inline constexpr char ProgramFolder[] = "P:";
+
 /// The service for files. Paths are the program's own: "C:\..." with backslashes, UTF-8, without
-/// regard to case. "C:\" stands for the folder `trameli` in the user's data folder. A path with a
-/// part that could lead out of its folder ("..", a slash, a zero character) names nothing. No call
-/// throws.
+/// regard to case. "C:\" stands for the folder `trameli` in the user's data folder. "P:\" stands for
+/// the program folder, where nothing can be made or changed. A path with a part that could lead out
+/// of its folder ("..", a slash, a zero character) names nothing. No call throws.
 class FileSystem {
 public:
     virtual ~FileSystem() = default;

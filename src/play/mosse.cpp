@@ -73,10 +73,12 @@ void FormTrm::Passo(Lato lato) {
 
 void FormTrm::ColpitoMuro() {
     ContaBoing = Saturated(ContaBoing + 1);
+    servizi_.Suoni.SuonoMuro();
     ScriviBoing("Boing ");
 }
 
 void FormTrm::DisegnaLinea() {
+    servizi_.Suoni.SuonoPasso();
     ContaPassi = Saturated(ContaPassi + 1);
     ScriviPassi();
     DisegnaPasso(pictureTramelo, traccia_, giocatore_.PuntoCorrente(), ColoreTratto, Aspetto());
@@ -85,6 +87,7 @@ void FormTrm::DisegnaLinea() {
 void FormTrm::MostraFrameTrameloRisolto() {
     if (TrameliRisolti < Image1.Count()) {
         Image1(TrameliRisolti).Visible(true);
+        servizi_.Suoni.SuonoArrivo();
         BottoneAvanti.Visible(true);
         BottoneAvanti.SetFocus();
         if (stato_.ModoInput == 2) {

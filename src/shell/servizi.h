@@ -5,6 +5,7 @@
 #include "shell/lingue.h"
 #include "shell/modulo_per_ini.h"
 #include "shell/stato.h"
+#include "shell/suoni.h"
 
 namespace trameli {
 
@@ -14,6 +15,7 @@ struct Servizi {
     trameli::Lingue& Lingue;
     trameli::ModuloPerIni& ModuloPerIni;
     trameli::FileSystem& FileSystem;
+    trameli::Suoni& Suoni;
 };
 
 }  // namespace trameli

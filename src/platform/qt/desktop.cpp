@@ -14,6 +14,7 @@
 #include "platform/qt/folder_lock.h"
 #include "platform/qt/graphics.h"
 #include "platform/qt/local_file_system.h"
+#include "platform/qt/mixer_sounds.h"
 
 /// The pictures lie in a static library, where nothing else makes the linker keep them. Outside
 /// every namespace, as the toolkit wants it.
@@ -96,7 +97,10 @@ void PrepareToolkit() {
 
 struct Desktop::Services {
     Services(int& argc, char** argv)
-        : Application(argc, argv), Files(UserDataFolder()), Lock(UserDataFolder()) {}
+        : Application(argc, argv),
+          Files(UserDataFolder(), FindProgramFolder(ThisExecutable())),
+          Lock(UserDataFolder()),
+          Sounds(Files) {}
 
     QApplication Application;
     DesktopClock Clock;
@@ -104,6 +108,7 @@ struct Desktop::Services {
     LocalFileSystem Files;
     DesktopDialogs Dialogs;
     FolderLock Lock;
+    MixerSounds Sounds;
 };
 
 Desktop::Desktop(int& argc, char** argv) {
@@ -138,6 +143,10 @@ Dialogs& Desktop::Dialogs() const {
 
 Instances& Desktop::Instances() const {
     return services_->Lock;
+}
+
+Sounds& Desktop::Sounds() const {
+    return services_->Sounds;
 }
 
 }  // namespace trameli

@@ -18,7 +18,8 @@ namespace trameli {
 
 namespace {
 
-constexpr std::string_view Drive = "C:\\";
+constexpr std::string_view UserDrive = "C:\\";
+constexpr std::size_t DriveLength = UserDrive.size();
 
 /// Longest path on the disk that is tried; longer ones are refused by the system anyway.
 constexpr std::size_t LongestPath = 4000;
@@ -40,14 +41,20 @@ bool IsName(std::string_view part) {
            part.find_first_of(std::string_view("/\0", 2)) == std::string_view::npos;
 }
 
+bool IsOnUserDrive(std::string_view path) {
+    const std::string_view drive = path.substr(0, DriveLength);
+    return drive == UserDrive || drive == "c:\\";
+}
+
+bool IsInProgramFolder(std::string_view path) {
+    const std::string_view drive = path.substr(0, DriveLength);
+    return drive == "P:\\" || drive == "p:\\";
+}
+
 /// The parts of a path behind the drive; nothing if one of them is not a name.
-std::optional<std::vector<std::string>> PartsOf(const std::string& path) {
-    const std::string_view drive = std::string_view(path).substr(0, Drive.size());
-    if (drive != Drive && drive != "c:\\") {
-        return std::nullopt;
-    }
+std::optional<std::vector<std::string>> PartsOf(std::string_view path) {
     std::vector<std::string> parts;
-    std::string_view rest = std::string_view(path).substr(Drive.size());
+    std::string_view rest = path.substr(DriveLength);
     while (!rest.empty()) {
         const std::size_t end = std::min(rest.find('\\'), rest.size());
         if (!IsName(rest.substr(0, end))) {
@@ -128,11 +135,15 @@ bool WriteAll(int handle, std::string_view bytes) {
 }  // namespace
 
 std::optional<fs::path> LocalFileSystem::Find(const std::string& path) const {
+    const bool inProgramFolder = IsInProgramFolder(path) && !program_.empty();
+    if (!inProgramFolder && !IsOnUserDrive(path)) {
+        return std::nullopt;
+    }
     const auto parts = PartsOf(path);
     if (!parts) {
         return std::nullopt;
     }
-    fs::path place = root_;
+    fs::path place = inProgramFolder ? program_ : root_;
     for (const std::string& part : *parts) {
         place = Within(place, part);
         if (place.native().size() > LongestPath) {
@@ -156,7 +167,7 @@ bool LocalFileSystem::FolderExists(const std::string& path) const {
 
 bool LocalFileSystem::CreateFolder(const std::string& path) {
     const auto place = Find(path);
-    if (!place) {
+    if (!place || IsInProgramFolder(path)) {
         return false;
     }
     std::error_code error;
@@ -196,7 +207,7 @@ std::optional<std::string> LocalFileSystem::Read(const std::string& path, std::s
 
 bool LocalFileSystem::Replace(const std::string& path, const std::string& bytes) {
     auto place = Find(path);
-    if (!place) {
+    if (!place || IsInProgramFolder(path)) {
         return false;
     }
     std::error_code error;
@@ -216,7 +227,9 @@ bool LocalFileSystem::Replace(const std::string& path, const std::string& bytes)
         }
     }
     // Always the same name beside the file: what a crash left there is written over.
-    const fs::path beside = place->parent_path() / ("." + place->filename().string() + ".new");
+    fs::path beside = place->parent_path() / ".";
+    beside += place->filename();
+    beside += ".new";
     OpenFile file(beside, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
     const bool written = file.IsOpen() && WriteAll(file.Handle(), bytes) &&
                          fsync(file.Handle()) == 0 && file.Close() &&
@@ -262,6 +275,24 @@ fs::path UserDataFolder() {
         home = user ? user->pw_dir : "/";
     }
     return fs::path(home) / ".local" / "share" / "trameli";
+}
+
+fs::path ThisExecutable() {
+    std::error_code error;
+    return fs::read_symlink("/proc/self/exe", error);
+}
+
+fs::path FindProgramFolder(const fs::path& executable) {
+    // Run from where it was built, a program still finds its files; an installed one comes first,
+    // so that sources lying around never take the place of what belongs to it.
+    const fs::path installed = executable.parent_path().parent_path() / "share" / "trameli";
+    for (const fs::path& folder : {installed, fs::path(TRAMELI_SOURCE_ASSETS)}) {
+        std::error_code error;
+        if (folder.is_absolute() && fs::is_directory(folder, error)) {
+            return folder;
+        }
+    }
+    return {};
 }
 
 }  // namespace trameli

@@ -11,7 +11,9 @@ namespace trameli {
 class LocalFileSystem final : public FileSystem {
 public:
     /// `root` is the folder that "C:\" stands for. It is made when something is first put into it.
-    explicit LocalFileSystem(std::filesystem::path root) : root_(std::move(root)) {}
+    /// `program` is the program folder; without one, paths into it name nothing.
+    explicit LocalFileSystem(std::filesystem::path root, std::filesystem::path program = {})
+        : root_(std::move(root)), program_(std::move(program)) {}
 
     bool FileExists(const std::string& path) const override;
     bool FolderExists(const std::string& path) const override;
@@ -28,10 +30,17 @@ private:
     std::optional<std::filesystem::path> Find(const std::string& path) const;
 
     std::filesystem::path root_;
+    std::filesystem::path program_;
 };
 
 /// The folder `trameli` in the user's data folder: $XDG_DATA_HOME if that is an absolute path,
 /// else .local/share in the home folder.
 std::filesystem::path UserDataFolder();
+
+/// The program folder of an executable: share/trameli beside its own folder if the program is
+/// installed, else the folder of the sources it was built from. Empty if neither exists.
+std::filesystem::path FindProgramFolder(const std::filesystem::path& executable);
+/// The file that this process runs.
+std::filesystem::path ThisExecutable();
 
 }  // namespace trameli

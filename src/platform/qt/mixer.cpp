@@ -1,0 +1,182 @@
+#include "platform/qt/mixer.h"
+
+#include <SDL.h>
+#include <SDL_mixer.h>
+
+#include <optional>
+#include <utility>
+
+#include "platform/qt/sound_files.h"
+
+namespace trameli {
+
+namespace {
+
+using Now = std::chrono::steady_clock;
+
+/// A minute of waves at the least, and pieces of music of hours; more is not a sound of a game.
+constexpr std::size_t LongestWave = 4 << 20;
+constexpr std::size_t LongestMusic = 1 << 20;
+
+constexpr int Rate = 44100;
+constexpr int Stereo = 2;
+constexpr int FramesPerBuffer = 1024;  // a step is heard within some 25 ms
+constexpr int OnlyChannel = 0;
+
+/// The number that the library gives to the first device a process opens.
+constexpr SDL_AudioDeviceID OnlyDevice = 2;
+
+/// General MIDI instruments, small sets first: all of a set is read before the first note.
+constexpr const char* SoundFonts[] = {
+    "/usr/share/sounds/sf2/TimGM6mb.sf2",   "/usr/share/soundfonts/TimGM6mb.sf2",
+    "/usr/share/sounds/sf3/default-GM.sf3", "/usr/share/sounds/sf2/default-GM.sf2",
+    "/usr/share/soundfonts/default.sf2",    "/usr/share/sounds/sf2/FluidR3_GM.sf2",
+    "/usr/share/soundfonts/FluidR3_GM.sf2",
+};
+
+const char* FindSoundFont() {
+    for (const char* font : SoundFonts) {
+        std::error_code error;
+        if (std::filesystem::is_regular_file(font, error)) {
+            return font;
+        }
+    }
+    return nullptr;
+}
+
+/// The bytes of a file that is not longer than `longest`.
+std::optional<std::string> Read(const LocalFileSystem& files, const std::string& path,
+                                std::size_t longest) {
+    auto bytes = files.Read(path, longest + 1);
+    if (bytes && bytes->size() > longest) {
+        bytes.reset();
+    }
+    return bytes;
+}
+
+SDL_RWops* StreamOf(const std::string& bytes) {
+    return SDL_RWFromConstMem(bytes.data(), static_cast<int>(bytes.size()));
+}
+
+}  // namespace
+
+void Mixer::FreeChunk::operator()(Mix_Chunk* chunk) const {
+    Mix_FreeChunk(chunk);
+}
+
+void Mixer::FreeMusic::operator()(_Mix_Music* music) const {
+    Mix_FreeMusic(music);
+}
+
+Mixer::Mixer(LocalFileSystem files, Patience patience)
+    : files_(std::move(files)), patience_(patience) {}
+
+Mixer::~Mixer() {
+    Close();
+}
+
+bool Mixer::Open() {
+    if (open_ && HasLostDevice()) {
+        Close();
+    }
+    lastSound_ = Now::now();
+    if (open_) {
+        return true;
+    }
+    if (lastSound_ < retryAt_) {
+        return false;
+    }
+    // Ctrl-C ends the program as if there were no sounds.
+    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+    SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Trameli");
+    if (SDL_InitSubSystem(SDL_INIT_AUDIO) == 0) {
+        if (Mix_OpenAudioDevice(Rate, AUDIO_S16SYS, Stereo, FramesPerBuffer, nullptr, 0) == 0) {
+            Mix_AllocateChannels(OnlyChannel + 1);
+            open_ = true;
+            return true;
+        }
+        SDL_QuitSubSystem(SDL_INIT_AUDIO);
+    }
+    retryAt_ = Now::now() + patience_.Retry;
+    return false;
+}
+
+void Mixer::Close() {
+    if (!open_) {
+        return;
+    }
+    StopMusic();
+    Mix_HaltChannel(OnlyChannel);
+    // The waves stay for the next time; they were decoded for a format that is always asked for.
+    Mix_CloseAudio();
+    SDL_QuitSubSystem(SDL_INIT_AUDIO);
+    open_ = false;
+}
+
+bool Mixer::HasLostDevice() const {
+    return SDL_GetAudioDeviceStatus(OnlyDevice) == SDL_AUDIO_STOPPED;
+}
+
+void Mixer::Rest() {
+    if (!open_) {
+        return;
+    }
+    if (HasLostDevice()) {
+        Close();
+        return;
+    }
+    const auto now = Now::now();
+    if (Mix_Playing(OnlyChannel) != 0 || Mix_PlayingMusic() != 0) {
+        lastSound_ = now;
+    } else if (now - lastSound_ >= patience_.Silence) {
+        Close();
+    }
+}
+
+Mix_Chunk* Mixer::Wave(const std::string& path) {
+    const auto known = waves_.find(path);
+    if (known != waves_.end()) {
+        return known->second.get();
+    }
+    auto& wave = waves_[path];
+    const auto bytes = Read(files_, path, LongestWave);
+    if (bytes && IsPlainWave(*bytes)) {
+        wave.reset(Mix_LoadWAV_RW(StreamOf(*bytes), 1));
+    }
+    return wave.get();
+}
+
+void Mixer::PlayWave(const std::string& path) {
+    if (!Open()) {
+        return;
+    }
+    // The one before is cut off even if the new one turns out to be silent.
+    Mix_HaltChannel(OnlyChannel);
+    if (Mix_Chunk* wave = Wave(path)) {
+        Mix_PlayChannel(OnlyChannel, wave, 0);
+    }
+}
+
+void Mixer::PlayMusic(const std::string& path) {
+    StopMusic();
+    auto bytes = Read(files_, path, LongestMusic);
+    const char* font = FindSoundFont();
+    if (!bytes || !IsMidi(*bytes) || !font || !Open()) {
+        return;
+    }
+    musicBytes_ = std::move(*bytes);
+    Mix_SetSoundFonts(font);
+    music_.reset(Mix_LoadMUSType_RW(StreamOf(musicBytes_), MUS_MID, 1));
+    if (music_) {
+        Mix_PlayMusic(music_.get(), 1);
+    }
+}
+
+void Mixer::StopMusic() {
+    if (music_) {
+        Mix_HaltMusic();
+        music_.reset();
+    }
+}
+
+}  // namespace trameli

@@ -1,0 +1,38 @@
+// Sounds of the desktop.
+#pragma once
+
+#include <chrono>
+#include <memory>
+#include <string>
+#include <thread>
+
+#include "platform/qt/local_file_system.h"
+#include "platform/qt/mixer.h"
+#include "platform/sounds.h"
+
+namespace trameli {
+
+/// Hands what is asked for to a thread that plays it, and forgets about it: a sound system that is
+/// slow, hangs or is not there holds nothing up. One at a time in a process.
+class MixerSounds final : public Sounds {
+public:
+    explicit MixerSounds(LocalFileSystem files, Mixer::Patience patience = {});
+    /// Ends all sounds. A thread that hangs in the sound system is left behind.
+    ~MixerSounds() override;
+    MixerSounds(const MixerSounds&) = delete;
+    MixerSounds& operator=(const MixerSounds&) = delete;
+
+    void PlayWave(const std::string& path) override;
+    void OpenMusic(const std::string& path) override;
+    void PlayMusic() override;
+    void CloseMusic() override;
+
+private:
+    struct Wishes;
+    static void Serve(const std::stop_token& stop, Wishes& wishes, Mixer& mixer);
+
+    std::shared_ptr<Wishes> wishes_;  ///< also of the thread, which may live longer
+    std::jthread thread_;
+};
+
+}  // namespace trameli
