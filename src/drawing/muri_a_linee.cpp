@@ -26,36 +26,31 @@ constexpr std::array Ordine{Lato::Alto, Lato::Basso, Lato::Sinistra, Lato::Destr
 
 }  // namespace
 
-int SporgenzaMuri(double spessoreMuri, double twipsPerPixelX) {
-    return Quotient(Nearest(twipsPerPixelX * spessoreMuri), 2);
-}
-
 Segmento SegmentoMuro(Cella cella, Lato lato, const Misure& misure, int sporgenza) {
     const Spigoli& spigoli = Lati[static_cast<std::size_t>(lato)];
-    const bool orizzontale = spigoli.Y1 == spigoli.Y2;
-    const int lungoX = orizzontale ? sporgenza : 0;
-    const int lungoY = orizzontale ? 0 : sporgenza;
     const auto x = [&](int spigolo) {
-        return (cella.Colonna - 1 + spigolo) * misure.DimensioneCella + misure.MargineSinistro;
+        return Saturated((cella.Colonna - 1 + spigolo) * misure.DimensioneCella +
+                         misure.MargineSinistro);
     };
     const auto y = [&](int spigolo) {
-        return (cella.Riga - 1 + spigolo) * misure.DimensioneCella + misure.MargineSuperiore;
+        return Saturated((cella.Riga - 1 + spigolo) * misure.DimensioneCella +
+                         misure.MargineSuperiore);
     };
-    return {{Saturated(x(spigoli.X1) - lungoX), Saturated(y(spigoli.Y1) - lungoY)},
-            {Saturated(x(spigoli.X2) + lungoX), Saturated(y(spigoli.Y2) + lungoY)}};
+    return Allunga({{x(spigoli.X1), y(spigoli.Y1)}, {x(spigoli.X2), y(spigoli.Y2)}}, sporgenza,
+                   sporgenza);
 }
 
 void DisegnaMuriALinee(Surface& superficie, const Tramelo& tramelo, const Misure& misure,
                        Estremi estremi, Colour colore, double twipsPerPixelX) {
     const int sporgenza =
-        estremi == Estremi::Quadri ? SporgenzaMuri(misure.SpessoreMuri, twipsPerPixelX) : 0;
+        estremi == Estremi::Quadri ? MetaPenna(misure.SpessoreMuri, twipsPerPixelX) : 0;
     superficie.DrawWidth(Nearest(misure.SpessoreMuri));
     for (std::int16_t r = 1; r <= tramelo.Righe(); ++r) {
         for (std::int16_t c = 1; c <= tramelo.Colonne(); ++c) {
             for (const Lato lato : Ordine) {
                 if (tramelo.Muri(r, c, lato)) {
                     Disegna(superficie, SegmentoMuro({r, c}, lato, misure, sporgenza), estremi,
-                            colore);
+                            colore, twipsPerPixelX);
                 }
             }
         }

@@ -6,24 +6,27 @@
 
 namespace trameli {
 
-/// A straight stroke from one point to another, twips.
+/// A straight stroke from one point to another along a row or a column, twips.
 struct Segmento {
     Punto Da;
     Punto A;
     bool operator==(const Segmento&) const = default;
 };
 
-/// How a stroke ends: with the round end of the pen, or cut off square.
+/// The stroke with its first end moved backward and its second end moved forward by so many twips;
+/// negative ones shorten it. A stroke of length zero has no direction and stays as it is.
+Segmento Allunga(const Segmento& segmento, int indietro, int avanti);
+
+/// Half the thickness of a pen in twips.
+int MetaPenna(double pixel, double twipsPerPixel);
+
+/// How a stroke ends: with the round end of the pen beyond its two points, or cut off square right
+/// at them.
 enum class Estremi { Tondi, Quadri };
 
-/// Draws the stroke with the pen that the surface has.
-inline void Disegna(Surface& superficie, const Segmento& segmento, Estremi estremi, Colour colore) {
-    const auto& [da, a] = segmento;
-    if (estremi == Estremi::Quadri) {
-        superficie.DrawBox(da.X, da.Y, a.X, a.Y, colore);
-    } else {
-        superficie.DrawLine(da.X, da.Y, a.X, a.Y, colore);
-    }
-}
+/// Draws the stroke with the pen that the surface has. One of length zero is a point of the pen's
+/// width, round or square.
+void Disegna(Surface& superficie, const Segmento& segmento, Estremi estremi, Colour colore,
+             double twipsPerPixel);
 
 }  // namespace trameli

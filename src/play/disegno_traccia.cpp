@@ -6,16 +6,14 @@ namespace trameli {
 
 namespace {
 
-void DisegnaPunto(Surface& superficie, Punto punto, int penna, Estremi estremi, Colour colore) {
-    superficie.DrawWidth(penna);
-    Disegna(superficie, {punto, punto}, estremi, colore);
-}
-
 void DisegnaTratti(Surface& superficie, const Traccia& traccia, const AspettoTraccia& aspetto) {
     superficie.DrawWidth(aspetto.PennaTraccia);
     for (int i = 1; i <= traccia.ContaPunti(); ++i) {
-        Disegna(superficie, traccia.Tratto(i, aspetto.Indietro), aspetto.EstremiTratti,
-                traccia.PercorsoColore(i));
+        // A long trace has gone up and down the same few corridors: most of it is out of sight.
+        if (!traccia.Coperto(i)) {
+            Disegna(superficie, traccia.Tratto(i, aspetto.Indietro), aspetto.EstremiTratti,
+                    traccia.PercorsoColore(i), aspetto.TwipsPerPixel);
+        }
     }
 }
 
@@ -26,12 +24,13 @@ AspettoTraccia AspettoDi(const Spessori& spessori, std::int16_t dimensioneCella,
                          Colour coloreSimbolo) {
     AspettoTraccia aspetto{};
     aspetto.PennaSimbolo = 2 * spessori.SpessoreTraccia;
+    aspetto.TwipsPerPixel = twipsPerPixelX;
     aspetto.ColoreSfondo = coloreSfondo;
     aspetto.ColoreSimbolo = coloreSimbolo;
     if (coloraCasella) {
         // From the middle of a cell back to the face of its wall.
-        const int muro = Nearest(twipsPerPixelX * spessori.SpessoreMuri);
-        aspetto.Indietro = Quotient(dimensioneCella, 2) - Quotient(muro, 2);
+        aspetto.Indietro =
+            Quotient(dimensioneCella, 2) - MetaPenna(spessori.SpessoreMuri, twipsPerPixelX);
         aspetto.PennaTraccia = spessori.LarghezzaCorridoio;
         aspetto.EstremiTratti = Estremi::Quadri;
     } else {
@@ -43,13 +42,15 @@ AspettoTraccia AspettoDi(const Spessori& spessori, std::int16_t dimensioneCella,
 
 void DisegnaSimbolo(Surface& superficie, Punto punto, const AspettoTraccia& aspetto,
                     Estremi estremi) {
-    DisegnaPunto(superficie, punto, aspetto.PennaSimbolo, estremi, aspetto.ColoreSimbolo);
+    superficie.DrawWidth(aspetto.PennaSimbolo);
+    Disegna(superficie, {punto, punto}, estremi, aspetto.ColoreSimbolo, aspetto.TwipsPerPixel);
 }
 
 void DisegnaPasso(Surface& superficie, Traccia& traccia, Punto destinazione, Colour colore,
                   const AspettoTraccia& aspetto) {
-    DisegnaPunto(superficie, traccia.Testa(), aspetto.PennaTraccia, Estremi::Tondi,
-                 aspetto.ColoreSfondo);
+    const Punto testa = traccia.Testa();
+    superficie.DrawWidth(aspetto.PennaTraccia);
+    superficie.DrawLine(testa.X, testa.Y, testa.X, testa.Y, aspetto.ColoreSfondo);
     traccia.Aggiungi(destinazione, colore);
     DisegnaTratti(superficie, traccia, aspetto);
     DisegnaSimbolo(superficie, traccia.Testa(), aspetto);

@@ -15,6 +15,7 @@ struct AspettoTraccia {
     int PennaSimbolo;  ///< pixels
     Estremi EstremiTratti;
     int Indietro;  ///< twips by which a segment begins behind its first point
+    double TwipsPerPixel;
     Colour ColoreSfondo;
     Colour ColoreSimbolo;
 };

@@ -2,16 +2,9 @@
 
 #include <algorithm>
 
-#include "base/rounding.h"
-
 namespace trameli {
 
 namespace {
-
-/// -1, 0 or 1.
-int Segno(int x) {
-    return (x > 0) - (x < 0);
-}
 
 template <typename Elenco>
 void DimenticaIlPrimo(Elenco& elenco) {
@@ -36,6 +29,7 @@ void Traccia::Azzera() {
     percorsoX_.fill(0);
     percorsoY_.fill(0);
     percorsoColore_.fill(0);
+    coperto_.fill(false);
     std::fill(passaggi_.begin(), passaggi_.end(), false);
 }
 
@@ -49,6 +43,7 @@ void Traccia::Aggiungi(Punto punto, Colour colore) {
         DimenticaIlPrimo(percorsoX_);
         DimenticaIlPrimo(percorsoY_);
         DimenticaIlPrimo(percorsoColore_);
+        DimenticaIlPrimo(coperto_);
     } else {
         ++contaPunti_;
     }
@@ -56,6 +51,13 @@ void Traccia::Aggiungi(Punto punto, Colour colore) {
     percorsoX_[ultimo] = punto.X;
     percorsoY_[ultimo] = punto.Y;
     percorsoColore_[ultimo] = colore;
+    coperto_[ultimo] = false;
+    const Segmento nuovo = Tratto(contaPunti_, 0);
+    for (int i = 1; i < contaPunti_; ++i) {
+        if (Tratto(i, 0) == nuovo) {
+            coperto_[static_cast<std::size_t>(i)] = true;
+        }
+    }
 }
 
 bool Traccia::Attraversa(const Passaggio& passaggio) {
@@ -69,12 +71,8 @@ bool Traccia::Passaggi(int riga, int colonna, int verso) const {
 }
 
 Segmento Traccia::Tratto(int i, int indietro) const {
-    const int x1 = PercorsoX(i - 1);
-    const int y1 = PercorsoY(i - 1);
-    const std::int16_t x2 = PercorsoX(i);
-    const std::int16_t y2 = PercorsoY(i);
-    return {{Saturated(x1 - indietro * Segno(x2 - x1)), Saturated(y1 - indietro * Segno(y2 - y1))},
-            {x2, y2}};
+    return Allunga({{PercorsoX(i - 1), PercorsoY(i - 1)}, {PercorsoX(i), PercorsoY(i)}}, indietro,
+                   0);
 }
 
 }  // namespace trameli
