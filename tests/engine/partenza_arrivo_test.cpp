@@ -88,7 +88,7 @@ TEST(Configurazione, OthersAreRefused) {
 struct CasoSpessore {
     double Spessore;
     std::int16_t
-        Alto;  // of configuration 0 with cells of 600 on the 3 by 4 grid, margins 50 and 40
+        Alto;  // of configuration 0 with cells of 600 on the 3 by 4 grid, margins 51 and 40
     std::int16_t Sinistra;
     std::int16_t SinistraATempo;
     std::int16_t Lato;
@@ -100,7 +100,7 @@ class Spessori : public testing::TestWithParam<CasoSpessore> {};
 TEST_P(Spessori, AreRoundedBeforeTheyAreHalved) {
     const CasoSpessore& caso = GetParam();
     const Misure misure{.DimensioneCella = 600,
-                        .MargineSinistro = 50,
+                        .MargineSinistro = 51,
                         .MargineSuperiore = 40,
                         .SpessoreMuri = caso.Spessore};
     const PartenzaArrivo scelta = Configurazione(0, 3, 4, misure);
@@ -116,15 +116,15 @@ TEST_P(Spessori, AreRoundedBeforeTheyAreHalved) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Misure, Spessori,
-                         testing::Values(CasoSpessore{0, 1840, 1950, 6050, 400},
-                                         CasoSpessore{1, 1840, 1950, 6051, 398},
-                                         CasoSpessore{2.5, 1841, 1951, 6052, 398},
-                                         CasoSpessore{3, 1841, 1951, 6053, 398},
-                                         CasoSpessore{3.5, 1842, 1952, 6054, 396},
-                                         CasoSpessore{4.5, 1842, 1952, 6054, 396},
-                                         CasoSpessore{5.5, 1843, 1953, 6056, 396},
-                                         CasoSpessore{6.4, 1843, 1953, 6056, 396},
-                                         CasoSpessore{12, 1846, 1956, 6062, 392}));
+                         testing::Values(CasoSpessore{0, 1840, 1951, 6051, 400},
+                                         CasoSpessore{1, 1840, 1951, 6052, 398},
+                                         CasoSpessore{2.5, 1841, 1952, 6054, 398},
+                                         CasoSpessore{3, 1841, 1952, 6054, 398},
+                                         CasoSpessore{3.5, 1842, 1953, 6054, 396},
+                                         CasoSpessore{4.5, 1842, 1953, 6056, 396},
+                                         CasoSpessore{5.5, 1843, 1954, 6056, 396},
+                                         CasoSpessore{6.4, 1843, 1954, 6057, 396},
+                                         CasoSpessore{12, 1846, 1957, 6063, 392}));
 
 TEST(LatoArrivoImmagine, SmallAndImpossibleCells) {
     const auto lato = [](std::int16_t cella, double spessore) {

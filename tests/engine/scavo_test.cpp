@@ -218,16 +218,19 @@ TEST(AbbattiAltriMuri, EndsWithTheLastInnerWall) {
     tramelo.AbbattiAltriMuri(1);
 }
 
-TEST(AbbattiAltriMuri, EndsOnAWallThatStandsOnOneSideOnly) {
+TEST(AbbattiAltriMuri, AWallThatStandsOnOneSideOnlyCountsToo) {
     CasualeFinto casuale;
-    Tramelo tramelo(1, 2, casuale);
+    Tramelo tramelo(1, 3, casuale);
     tramelo.CreaNuovaGriglia();
     tramelo.Apri(CellaA(1, 2), Lato::Sinistra);
+    tramelo.Apri(CellaA(1, 2), Lato::Destra);
     casuale.AggiungiMuro(tramelo, 1, 2, Lato::Sinistra);
     casuale.AggiungiMuro(tramelo, 1, 1, Lato::Destra);
+    casuale.AggiungiMuro(tramelo, 1, 3, Lato::Sinistra);
     tramelo.AbbattiAltriMuri(5);
     EXPECT_EQ(casuale.Rimasti(), 0U);
-    EXPECT_EQ(MuriInterni(tramelo), 0);
+    EXPECT_FALSE(tramelo.Muri(1, 1, Lato::Destra));
+    EXPECT_FALSE(tramelo.Muri(1, 3, Lato::Sinistra));
 }
 
 class AnyLevel : public testing::TestWithParam<int> {
