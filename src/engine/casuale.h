@@ -39,10 +39,10 @@ public:
     explicit CasualeConSeme(std::uint64_t seme);
 
     float Estrai() override {
-        if (m_prossimo == m_scorta.size()) {
+        if (prossimo_ == scorta_.size()) {
             Riempi();
         }
-        return m_scorta[m_prossimo++];
+        return scorta_[prossimo_++];
     }
 
 private:
@@ -54,10 +54,10 @@ private:
 
     void Riempi();
 
-    Generatore m_generatore;
+    Generatore generatore_;
     // A carve rejects many draws and is about as fast as they come, so they are made in advance.
-    std::array<float, Generatore::state_size> m_scorta;
-    std::size_t m_prossimo = 0;
+    std::array<float, Generatore::state_size> scorta_;
+    std::size_t prossimo_ = 0;
 };
 
 }  // namespace trameli

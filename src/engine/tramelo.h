@@ -53,24 +53,24 @@ public:
     /// and must outlive the maze.
     Tramelo(int righe, int colonne, Casuale& casuale);
 
-    std::int16_t Righe() const { return m_righe; }
-    std::int16_t Colonne() const { return m_colonne; }
+    std::int16_t Righe() const { return righe_; }
+    std::int16_t Colonne() const { return colonne_; }
     /// Rows times columns.
-    std::int16_t NumeroCelle() const { return m_numeroCelle; }
+    std::int16_t NumeroCelle() const { return numeroCelle_; }
 
     /// The label of the region a cell belongs to, 1 to NumeroCelle; r from 0 to R, c from 0 to C.
-    std::int16_t Griglia(int r, int c) const { return m_griglia[Indice(r, c)]; }
+    std::int16_t Griglia(int r, int c) const { return griglia_[Indice(r, c)]; }
     /// True: a wall stands on this side of this cell. An inner wall has a flag in both its cells.
-    bool Muri(int r, int c, Lato lato) const { return (m_muri[Indice(r, c)] & Bit(lato)) != 0; }
+    bool Muri(int r, int c, Lato lato) const { return (muri_[Indice(r, c)] & Bit(lato)) != 0; }
     /// True: carving may not choose this wall, for it is an outside one or has been examined
     /// before.
     bool MuriProtetti(int r, int c, Lato lato) const {
-        return (m_muriProtetti[Indice(r, c)] & Bit(lato)) != 0;
+        return (muriProtetti_[Indice(r, c)] & Bit(lato)) != 0;
     }
     /// Regions still apart; 1 once carved, NumeroCelle on a grid that is never carved.
-    std::int16_t RegioniRimaste() const { return m_regioniRimaste; }
+    std::int16_t RegioniRimaste() const { return regioniRimaste_; }
     /// What the last ContaMuriRimasti found, 0 before it.
-    std::int16_t MuriRimasti() const { return m_muriRimasti; }
+    std::int16_t MuriRimasti() const { return muriRimasti_; }
 
     /// Starts anew: every wall stands, none is protected, each cell is a region of its own,
     /// numbered 1 to R x C in reading order.
@@ -109,34 +109,32 @@ private:
         return static_cast<std::uint8_t>(1U << static_cast<unsigned>(lato));
     }
     std::size_t Indice(int r, int c) const {
-        return static_cast<std::size_t>(r) * m_passo + static_cast<std::size_t>(c);
+        return static_cast<std::size_t>(r) * passo_ + static_cast<std::size_t>(c);
     }
     using Bandiere = std::vector<std::uint8_t>;  // four flags a cell, bit s for side s
 
     static bool Ha(const Bandiere& bandiere, Faccia faccia) {
         return (bandiere[faccia.Cella] & Bit(faccia.Su)) != 0;
     }
-    void Togli(Faccia faccia) {
-        m_muri[faccia.Cella] &= static_cast<std::uint8_t>(~Bit(faccia.Su));
-    }
+    void Togli(Faccia faccia) { muri_[faccia.Cella] &= static_cast<std::uint8_t>(~Bit(faccia.Su)); }
     Faccia EstraiFaccia();
     Faccia Altra(Faccia faccia) const;
     void Unisci(std::int16_t minore, std::int16_t maggiore);
 
-    Casuale& m_casuale;
-    std::int16_t m_righe;
-    std::int16_t m_colonne;
-    std::int16_t m_numeroCelle;
-    std::int16_t m_regioniRimaste = 0;
-    std::int16_t m_muriRimasti = 0;
-    std::size_t m_passo;  // entries from one row to the next, column 0 included
-    std::vector<std::int16_t> m_griglia;
-    Bandiere m_muri;
-    Bandiere m_muriProtetti;
-    Bandiere m_esterni;  // the outside walls, by position
+    Casuale& casuale_;
+    std::int16_t righe_;
+    std::int16_t colonne_;
+    std::int16_t numeroCelle_;
+    std::int16_t regioniRimaste_ = 0;
+    std::int16_t muriRimasti_ = 0;
+    std::size_t passo_;  // entries from one row to the next, column 0 included
+    std::vector<std::int16_t> griglia_;
+    Bandiere muri_;
+    Bandiere muriProtetti_;
+    Bandiere esterni_;  // the outside walls, by position
     // By label: the entries of the first and the last cell of its region, in reading order.
-    std::vector<std::size_t> m_prime;
-    std::vector<std::size_t> m_ultime;
+    std::vector<std::size_t> prime_;
+    std::vector<std::size_t> ultime_;
 };
 
 }  // namespace trameli
