@@ -94,6 +94,7 @@ private:
     std::optional<PointerImage> mouseIcon_;
     std::vector<Control*> controls_;
     bool loaded_ = false;
+    bool unloading_ = false;
     std::unique_ptr<Native> native_;
 };
 

@@ -55,13 +55,17 @@ public:
     void Dispatch(Form& form, const std::function<void()>& routine);
 
 private:
+    using Place = std::vector<std::unique_ptr<Form>>::iterator;
+
+    Place PlaceOf(const Form& form);
     void Bury();
+    void BringLastToFront();
     void StopIfDeserted();
 
     trameli::Clock& clock_;
     trameli::Screen& screen_;
     std::map<std::string, Maker> makers_;
-    std::vector<std::unique_ptr<Form>> loaded_;
+    std::vector<std::unique_ptr<Form>> loaded_;  // in the order in which they were shown last
     std::vector<std::unique_ptr<Form>> buried_;  // unloaded, perhaps with a routine under way
     int routinesUnderWay_ = 0;
     bool ended_ = false;

@@ -22,6 +22,8 @@ public:
     std::function<void()> Tick;
 
 private:
+    friend class Forms;
+
     void Restart();
 
     int interval_;

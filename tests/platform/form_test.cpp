@@ -1,78 +1,308 @@
-// The life of a form: loading, size, activation, unloading.
-#include <gtest/gtest.h>
+// The life of a form: loading, size, activation, and the end of the program.
+#include <QApplication>
+#include <QKeyEvent>
+#include <QTimer>
+#include <QWindow>
+#include <algorithm>
 
-#include "platform/command_button.h"
-#include "platform/forms.h"
-#include "support/hand_clock.h"
-#include "support/stage.h"
+#include "platform/scripted_form.h"
 
 namespace trameli {
 namespace {
 
-using Log = std::vector<std::string>;
+class FormTest : public ScriptedProgram {};
 
-/// Notes what happens to it.
-class NotingForm : public Form {
-public:
-    NotingForm(trameli::Forms& forms, Log& log)
-        : Form(forms, "NotingForm", {6000, 3000}),
-          Button(*this, "Button", {100, 100, 1500, 600}, "Press"),
-          log_(log) {
-        Button.Click = [this] { log_.push_back("click"); };
-    }
-
-    CommandButton Button;
-    std::function<void()> WhenActivated;
-
-protected:
-    void Form_Load() override { log_.push_back("load"); }
-    void Form_Resize() override { log_.push_back("resize"); }
-    void Form_Activate() override {
-        log_.push_back("activate " + std::to_string(static_cast<int>(Width())));
-        if (WhenActivated) {
-            WhenActivated();
-        }
-    }
-    void Form_Unload() override { log_.push_back("unload"); }
-    void Form_KeyUp(int keyCode, int) override { log_.push_back("key " + std::to_string(keyCode)); }
-
-private:
-    Log& log_;
-};
-
-class FormTest : public testing::Test {
-protected:
-    FormTest() {
-        Program.Register("NotingForm", [this](Forms& forms) {
-            return std::make_unique<NotingForm>(forms, Seen);
-        });
-    }
-
-    HandClock Time;
-    FixedScreen Display{1024, 768};
-    Forms Program{Time, Display};
-    Log Seen;
-};
-
-TEST_F(FormTest, IsActivatedOnceAndAtItsFinalSize) {
-    Program.Show("NotingForm");
+TEST_F(FormTest, IsLoadedThenSizedThenActivatedOnce) {
+    double width = 0;
+    double height = 0;
+    Scripts["A"].Activate = [&](ScriptedForm& form) {
+        width = form.Width();
+        height = form.Height();
+    };
+    Program.Show("A");
+    EXPECT_EQ(Times("A Activate"), 0) << "Show returns before Form_Activate";
     Pump();
-    EXPECT_EQ(Seen.front(), "load");
-    EXPECT_EQ(Seen.back(), "activate " + std::to_string(1024 * 15));
-    EXPECT_EQ(std::count_if(Seen.begin(), Seen.end(),
-                            [](const auto& s) { return s.starts_with("activate"); }),
-              1);
+    Time.Advance(1);
+
+    ASSERT_GE(Seen.size(), 3U);
+    EXPECT_EQ(Seen.front(), "A Load");
+    EXPECT_EQ(Seen.back(), "A Activate");
+    EXPECT_EQ(Times("A Load"), 1);
+    EXPECT_GE(Times("A Resize"), 1);
+    EXPECT_EQ(Times("A Activate"), 1);
+
+    const QWidget& window = WindowOf(Get("A"));
+    EXPECT_EQ(window.size(), QSize(1024, 768));
+    EXPECT_EQ(width, 1024 * 15);
+    EXPECT_LT(height, 768 * 15) << "the menu bar is not part of the form";
+    EXPECT_EQ(height, Get("A").Height());
 }
 
-TEST_F(FormTest, ButtonIsPressedByTheReleaseOfSpaceAfterTheFormHasSeenIt) {
-    Program.Show("NotingForm");
+TEST_F(FormTest, HasItsDesignSizeWhileItLoads) {
+    Scripts["A"].Load = [](ScriptedForm& form) {
+        EXPECT_EQ(form.Width(), 6000);
+        EXPECT_EQ(form.Height(), 3000);
+        EXPECT_TRUE(form.Loaded());
+    };
+    Program.Show("A");
+    EXPECT_EQ(Times("A Load"), 1);
+}
+
+TEST_F(FormTest, ThatIsOnlyLoadedIsNotOnTheScreen) {
+    Form& form = Program.Load("A");
     Pump();
-    Form& form = *Program.Find("NotingForm");
-    Seen.clear();
-    Press(form, Qt::Key_Space);
+    EXPECT_EQ(Seen, Log{"A Load"});
+    EXPECT_FALSE(WindowOf(form).isVisible());
+    EXPECT_EQ(&Program.Load("A"), &form);
+
+    Program.Show("A");
+    Pump();
+    EXPECT_EQ(Program.Find("A"), &form);
+    EXPECT_EQ(Times("A Load"), 1);
+    EXPECT_EQ(Times("A Activate"), 1);
+}
+
+TEST_F(FormTest, OfUnknownNameIsNothing) {
+    EXPECT_FALSE(Program.Knows("Nobody"));
+    EXPECT_EQ(Program.Find("Nobody"), nullptr);
+    Program.Show("Nobody");
+    Pump();
+    EXPECT_EQ(Program.Find("Nobody"), nullptr);
+    EXPECT_FALSE(Program.Ended());
+    EXPECT_TRUE(Program.Knows("A"));
+}
+
+TEST_F(FormTest, ShownAgainComesToTheFrontAsItIs) {
+    Bring("A");
+    Bring("B");
+    ASSERT_TRUE(WindowOf(Get("B")).isActiveWindow());
+    Program.Show("A");
+    Pump();
+    EXPECT_TRUE(WindowOf(Get("A")).isActiveWindow());
+    EXPECT_EQ(Seen, Log{"A Activate"});
+}
+
+TEST_F(FormTest, IsActivatedAgainWhenTheOneInFrontOfItGoes) {
+    Bring("A");
+    for (int round = 0; round < 3; ++round) {
+        Bring("B");
+        Program.Unload(Get("B"));
+        Pump();
+        EXPECT_EQ(Seen, (Log{"B Unload", "A Activate"}));
+        EXPECT_TRUE(WindowOf(Get("A")).isActiveWindow());
+    }
+}
+
+TEST_F(FormTest, LoadedAnewIsANewObject) {
+    Bring("A");
+    ScriptedForm& old = Bring("B");
+    old.Caption("changed");
+    Program.Unload(old);
+    Pump();
+    EXPECT_EQ(ScriptedForm::Alive, 1);
+    ScriptedForm& fresh = Bring("B");
+    EXPECT_EQ(fresh.Caption(), "");
+}
+
+TEST_F(FormTest, UnloadedInItsOwnLoadNeverShows) {
+    Bring("A");
+    Scripts["B"].Load = [](ScriptedForm& form) { form.Forms().Unload(form); };
+    Program.Show("B");
+    Pump();
+    EXPECT_EQ(Seen, (Log{"B Load", "B Unload"}));
+    EXPECT_EQ(Program.Find("B"), nullptr);
+    EXPECT_EQ(ScriptedForm::Alive, 1);
+    EXPECT_FALSE(Program.Ended());
+}
+
+TEST_F(FormTest, UnloadedInItsOwnActivateIsGone) {
+    Bring("A");
+    Scripts["B"].Activate = [](ScriptedForm& form) {
+        form.Forms().Unload(form);
+        EXPECT_FALSE(form.Loaded());
+        EXPECT_FALSE(form.Wait(1)) << "a wait of an unloaded form is over at once";
+    };
+    Program.Show("B");
+    Pump();
+    EXPECT_EQ(Times("B Activate"), 1);
+    EXPECT_EQ(ScriptedForm::Alive, 1);
+    EXPECT_EQ(Seen.back(), "A Activate");
+}
+
+TEST_F(FormTest, RunsItsUnloadOnceWhateverHappensInIt) {
+    Bring("B");
+    ScriptedForm& form = Bring("A");
+    Scripts["A"].Unload = [](ScriptedForm& self) {
+        self.Forms().Unload(self);
+        WindowOf(self).close();
+        EXPECT_TRUE(self.Wait(1)) << "it is loaded until its Form_Unload has returned";
+    };
+    Time.In(0.5, [&] { Program.Unload(form); });
+    Program.Unload(form);
+    EXPECT_EQ(Seen.front(), "A Unload");
+    EXPECT_EQ(Times("A Unload"), 1);
+    Pump();
+    EXPECT_EQ(ScriptedForm::Alive, 1);
+    EXPECT_FALSE(Program.Ended());
+}
+
+TEST_F(FormTest, HandsOverToItsSuccessorAThousandTimesWithoutLeavingAnything) {
+    int handOvers = 0;
+    int most = 0;
+    qsizetype windows = 0;
+    FixedScreen small{160, 120};  // for speed
+    Forms program{Time, small};
+    for (const char* name : {"A", "B"}) {
+        program.Register(name, [this, name](Forms& forms) {
+            return std::make_unique<ScriptedForm>(forms, name, Scripts[name], Seen);
+        });
+    }
+    const auto handOverTo = [&](const char* successor) {
+        return [&, successor](ScriptedForm& form) {
+            most = std::max(most, ScriptedForm::Alive);
+            if (++handOvers == 10) {
+                windows = QApplication::allWidgets().size();
+            }
+            if (handOvers < 1000) {
+                form.Forms().Show(successor);
+                form.Forms().Unload(form);
+            }
+        };
+    };
+    Scripts["A"].Activate = handOverTo("B");
+    Scripts["B"].Activate = handOverTo("A");
+    program.Show("A");
+    for (int last = -1; last != handOvers;) {
+        last = handOvers;
+        Pump();
+    }
+    EXPECT_EQ(handOvers, 1000);
+    EXPECT_LE(most, 3);
+    EXPECT_EQ(ScriptedForm::Alive, 1);
+    EXPECT_LE(QApplication::allWidgets().size(), windows);
+    EXPECT_FALSE(program.Ended());
+}
+
+// The end of the program.
+
+TEST_F(FormTest, LastOnTheScreenEndsTheProgramWhenItGoes) {
+    Program.Load("B");
+    Program.Show("A");
+    // As in the program itself: everything happens in the loop of Run, which has to come back.
+    QTimer::singleShot(0, [this] { WindowOf(Get("A")).close(); });
+    Program.Run();
+    EXPECT_TRUE(Program.Ended());
+    EXPECT_EQ(Times("A Unload"), 1);
+    EXPECT_EQ(Times("B Unload"), 0);
+    EXPECT_FALSE(Program.Find("B")->Loaded());
+}
+
+TEST_F(FormTest, RunWithoutAFormReturns) {
+    Program.Run();
+    EXPECT_TRUE(Program.Ended());
+}
+
+TEST_F(FormTest, EndStartsNoFurtherRoutine) {
+    struct Case {
+        const char* Where;
+        std::function<void(ScriptedForm&)> Reach;
+    };
+    const auto end = [](ScriptedForm& form) { form.Forms().End(); };
+    const Case cases[] = {
+        {"click",
+         [&](ScriptedForm& form) {
+             form.First.Click = [&] { end(form); };
+             ClickOn(form.First);
+         }},
+        {"menu entry",
+         [&](ScriptedForm& form) {
+             form.Entry.Click = [&] { end(form); };
+             Tap(form, Qt::Key_E, Qt::ControlModifier);
+         }},
+        {"timer",
+         [&](ScriptedForm& form) {
+             form.Ticker.Tick = [&] { end(form); };
+             form.Ticker.Enabled(true);
+             Time.Advance(0.15);
+         }},
+        {"wait",
+         [&](ScriptedForm& form) {
+             form.First.Click = [&] { EXPECT_FALSE(form.Wait(10)); };
+             const double before = Time.Now();
+             Time.In(2, [&] { end(form); });
+             ClickOn(form.First);
+             EXPECT_EQ(Time.Now(), before + 2);
+         }},
+        {"key",
+         [&](ScriptedForm& form) {
+             Scripts["A"].KeyUp = [&](ScriptedForm& self, int) { end(self); };
+             Press(form, Qt::Key_Space);
+             QKeyEvent release(QEvent::KeyRelease, Qt::Key_Space, Qt::NoModifier);
+             QCoreApplication::sendEvent(WindowOf(form).windowHandle(), &release);
+             EXPECT_EQ(Seen, Log{"A KeyUp 32"}) << "the button must not see the key any more";
+             Scripts["A"].KeyUp = {};
+         }},
+    };
+    for (const Case& one : cases) {
+        SCOPED_TRACE(one.Where);
+        Forms program{Time, Display};
+        program.Register("A", [this](Forms& forms) {
+            return std::make_unique<ScriptedForm>(forms, "A", Scripts["A"], Seen);
+        });
+        program.Show("A");
+        Pump();
+        auto& form = dynamic_cast<ScriptedForm&>(*program.Find("A"));
+        form.First.SetFocus();
+        Seen.clear();
+        one.Reach(form);
+        EXPECT_TRUE(program.Ended());
+        EXPECT_FALSE(form.Loaded());
+        Seen.clear();
+
+        form.Ticker.Enabled(true);
+        ClickOn(form.Second);
+        Tap(form, Qt::Key_Space);
+        Tap(form, Qt::Key_E, Qt::ControlModifier);
+        MoveOver(form.Board);
+        WindowOf(form).resize(500, 400);
+        WindowOf(form).close();
+        program.Show("B");
+        program.Unload(form);
+        Time.Advance(5);
+        EXPECT_EQ(Seen, Log{});
+        program.Run();  // returns at once
+    }
+    Pump();
+    EXPECT_EQ(ScriptedForm::Alive, 0);
+}
+
+TEST_F(FormTest, EndInLoadKeepsTheFormFromTheScreen) {
+    Scripts["A"].Load = [](ScriptedForm& form) { form.Forms().End(); };
+    Program.Show("A");
+    Program.Run();
+    Pump();
+    EXPECT_EQ(Seen, Log{"A Load"});
+    EXPECT_FALSE(WindowOf(Get("A")).isVisible());
+}
+
+TEST_F(FormTest, GoesWithItsProgramWithoutAnyRoutine) {
+    {
+        Forms program{Time, Display};
+        program.Register("A", [this](Forms& forms) {
+            return std::make_unique<ScriptedForm>(forms, "A", Scripts["A"], Seen);
+        });
+        program.Show("A");
+        Pump();
+        auto& form = dynamic_cast<ScriptedForm&>(*program.Find("A"));
+        form.First.SetFocus();
+        form.Ticker.Enabled(true);
+        Seen.clear();
+    }
+    Pump();
+    Time.Advance(1);
     EXPECT_EQ(Seen, Log{});
-    Release(form, Qt::Key_Space);
-    EXPECT_EQ(Seen, (Log{"key 32", "click"}));
+    EXPECT_EQ(ScriptedForm::Alive, 0);
+    EXPECT_EQ(Time.TimersRunning(), 0);
 }
 
 }  // namespace

@@ -101,6 +101,10 @@ bool FormWindow::FocusMovedTo(const Control& control) {
 
 void FormWindow::Dismiss() {
     settling_.stop();
+    // A menu left open would stay on the screen without its window.
+    while (QWidget* popup = QApplication::activePopupWidget()) {
+        popup->close();
+    }
     hide();
 }
 

@@ -17,7 +17,10 @@ struct Forms::Native {
 Forms::Forms(trameli::Clock& clock, trameli::Screen& screen)
     : clock_(clock), screen_(screen), native_(std::make_unique<Native>()) {}
 
-Forms::~Forms() = default;
+Forms::~Forms() {
+    // Windows still say something while they are taken apart; no routine may hear it.
+    ended_ = true;
+}
 
 void Forms::Register(const std::string& name, Maker maker) {
     makers_[name] = std::move(maker);
@@ -30,6 +33,11 @@ Form& Forms::Load(const std::string& name) {
     loaded_.push_back(makers_.at(name)(*this));
     Form& form = *loaded_.back();
     form.loaded_ = true;
+    for (Control* control : form.Controls()) {
+        if (auto* timer = dynamic_cast<Timer*>(control); timer && timer->Enabled()) {
+            timer->Restart();
+        }
+    }
     Dispatch(form, [&form] { form.Form_Load(); });
     return form;
 }
@@ -46,14 +54,17 @@ void Forms::Show(const std::string& name) {
     }
     Form& form = Load(name);
     if (form.Loaded()) {
+        // The last one is the one in front.
+        std::rotate(PlaceOf(form), PlaceOf(form) + 1, loaded_.end());
         form.native_->Window.Present();
     }
 }
 
 void Forms::Unload(Form& form) {
-    if (!form.Loaded()) {
+    if (!form.Loaded() || form.unloading_) {
         return;
     }
+    form.unloading_ = true;
     Dispatch(form, [&form] { form.Form_Unload(); });
     form.loaded_ = false;
     for (Control* control : form.Controls()) {
@@ -61,17 +72,26 @@ void Forms::Unload(Form& form) {
             timer->Enabled(false);
         }
     }
+    const bool inFront = form.native_->Window.isActiveWindow();
     form.native_->Window.Dismiss();
-    const auto place = std::find_if(loaded_.begin(), loaded_.end(),
-                                    [&](const auto& held) { return held.get() == &form; });
+    const auto place = PlaceOf(form);
     buried_.push_back(std::move(*place));
     loaded_.erase(place);
     Bury();
+    if (inFront) {
+        BringLastToFront();
+    }
     StopIfDeserted();
 }
 
 void Forms::End() {
     ended_ = true;
+    // A message box would hold the program up until somebody answers it.
+    while (QWidget* box = QApplication::activeModalWidget()) {
+        if (!box->close()) {
+            break;
+        }
+    }
     native_->Loop.quit();
 }
 
@@ -106,6 +126,21 @@ void Forms::Bury() {
             }
         },
         Qt::QueuedConnection);
+}
+
+Forms::Place Forms::PlaceOf(const Form& form) {
+    return std::find_if(loaded_.begin(), loaded_.end(),
+                        [&](const auto& held) { return held.get() == &form; });
+}
+
+/// Not every desktop gives the keyboard to another window when one goes.
+void Forms::BringLastToFront() {
+    for (auto form = loaded_.rbegin(); form != loaded_.rend(); ++form) {
+        if (FormWindow& window = (*form)->native_->Window; window.isVisible()) {
+            window.Present();
+            return;
+        }
+    }
 }
 
 void Forms::StopIfDeserted() {
