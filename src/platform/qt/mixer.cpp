@@ -1,8 +1,5 @@
 #include "platform/qt/mixer.h"
 
-#include <SDL.h>
-#include <SDL_mixer.h>
-
 #include <optional>
 #include <utility>
 
@@ -54,18 +51,14 @@ std::optional<std::string> Read(const LocalFileSystem& files, const std::string&
     return bytes;
 }
 
-SDL_RWops* StreamOf(const std::string& bytes) {
-    return SDL_RWFromConstMem(bytes.data(), static_cast<int>(bytes.size()));
-}
-
 }  // namespace
 
 void Mixer::FreeChunk::operator()(Mix_Chunk* chunk) const {
-    Mix_FreeChunk(chunk);
+    Sdl->Mix_FreeChunk(chunk);
 }
 
-void Mixer::FreeMusic::operator()(_Mix_Music* music) const {
-    Mix_FreeMusic(music);
+void Mixer::FreeMusic::operator()(Mix_Music* music) const {
+    Sdl->Mix_FreeMusic(music);
 }
 
 Mixer::Mixer(LocalFileSystem files, Patience patience)
@@ -86,19 +79,30 @@ bool Mixer::Open() {
     if (lastSound_ < retryAt_) {
         return false;
     }
-    // Ctrl-C ends the program as if there were no sounds.
-    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
-    SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Trameli");
-    if (SDL_InitSubSystem(SDL_INIT_AUDIO) == 0) {
-        if (Mix_OpenAudioDevice(Rate, AUDIO_S16SYS, Stereo, FramesPerBuffer, nullptr, 0) == 0) {
-            Mix_AllocateChannels(OnlyChannel + 1);
-            open_ = true;
-            return true;
-        }
-        SDL_QuitSubSystem(SDL_INIT_AUDIO);
+    open_ = sdl_.Load() && OpenDevice();
+    if (!open_) {
+        retryAt_ = Now::now() + patience_.Retry;
     }
-    retryAt_ = Now::now() + patience_.Retry;
-    return false;
+    return open_;
+}
+
+bool Mixer::OpenDevice() {
+    // Ctrl-C ends the program as if there were no sounds.
+    sdl_.SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+    sdl_.SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Trameli");
+    if (sdl_.SDL_InitSubSystem(SDL_INIT_AUDIO) != 0) {
+        return false;
+    }
+    if (sdl_.Mix_OpenAudioDevice(Rate, AUDIO_S16SYS, Stereo, FramesPerBuffer, nullptr, 0) != 0) {
+        sdl_.SDL_QuitSubSystem(SDL_INIT_AUDIO);
+        return false;
+    }
+    sdl_.Mix_AllocateChannels(OnlyChannel + 1);
+    return true;
+}
+
+SDL_RWops* Mixer::Stream(const std::string& bytes) const {
+    return sdl_.SDL_RWFromConstMem(bytes.data(), static_cast<int>(bytes.size()));
 }
 
 void Mixer::Close() {
@@ -106,15 +110,15 @@ void Mixer::Close() {
         return;
     }
     StopMusic();
-    Mix_HaltChannel(OnlyChannel);
+    sdl_.Mix_HaltChannel(OnlyChannel);
     // The waves stay for the next time; they were decoded for a format that is always asked for.
-    Mix_CloseAudio();
-    SDL_QuitSubSystem(SDL_INIT_AUDIO);
+    sdl_.Mix_CloseAudio();
+    sdl_.SDL_QuitSubSystem(SDL_INIT_AUDIO);
     open_ = false;
 }
 
 bool Mixer::HasLostDevice() const {
-    return SDL_GetAudioDeviceStatus(OnlyDevice) == SDL_AUDIO_STOPPED;
+    return sdl_.SDL_GetAudioDeviceStatus(OnlyDevice) == SDL_AUDIO_STOPPED;
 }
 
 void Mixer::Rest() {
@@ -126,7 +130,7 @@ void Mixer::Rest() {
         return;
     }
     const auto now = Now::now();
-    if (Mix_Playing(OnlyChannel) != 0 || Mix_PlayingMusic() != 0) {
+    if (sdl_.Mix_Playing(OnlyChannel) != 0 || sdl_.Mix_PlayingMusic() != 0) {
         lastSound_ = now;
     } else if (now - lastSound_ >= patience_.Silence) {
         Close();
@@ -138,10 +142,10 @@ Mix_Chunk* Mixer::Wave(const std::string& path) {
     if (known != waves_.end()) {
         return known->second.get();
     }
-    auto& wave = waves_[path];
+    auto& wave = waves_.try_emplace(path, nullptr, FreeChunk{&sdl_}).first->second;
     const auto bytes = Read(files_, path, LongestWave);
     if (bytes && IsPlainWave(*bytes)) {
-        wave.reset(Mix_LoadWAV_RW(StreamOf(*bytes), 1));
+        wave.reset(sdl_.Mix_LoadWAV_RW(Stream(*bytes), 1));
     }
     return wave.get();
 }
@@ -151,9 +155,9 @@ void Mixer::PlayWave(const std::string& path) {
         return;
     }
     // The one before is cut off even if the new one turns out to be silent.
-    Mix_HaltChannel(OnlyChannel);
+    sdl_.Mix_HaltChannel(OnlyChannel);
     if (Mix_Chunk* wave = Wave(path)) {
-        Mix_PlayChannel(OnlyChannel, wave, 0);
+        sdl_.Mix_PlayChannelTimed(OnlyChannel, wave, 0, -1);
     }
 }
 
@@ -165,16 +169,16 @@ void Mixer::PlayMusic(const std::string& path) {
         return;
     }
     musicBytes_ = std::move(*bytes);
-    Mix_SetSoundFonts(font);
-    music_.reset(Mix_LoadMUSType_RW(StreamOf(musicBytes_), MUS_MID, 1));
+    sdl_.Mix_SetSoundFonts(font);
+    music_.reset(sdl_.Mix_LoadMUSType_RW(Stream(musicBytes_), MUS_MID, 1));
     if (music_) {
-        Mix_PlayMusic(music_.get(), 1);
+        sdl_.Mix_PlayMusic(music_.get(), 1);
     }
 }
 
 void Mixer::StopMusic() {
     if (music_) {
-        Mix_HaltMusic();
+        sdl_.Mix_HaltMusic();
         music_.reset();
     }
 }

@@ -7,9 +7,7 @@
 #include <string>
 
 #include "platform/qt/local_file_system.h"
-
-struct Mix_Chunk;
-struct _Mix_Music;
+#include "platform/qt/mixer_library.h"
 
 namespace trameli {
 
@@ -43,17 +41,22 @@ public:
 
 private:
     struct FreeChunk {
+        const MixerLibrary* Sdl;
         void operator()(Mix_Chunk* chunk) const;
     };
     struct FreeMusic {
-        void operator()(_Mix_Music* music) const;
+        const MixerLibrary* Sdl;
+        void operator()(Mix_Music* music) const;
     };
 
     bool Open();
+    bool OpenDevice();
     void Close();
     bool HasLostDevice() const;
     Mix_Chunk* Wave(const std::string& path);
+    SDL_RWops* Stream(const std::string& bytes) const;
 
+    MixerLibrary sdl_;
     LocalFileSystem files_;
     Patience patience_;
     bool open_ = false;
@@ -62,7 +65,7 @@ private:
     /// Decoded once; what could not be is kept as nothing, so that it is not tried at every step.
     std::map<std::string, std::unique_ptr<Mix_Chunk, FreeChunk>> waves_;
     std::string musicBytes_;  ///< outlives the piece that is made of them
-    std::unique_ptr<_Mix_Music, FreeMusic> music_;
+    std::unique_ptr<Mix_Music, FreeMusic> music_{nullptr, FreeMusic{&sdl_}};
 };
 
 }  // namespace trameli

@@ -1,0 +1,57 @@
+#include "platform/qt/mixer_library.h"
+
+#include <dlfcn.h>
+
+namespace trameli {
+
+namespace {
+
+/// A library and whether everything asked of it was there.
+class Library {
+public:
+    explicit Library(const char* name) : handle_(dlopen(name, RTLD_NOW | RTLD_LOCAL)) {}
+
+    template <typename Function>
+    void Find(const char* name, Function& function) {
+        function = handle_ ? reinterpret_cast<Function>(dlsym(handle_, name)) : nullptr;
+        complete_ = complete_ && function;
+    }
+    bool IsComplete() const { return complete_; }
+
+private:
+    void* handle_;
+    bool complete_ = true;
+};
+
+}  // namespace
+
+bool MixerLibrary::Load() {
+    if (loaded_) {
+        return true;
+    }
+    Library sdl("libSDL2-2.0.so.0");
+    sdl.Find("SDL_SetHint", SDL_SetHint);
+    sdl.Find("SDL_InitSubSystem", SDL_InitSubSystem);
+    sdl.Find("SDL_QuitSubSystem", SDL_QuitSubSystem);
+    sdl.Find("SDL_GetAudioDeviceStatus", SDL_GetAudioDeviceStatus);
+    sdl.Find("SDL_RWFromConstMem", SDL_RWFromConstMem);
+    Library mixer("libSDL2_mixer-2.0.so.0");
+    mixer.Find("Mix_OpenAudioDevice", Mix_OpenAudioDevice);
+    mixer.Find("Mix_CloseAudio", Mix_CloseAudio);
+    mixer.Find("Mix_AllocateChannels", Mix_AllocateChannels);
+    mixer.Find("Mix_LoadWAV_RW", Mix_LoadWAV_RW);
+    mixer.Find("Mix_FreeChunk", Mix_FreeChunk);
+    mixer.Find("Mix_PlayChannelTimed", Mix_PlayChannelTimed);
+    mixer.Find("Mix_HaltChannel", Mix_HaltChannel);
+    mixer.Find("Mix_Playing", Mix_Playing);
+    mixer.Find("Mix_SetSoundFonts", Mix_SetSoundFonts);
+    mixer.Find("Mix_LoadMUSType_RW", Mix_LoadMUSType_RW);
+    mixer.Find("Mix_FreeMusic", Mix_FreeMusic);
+    mixer.Find("Mix_PlayMusic", Mix_PlayMusic);
+    mixer.Find("Mix_HaltMusic", Mix_HaltMusic);
+    mixer.Find("Mix_PlayingMusic", Mix_PlayingMusic);
+    loaded_ = sdl.IsComplete() && mixer.IsComplete();
+    return loaded_;
+}
+
+}  // namespace trameli
