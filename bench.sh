@@ -15,7 +15,7 @@ export QT_QPA_PLATFORM=${QT_QPA_PLATFORM:-offscreen}
 # Several short runs of each, mixed, and the median of them: a moment in which the machine was busy
 # then spoils neither side of a pair.
 results=()
-for program in build/bench/bench/*; do
+for program in build/bench/bench/*_bench; do
     [[ -f $program && -x $program ]] || continue
     echo "Running ${program##*/}" >&2
     "$program" --benchmark_filter="${1:-.}" --benchmark_min_time=0.05 \
@@ -27,7 +27,7 @@ for program in build/bench/bench/*; do
     results+=("$program.csv")
 done
 if [[ ${#results[@]} -eq 0 ]]; then
-    echo "There are no benchmarks in build/bench/bench." >&2
+    echo "There are no programs named *_bench in build/bench/bench." >&2
     exit 1
 fi
 LC_ALL=C awk -f bench/table.awk bench/aims.txt "${results[@]}"

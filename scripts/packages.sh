@@ -4,19 +4,20 @@
 #
 # Each group is listed here and nowhere else. The names are Debian's (12 and later).
 
-# Compiler, build tools, the toolkit's headers with its widgets and SVG drawing, and the mixer's.
+# Compiler, build tools, and the headers of the toolkit and of the sound mixer.
 packages_build=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libsdl2-mixer-dev)
-# The window plugins of the toolkit, the fonts that stand in for Comic Sans MS and Arial, and the
-# instruments of the music.
-packages_run=(qt6-qpa-plugins libqt6svg6 fonts-comic-neue fonts-liberation
-    libsdl2-mixer-2.0-0 timgm6mb-soundfont)
+# What the game loads while it runs: window plugins, the mixer, instruments for its music, and the
+# fonts that stand in for Comic Sans MS and Arial.
+packages_run=(qt6-qpa-plugins libqt6svg6 libsdl2-mixer-2.0-0 timgm6mb-soundfont
+    fonts-comic-neue fonts-liberation)
 # Only for a session that has Wayland and no X11.
 packages_wayland=(qt6-wayland)
 # Only where there is no display: a virtual one with a window manager.
 packages_display=(tigervnc-standalone-server openbox)
 # The tests bring their own X servers, with and without a window manager.
 packages_test=(libgtest-dev xvfb openbox xdotool)
-packages_bench=(libbenchmark-dev)
+# The start of the game is measured in a real window.
+packages_bench=(libbenchmark-dev xvfb openbox)
 
 # Sets `missing` to those of the named packages that are not installed.
 find_missing() {
