@@ -9,11 +9,8 @@ namespace {
 void DisegnaTratti(Surface& superficie, const Traccia& traccia, const AspettoTraccia& aspetto) {
     superficie.DrawWidth(aspetto.PennaTraccia);
     for (int i = 1; i <= traccia.ContaPunti(); ++i) {
-        // A long trace has gone up and down the same few corridors: most of it is out of sight.
-        if (!traccia.Coperto(i)) {
-            Disegna(superficie, traccia.Tratto(i, aspetto.Indietro), aspetto.EstremiTratti,
-                    traccia.PercorsoColore(i), aspetto.TwipsPerPixel);
-        }
+        Disegna(superficie, traccia.Tratto(i, aspetto.Indietro), aspetto.EstremiTratti,
+                traccia.PercorsoColore(i), aspetto.TwipsPerPixel);
     }
 }
 

@@ -29,7 +29,6 @@ void Traccia::Azzera() {
     percorsoX_.fill(0);
     percorsoY_.fill(0);
     percorsoColore_.fill(0);
-    coperto_.fill(false);
     std::fill(passaggi_.begin(), passaggi_.end(), false);
 }
 
@@ -43,7 +42,6 @@ void Traccia::Aggiungi(Punto punto, Colour colore) {
         DimenticaIlPrimo(percorsoX_);
         DimenticaIlPrimo(percorsoY_);
         DimenticaIlPrimo(percorsoColore_);
-        DimenticaIlPrimo(coperto_);
     } else {
         ++contaPunti_;
     }
@@ -51,13 +49,6 @@ void Traccia::Aggiungi(Punto punto, Colour colore) {
     percorsoX_[ultimo] = punto.X;
     percorsoY_[ultimo] = punto.Y;
     percorsoColore_[ultimo] = colore;
-    coperto_[ultimo] = false;
-    const Segmento nuovo = Tratto(contaPunti_, 0);
-    for (int i = 1; i < contaPunti_; ++i) {
-        if (Tratto(i, 0) == nuovo) {
-            coperto_[static_cast<std::size_t>(i)] = true;
-        }
-    }
 }
 
 bool Traccia::Attraversa(const Passaggio& passaggio) {

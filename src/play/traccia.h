@@ -58,9 +58,6 @@ public:
 
     /// Segment i, 1 to ContaPunti: to point i, from `indietro` twips behind point i - 1.
     Segmento Tratto(int i, int indietro) const;
-    /// True if a later segment runs from the same point to the same point: it hides segment i
-    /// wholly, however the two are drawn.
-    bool Coperto(int i) const { return coperto_[static_cast<std::size_t>(i)]; }
 
 private:
     template <typename T>
@@ -74,7 +71,6 @@ private:
     Elenco<std::int16_t> percorsoX_{};
     Elenco<std::int16_t> percorsoY_{};
     Elenco<Colour> percorsoColore_{};
-    Elenco<bool> coperto_{};
     std::int16_t contaPunti_ = 0;
     std::size_t passo_ = 0;  // entries from one row to the next, column 0 included
     std::vector<bool> passaggi_;

@@ -57,27 +57,6 @@ TEST(Traccia, SegmentsRunFromPointToPoint) {
     EXPECT_EQ(traccia.Tratto(2, 323), (Segmento{{1750, 677}, {1750, 1750}}));
 }
 
-TEST(Traccia, OnlyALaterWalkTheSameWayHidesASegment) {
-    Traccia traccia;
-    traccia.Comincia({1000, 1000});
-    traccia.Aggiungi({1750, 1000}, Avanti);
-    traccia.Aggiungi({1000, 1000}, Ritorno);
-    EXPECT_FALSE(traccia.Coperto(1));
-    traccia.Aggiungi({1750, 1000}, Avanti);
-    EXPECT_TRUE(traccia.Coperto(1));
-    EXPECT_FALSE(traccia.Coperto(2));
-    EXPECT_FALSE(traccia.Coperto(3));
-    traccia.Aggiungi({1750, 1750}, Avanti);
-    traccia.Aggiungi({1750, 1000}, Ritorno);
-    traccia.Aggiungi({1000, 1000}, Ritorno);
-    EXPECT_TRUE(traccia.Coperto(2));
-    EXPECT_FALSE(traccia.Coperto(4));
-    traccia.Azzera();
-    traccia.Comincia({1000, 1000});
-    traccia.Aggiungi({1750, 1000}, Avanti);
-    EXPECT_FALSE(traccia.Coperto(1));
-}
-
 TEST(Traccia, AzzeraForgetsPointsAndPassages) {
     Traccia traccia;
     traccia.Alloca(3, 4);
@@ -111,21 +90,6 @@ TEST(TracciaPiena, OldestPointGivesWayToTheNewest) {
     EXPECT_EQ(traccia.Tratto(1, 0), (Segmento{{2, -2}, {3, -3}}));
     EXPECT_EQ(traccia.Testa(), PuntoNumero(1002));
     EXPECT_EQ(traccia.PercorsoColore(1000), 1002);
-}
-
-TEST(TracciaPiena, KeepsKnowingWhatIsHidden) {
-    Traccia traccia;
-    Riempi(traccia, Traccia::MassimoPunti - 3);
-    // Up and down once more than there is room for.
-    traccia.Aggiungi({5000, 5000}, Avanti);
-    traccia.Aggiungi({5750, 5000}, Avanti);
-    traccia.Aggiungi({5000, 5000}, Ritorno);
-    traccia.Aggiungi({5750, 5000}, Avanti);
-    ASSERT_EQ(traccia.ContaPunti(), 1000);
-    EXPECT_FALSE(traccia.Coperto(997));
-    EXPECT_TRUE(traccia.Coperto(998));
-    EXPECT_FALSE(traccia.Coperto(999));
-    EXPECT_FALSE(traccia.Coperto(1000));
 }
 
 TEST(Passaggi, CountsWalksOddAndEven) {
