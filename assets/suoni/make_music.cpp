@@ -130,7 +130,7 @@ constexpr std::array<Harmony, Bars> Harmonies{
 };
 
 Track Melody() {
-    Track track(0, 56, 92, 64);
+    Track track(0, 56, 80, 64);
     int tick = 0;
     for (const Tone& tone : Tune) {
         const int length = tone.Quavers * Quaver;
@@ -143,7 +143,7 @@ Track Melody() {
 }
 
 Track Accordion() {
-    Track track(1, 21, 70, 84);
+    Track track(1, 21, 61, 84);
     for (int bar = 0; bar < Bars; ++bar) {
         const Harmony& harmony = Harmonies[static_cast<std::size_t>(bar)];
         const bool last = bar == Bars - 1;
@@ -158,7 +158,7 @@ Track Accordion() {
 }
 
 Track Bass() {
-    Track track(2, 32, 100, 58);
+    Track track(2, 32, 87, 58);
     for (int bar = 0; bar < Bars; ++bar) {
         const int root = C4 - 24 + Harmonies[static_cast<std::size_t>(bar)].Bass;
         const int fifth = root - 5;
@@ -175,7 +175,7 @@ Track Bass() {
 }
 
 Track Drums() {
-    Track track(9, 0, 88, 64);
+    Track track(9, 0, 77, 64);
     const auto hit = [&track](int bar, int quaver, int drum, int strength) {
         track.Note(bar * Bar + quaver * Quaver, Quaver / 2, drum, strength);
     };
