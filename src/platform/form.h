@@ -70,6 +70,9 @@ protected:
     virtual void Form_Resize() {}
     /// The form has come to the front and has its final size; again whenever it comes back.
     virtual void Form_Activate() {}
+    /// A key was pressed; holding it down is one press. True keeps the key for the form: neither
+    /// its press nor its release reaches the control that has the focus.
+    virtual bool Form_KeyDown(int keyCode, int shift);
     /// A key was released that had been pressed in this form. Comes before the control's event.
     virtual void Form_KeyUp(int keyCode, int shift);
     /// The pointer moved over the form itself, not over a control.

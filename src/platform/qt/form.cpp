@@ -65,6 +65,10 @@ Container::Native Form::ContainerNative() {
     return {&native_->Window.Client()};
 }
 
+bool Form::Form_KeyDown(int /*keyCode*/, int /*shift*/) {
+    return false;
+}
+
 void Form::Form_KeyUp(int /*keyCode*/, int /*shift*/) {}
 
 bool Form::Attesa(double secondi) {
@@ -78,6 +82,10 @@ void Form::Native::Resize(Form& form) {
 
 void Form::Native::Activate(Form& form) {
     form.Form_Activate();
+}
+
+bool Form::Native::KeyPressed(Form& form, int keyCode, int shift) {
+    return form.Form_KeyDown(keyCode, shift);
 }
 
 void Form::Native::KeyReleased(Form& form, int keyCode, int shift) {

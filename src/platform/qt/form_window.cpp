@@ -124,6 +124,7 @@ bool FormWindow::event(QEvent* event) {
             break;
         case QEvent::WindowDeactivate:
             keys_.Forget();
+            kept_.clear();
             break;
         case QEvent::Resize:
             if (!activated_ && isVisible()) {
@@ -162,8 +163,7 @@ bool FormWindow::eventFilter(QObject* object, QEvent* event) {
 /// True if the key goes no further.
 bool FormWindow::FilterKey(QKeyEvent& event) {
     if (event.type() == QEvent::KeyPress) {
-        keys_.Press(event);
-        return false;
+        return FilterPress(event);
     }
     if (QApplication::activePopupWidget()) {
         return false;
@@ -171,10 +171,31 @@ bool FormWindow::FilterKey(QKeyEvent& event) {
     if (!keys_.Release(event)) {
         return true;
     }
+    const bool kept = kept_.remove(event.key());
     const int keyCode = KeyCodeOf(event);
     const int shift = ShiftBitsOf(event);
     form_.Forms().Dispatch(form_, [&] { Form::Native::KeyReleased(form_, keyCode, shift); });
-    return !form_.Loaded();
+    return kept || !form_.Loaded();
+}
+
+/// The form is asked once; what it says holds for the presses that auto-repeat makes up as well.
+bool FormWindow::FilterPress(QKeyEvent& event) {
+    if (QApplication::activePopupWidget()) {
+        return false;
+    }
+    keys_.Press(event);
+    if (!event.isAutoRepeat()) {
+        const int keyCode = KeyCodeOf(event);
+        const int shift = ShiftBitsOf(event);
+        form_.Forms().Dispatch(form_, [&] {
+            if (Form::Native::KeyPressed(form_, keyCode, shift)) {
+                kept_.insert(event.key());
+            } else {
+                kept_.remove(event.key());
+            }
+        });
+    }
+    return kept_.contains(event.key()) || !form_.Loaded();
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QSet>
 #include <QTimer>
 
 #include "platform/form.h"
@@ -46,6 +47,7 @@ protected:
 
 private:
     bool FilterKey(QKeyEvent& event);
+    bool FilterPress(QKeyEvent& event);
     void Settle();
     bool HasFinalSize() const;
     void Activate();
@@ -54,6 +56,7 @@ private:
     Form& form_;
     ClientArea& client_;
     KeyGate keys_;
+    QSet<int> kept_;  // keys held down that the form keeps from its controls
     const Control* focused_ = nullptr;
     QTimer settling_;
     bool activated_ = false;       // Form_Activate has come once
@@ -70,6 +73,7 @@ struct Form::Native {
     // The event routines of a form are its own; its window reaches them through here.
     static void Resize(Form& form);
     static void Activate(Form& form);
+    static bool KeyPressed(Form& form, int keyCode, int shift);
     static void KeyReleased(Form& form, int keyCode, int shift);
     static void MouseMoved(Form& form);
 };
