@@ -4,6 +4,7 @@
 #include <QAccessibleWidget>
 #include <QCursor>
 #include <QPainter>
+#include <QPixmapCache>
 
 #include "platform/qt/convert.h"
 
@@ -55,6 +56,27 @@ QSvgRenderer& ShownPicture::Renderer() {
         renderer_ = std::make_unique<QSvgRenderer>(PathOf(picture_));
     }
     return *renderer_;
+}
+
+QImage AtOwnSize(const Picture& picture, double devicePixelRatio) {
+    // Sixty bars of a wall show one picture, which takes as long to draw as one frame.
+    const QString key = QStringLiteral("%1 x %2").arg(PathOf(picture)).arg(devicePixelRatio);
+    QPixmap pixmap;
+    if (!QPixmapCache::find(key, &pixmap)) {
+        ShownPicture shown;
+        shown.Set(picture);
+        const QSize size = (QSizeF(shown.OwnSize()) * devicePixelRatio).toSize();
+        if (size.isEmpty()) {
+            return {};
+        }
+        pixmap = QPixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        shown.Paint(painter, QRect(QPoint(0, 0), size), 1);
+        painter.end();
+        QPixmapCache::insert(key, pixmap);
+    }
+    return pixmap.toImage();
 }
 
 void SetPointer(QWidget& widget, const std::optional<PointerImage>& icon) {

@@ -1,6 +1,7 @@
 // Pictures and pointers as the toolkit shows them.
 #pragma once
 
+#include <QImage>
 #include <QPixmap>
 #include <QSvgRenderer>
 #include <QWidget>
@@ -30,6 +31,10 @@ private:
     std::unique_ptr<QSvgRenderer> renderer_;
     QPixmap drawn_;
 };
+
+/// A picture at its own size, for a screen with so many device pixels per logical one; null if it
+/// cannot be loaded. All who show the same one share its pixels.
+QImage AtOwnSize(const Picture& picture, double devicePixelRatio);
 
 /// Gives a widget a pointer of its own, or the system's.
 void SetPointer(QWidget& widget, const std::optional<PointerImage>& icon);

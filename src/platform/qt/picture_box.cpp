@@ -60,21 +60,8 @@ void PictureBox::BackColor(Colour colour) {
 
 void PictureBox::Picture(const trameli::Picture& picture) {
     picture_ = picture;
-    ShownPicture shown;
-    shown.Set(picture);
-    const QSize size = shown.OwnSize();
-    QImage image;
-    if (!size.isEmpty()) {
-        const double ratio = WidgetOf<PictureBoxWidget>(*this).devicePixelRatioF();
-        image = QImage((QSizeF(size) * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
-        image.fill(Qt::transparent);
-        image.setDevicePixelRatio(ratio);
-        QPainter painter(&image);
-        shown.Paint(painter, QRect(QPoint(0, 0), size), ratio);
-        painter.end();
-        image.setDevicePixelRatio(1);
-    }
-    SurfaceNative().Backdrop(std::move(image));
+    const double ratio = WidgetOf<PictureBoxWidget>(*this).devicePixelRatioF();
+    SurfaceNative().Backdrop(AtOwnSize(picture, ratio));
 }
 
 Container::Native PictureBox::ContainerNative() {
