@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "play/form_archivio.h"
+#include "play/form_finale.h"
 #include "play/frm_trm0.h"
 #include "play/frm_trm3.h"
 #include "shell/form_avvio.h"
@@ -55,6 +56,9 @@ void Program::RegistraForm() {
     });
     forms_.Register("FormArchivio",
                     [](trameli::Forms& forms) { return std::make_unique<FormArchivio>(forms); });
+    forms_.Register("FormFinale", [this](trameli::Forms& forms) {
+        return std::make_unique<FormFinale>(forms, servizi_, *casuale_);
+    });
     forms_.Register("frmTrm0", [this](trameli::Forms& forms) {
         return std::make_unique<frmTrm0>(forms, servizi_, *casuale_);
     });

@@ -1,0 +1,210 @@
+#include "play/form_finale.h"
+
+#include <algorithm>
+#include <initializer_list>
+#include <string>
+
+#include "base/rounding.h"
+#include "platform/forms.h"
+#include "platform/keys.h"
+#include "play/sfumatura.h"
+#include "shell/livelli.h"
+
+namespace trameli {
+
+namespace {
+
+constexpr Form::DesignSize Dimensioni{9915, 7680};
+constexpr Colour Sfondo = Rgb(0, 0, 32);
+constexpr Colour Evidenza = Rgb(255, 210, 63);
+constexpr double AttesaIniziale = 1;  // seconds
+constexpr int QuartoDiSecondo = 250;  // milliseconds
+
+constexpr int ScansioneManuale = 1;
+constexpr int ScansioneAutomatica = 2;
+
+Font Fumetto(double punti, bool grassetto) {
+    return {"Comic Sans MS", punti, grassetto};
+}
+
+/// Half of the room that is left, in whole pixels, so that no control changes its size by one.
+double Margine(double spazio, double pixel) {
+    return std::max(0, Floor(spazio / 2 / pixel)) * pixel;
+}
+
+/// Whether the key presses the button that has the focus.
+bool Preme(int keyCode) {
+    return keyCode == KeySpace || keyCode == KeyEnter;
+}
+
+}  // namespace
+
+FormFinale::FormFinale(trameli::Forms& forms, Servizi& servizi, Casuale& casuale)
+    : Form(forms, "FormFinale", Dimensioni),
+      Image1(*this, "Image1", {2520, 1080, 4515, 5475}, {"coppa_grande.svg"}),
+      LabelNome(*this, "LabelNome", {3000, 5760, 3375, 495}, ""),
+      Label1(*this, "Label1", {360, 3120, 2415, 855}, "Complimenti!"),
+      Label2(*this, "Label2", {360, 3960, 3855, 3135}, ""),
+      Command1(*this, "Command1", {7440, 5040, 1935, 735}, "Resta a questo livello"),
+      Command2(*this, "Command2", {7440, 5880, 1935, 735}, "Vai al prossimo livello"),
+      Timer1(*this, "Timer1", QuartoDiSecondo),
+      servizi_(servizi),
+      stato_(servizi.Stato),
+      casuale_(casuale),
+      evidenziato_(&Command1) {
+    Image1.AccessibleName("Coppa");
+
+    LabelNome.Font(Fumetto(14.25, false));
+    LabelNome.TextAlignment(Alignment::Centre);
+    LabelNome.Transparent(true);
+    LabelNome.TabIndex(0);
+
+    Label1.Font(Fumetto(20.25, true));
+    Label1.Transparent(true);
+    Label1.TabIndex(1);
+    Label2.Font(Fumetto(15.75, true));
+    Label2.Transparent(true);
+    Label2.TabIndex(2);
+
+    int ordine = 3;
+    for (CommandButton* bottone : {&Command1, &Command2}) {
+        bottone->Font(Fumetto(12, true));
+        bottone->TabIndex(ordine++);
+        bottone->Enabled(false);
+        bottone->GotFocus = [this, bottone] { Evidenzia(*bottone); };
+    }
+    Command1.Click = [this] { Command1_Click(); };
+    Command2.Click = [this] { Command2_Click(); };
+    Timer1.Tick = [this] { Timer1_Timer(); };
+}
+
+void FormFinale::Form_Load() {
+    const Lingue& lingue = servizi_.Lingue;
+    LabelNome.Caption(stato_.NomeGiocatore);
+    Label2.Caption(lingue.TestoLingua("0014") + std::to_string(stato_.Livello + 1) +
+                   lingue.TestoLingua("0015") + "\r\n" + lingue.TestoLingua("0016"));
+    BackColor(Sfondo);
+    SchemaColori = casuale_.FinoA(NumeroSchemi);
+    Label1.ForeColor(ColoreScritte(SchemaColori));
+    Label2.ForeColor(ColoreScritte(SchemaColori));
+    DisegnaSfondo();
+}
+
+void FormFinale::Form_Resize() {
+    Centra();
+    DisegnaSfondo();
+}
+
+void FormFinale::Form_Activate() {
+    if (attivato_) {
+        // Back in front. A switch that was down when it went was let go in another window.
+        Timer1.Enabled(pronto_ && stato_.ModoInput == ScansioneAutomatica);
+        return;
+    }
+    attivato_ = true;
+    servizi_.Suoni.SuonaMidi(std::string(ProgramFolder) + "\\suoni\\coppa.mid");
+    if (!Attesa(AttesaIniziale)) {
+        return;
+    }
+    Command1.Enabled(true);
+    Command2.Enabled(true);
+    if (stato_.Livello == NumeroLivelli - 1) {
+        Command2.Visible(false);
+    }
+    pronto_ = true;
+    Evidenzia(Command1);
+    Command1.SetFocus();
+    if (stato_.ModoInput == ScansioneAutomatica) {
+        Timer1.Interval(stato_.VelocitaScansione * QuartoDiSecondo);
+        Timer1.Enabled(true);
+    }
+}
+
+bool FormFinale::Form_KeyDown(int keyCode, int /*shift*/) {
+    if (stato_.ModoInput == ScansioneAutomatica && Preme(keyCode)) {
+        // What is chosen is the button that was offered when the switch went down, however long
+        // it stays down.
+        Timer1.Enabled(false);
+    }
+    return stato_.ModoInput == ScansioneManuale && keyCode == KeySpace;
+}
+
+void FormFinale::Form_KeyUp(int keyCode, int /*shift*/) {
+    if (!pronto_) {
+        return;
+    }
+    if (stato_.ModoInput == ScansioneManuale && keyCode == KeySpace) {
+        AltroBottone();
+    } else if (stato_.ModoInput == ScansioneAutomatica && Preme(keyCode)) {
+        Timer1.Enabled(true);
+    }
+}
+
+void FormFinale::Form_Unload() {
+    servizi_.Suoni.FermaMidi();
+}
+
+void FormFinale::Command1_Click() {
+    ApriGioco(stato_.Livello);
+}
+
+void FormFinale::Command2_Click() {
+    const int prossimo = stato_.Livello + 1;
+    if (!Forms().Knows(FormDelLivello(prossimo))) {
+        return;
+    }
+    stato_.Livello = Saturated(prossimo);
+    ImpostaGriglia(stato_);
+    stato_.TrameloDisegnato = false;
+    ApriGioco(prossimo);
+}
+
+void FormFinale::Timer1_Timer() {
+    AltroBottone();
+}
+
+/// The screen's size is known only once the window shows, and it may change after that.
+void FormFinale::DisegnaSfondo() {
+    const double pixel = Forms().Screen().TwipsPerPixelX();
+    Canvas().Cls();
+    DisegnaSfumatura(Canvas(), SchemaColori, Width() / pixel, Height() / pixel);
+}
+
+/// Moves all controls together, so that the layout stands in the middle of any window.
+void FormFinale::Centra() {
+    const double pixel = Forms().Screen().TwipsPerPixelX();
+    const double left = Margine(Width() - Dimensioni.Width, pixel);
+    const double top = Margine(Height() - Dimensioni.Height, pixel);
+    for (VisualControl* controllo : std::initializer_list<VisualControl*>{
+             &Image1, &LabelNome, &Label1, &Label2, &Command1, &Command2}) {
+        controllo->Left(controllo->Left() + left - margineSinistro_);
+        controllo->Top(controllo->Top() + top - margineSuperiore_);
+    }
+    margineSinistro_ = left;
+    margineSuperiore_ = top;
+}
+
+void FormFinale::AltroBottone() {
+    CommandButton& altro = evidenziato_ == &Command1 ? Command2 : Command1;
+    if (altro.Visible()) {
+        // The focus alone would tell only once the window is in front.
+        Evidenzia(altro);
+        altro.SetFocus();
+    }
+}
+
+void FormFinale::Evidenzia(CommandButton& bottone) {
+    evidenziato_->BackColor(ButtonFace);
+    evidenziato_ = &bottone;
+    bottone.BackColor(Evidenza);
+}
+
+void FormFinale::ApriGioco(int livello) {
+    const char* const form = FormDelLivello(livello);
+    if (Forms().Knows(form)) {
+        Forms().Show(form);
+        Forms().Unload(*this);
+    }
+}
+
+}  // namespace trameli

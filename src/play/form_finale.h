@@ -1,0 +1,61 @@
+// The end of a level.
+#pragma once
+
+#include "engine/casuale.h"
+#include "platform/command_button.h"
+#include "platform/form.h"
+#include "platform/image.h"
+#include "platform/label.h"
+#include "platform/timer.h"
+#include "shell/servizi.h"
+
+namespace trameli {
+
+/// Congratulates on five solved mazes, with music on a coloured ground, and asks whether to stay
+/// at the level or to go on to the next. The first second it cannot be answered, so that a key
+/// meant for the maze answers nothing.
+class FormFinale : public Form {
+public:
+    FormFinale(trameli::Forms& forms, Servizi& servizi, Casuale& casuale);
+
+    // The controls, those further back first.
+    Image Image1;     ///< the trophy
+    Label LabelNome;  ///< the player's name, on the trophy's base
+    Label Label1;
+    Label Label2;
+    CommandButton Command1;  ///< stays at the level
+    CommandButton Command2;  ///< goes on
+    Timer Timer1;            ///< goes from button to button for those who have one key
+
+protected:
+    void Form_Load() override;
+    void Form_Resize() override;
+    void Form_Activate() override;
+    bool Form_KeyDown(int keyCode, int shift) override;
+    void Form_KeyUp(int keyCode, int shift) override;
+    void Form_Unload() override;
+
+private:
+    void Command1_Click();
+    void Command2_Click();
+    void Timer1_Timer();
+
+    void DisegnaSfondo();
+    void Centra();
+    void AltroBottone();
+    void Evidenzia(CommandButton& bottone);
+    void ApriGioco(int livello);
+
+    Servizi& servizi_;
+    Stato& stato_;
+    Casuale& casuale_;
+
+    int SchemaColori = 0;         ///< 0 to 6
+    double margineSinistro_ = 0;  ///< how far the controls stand from their design places
+    double margineSuperiore_ = 0;
+    bool attivato_ = false;       ///< has come to the front once
+    bool pronto_ = false;         ///< the buttons can be pressed
+    CommandButton* evidenziato_;  ///< has the focus, or will have it with the window
+};
+
+}  // namespace trameli
