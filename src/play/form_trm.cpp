@@ -58,6 +58,9 @@ void FormTrm::PreparaGioco() {
     }
     preparando_ = false;
     mnuNuovo_Click();
+    if (Loaded() && stato_.ModoInput == 1 && HaTramelo()) {
+        RidisegnaRotazione();
+    }
 }
 
 void FormTrm::mnuNuovo_Click() {
@@ -67,6 +70,7 @@ void FormTrm::mnuNuovo_Click() {
     BottoneAvanti.Visible(false);
     AzzeraContatori();
     pictureTramelo.Cls();
+    ScegliMuri();
     GeneraTramelo();
     InserisciPartenza();
 }

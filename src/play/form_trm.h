@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "play/scansione.h"
 #include "play/tavola_trm.h"
 
 namespace trameli {
@@ -33,6 +34,8 @@ protected:
     /// Seconds that the window is shown empty before the first maze.
     virtual double AttesaIniziale() const = 0;
     virtual void AzzeraContatori() = 0;
+    /// Chooses what the walls of the next maze look like.
+    virtual void ScegliMuri() {}
     /// When a changed thickness takes effect: at every restart of the maze, or only when the menu
     /// entry changes it.
     virtual bool SpessoriAllaRipartenza() const = 0;
@@ -47,6 +50,9 @@ protected:
     virtual void ColpitoMuro();
     void DisegnaLinea();
     void MostraFrameTrameloRisolto();
+    /// Shows the direction on offer as a stroke at the head of the trace; nothing is taken away.
+    void RidisegnaRotazione();
+    AspettoScansione AspettoTratti() const;
     void ScriviBoing(const char* parola);
     void ScriviPassi();
 
@@ -54,6 +60,9 @@ protected:
     std::int16_t ContaBoing = 0;      ///< wall hits in this maze
     std::int16_t ContaPassi = 0;      ///< steps in this maze
     std::int16_t TrameliRisolti = 0;  ///< since the activation, 0 to 4
+
+    /// The direction on offer while scanning, a place in DirezioniScansione.
+    std::int16_t DirezioneScansione = 0;
 
 private:
     void PrimoPasso(Lato lato);

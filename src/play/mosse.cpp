@@ -82,6 +82,20 @@ void FormTrm::DisegnaLinea() {
     ContaPassi = Saturated(ContaPassi + 1);
     ScriviPassi();
     DisegnaPasso(pictureTramelo, traccia_, giocatore_.PuntoCorrente(), ColoreTratto, Aspetto());
+    if (stato_.ModoInput == 1) {
+        RidisegnaRotazione();
+    }
+}
+
+AspettoScansione FormTrm::AspettoTratti() const {
+    return AspettoScansioneDi(spessori_, geometria_.DimensioneCella,
+                              Forms().Screen().TwipsPerPixelX(), Nearest(stato_.ColoreScansione),
+                              Nearest(stato_.ColoreSfondo));
+}
+
+void FormTrm::RidisegnaRotazione() {
+    DisegnaTrattoScansione(pictureTramelo, giocatore_.PuntoCorrente(), DirezioneScansione,
+                           AspettoTratti());
 }
 
 void FormTrm::MostraFrameTrameloRisolto() {

@@ -1,0 +1,50 @@
+// The strokes that offer a direction to players with one or two keys.
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "drawing/segmento.h"
+#include "drawing/spessori.h"
+#include "engine/tramelo.h"
+#include "platform/surface.h"
+
+namespace trameli {
+
+/// The directions in the order of their offer, clockwise from the left. The place in this table is
+/// the number of the direction, which is not the number of the side.
+inline constexpr std::array<Lato, 4> DirezioniScansione{Lato::Sinistra, Lato::Alto, Lato::Destra,
+                                                        Lato::Basso};
+
+/// The direction offered after this one, or before it.
+constexpr std::int16_t DirezioneDopo(std::int16_t direzione) {
+    return static_cast<std::int16_t>((direzione + 1) % 4);
+}
+constexpr std::int16_t DirezionePrima(std::int16_t direzione) {
+    return static_cast<std::int16_t>((direzione + 3) % 4);
+}
+
+/// How long and thick the strokes are, and their colours.
+struct AspettoScansione {
+    int Lunghezza;   ///< twips, from the middle of a cell nearly to the face of its wall
+    int Penna;       ///< pixels; narrower than the trace
+    int PennaGomma;  ///< pixels, for taking a stroke away
+    double TwipsPerPixel;
+    Colour Colore;
+    Colour ColoreSfondo;
+};
+
+AspettoScansione AspettoScansioneDi(const Spessori& spessori, std::int16_t dimensioneCella,
+                                    double twipsPerPixelX, Colour colore, Colour coloreSfondo);
+
+/// The place of the stroke in direction `direzione`, 0 to 3, from `testa` on.
+Segmento TrattoScansione(Punto testa, std::int16_t direzione, const AspettoScansione& aspetto);
+
+void DisegnaTrattoScansione(Surface& superficie, Punto testa, std::int16_t direzione,
+                            const AspettoScansione& aspetto);
+
+/// Takes a stroke away to the last pixel, and a part of the symbol and the trace with it.
+void TogliTrattoScansione(Surface& superficie, Punto testa, std::int16_t direzione,
+                          const AspettoScansione& aspetto);
+
+}  // namespace trameli
