@@ -7,6 +7,7 @@
 #include "play/form_archivio.h"
 #include "play/form_finale.h"
 #include "play/frm_trm0.h"
+#include "play/frm_trm1.h"
 #include "play/frm_trm3.h"
 #include "shell/form_avvio.h"
 #include "shell/form_menu.h"
@@ -61,6 +62,9 @@ void Program::RegistraForm() {
     });
     forms_.Register("frmTrm0", [this](trameli::Forms& forms) {
         return std::make_unique<frmTrm0>(forms, servizi_, *casuale_);
+    });
+    forms_.Register("frmTrm1", [this](trameli::Forms& forms) {
+        return std::make_unique<frmTrm1>(forms, servizi_, *casuale_);
     });
     forms_.Register("frmTrm3", [this](trameli::Forms& forms) {
         return std::make_unique<frmTrm3>(forms, servizi_, *casuale_);

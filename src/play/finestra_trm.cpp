@@ -1,5 +1,6 @@
 #include "play/finestra_trm.h"
 
+#include <initializer_list>
 #include <string>
 #include <utility>
 
@@ -11,6 +12,9 @@ namespace {
 
 constexpr const char* Separatore = "----------------------";
 constexpr double LarghezzaPannello = 2540;
+constexpr std::initializer_list<const char*> Pannelli{"", "Livello", "Boing", "Passi"};
+constexpr std::initializer_list<const char*> PannelliConRipartenze{"", "Livello", "Boing", "Passi",
+                                                                   ""};
 constexpr int IntervalloTimer = 100;  // milliseconds
 
 template <typename T, typename... Argomenti>
@@ -21,8 +25,13 @@ std::optional<T> Se(bool presente, Argomenti&&... argomenti) {
     return std::optional<T>(std::in_place, std::forward<Argomenti>(argomenti)...);
 }
 
-std::optional<PictureBox> Se(Form& form, const char* nome, const std::optional<Bounds>& posto) {
-    return Se<PictureBox>(posto.has_value(), form, nome, posto.value_or(Bounds{}));
+template <typename T>
+std::optional<T> SePosto(Form& form, const char* nome, const std::optional<Bounds>& posto) {
+    return Se<T>(posto.has_value(), form, nome, posto.value_or(Bounds{}));
+}
+
+Container& Fondo(Form& form, std::optional<Frame>& banda) {
+    return banda ? static_cast<Container&>(*banda) : form;
 }
 
 }  // namespace
@@ -38,18 +47,21 @@ FinestraTrm::FinestraTrm(trameli::Forms& forms, const DisegnoTrm& disegno)
       mnuLinee(mnuTrameli, "mnuLinee", "Modifica spessore linee", 'L'),
       mnulinea2(mnuTrameli, "mnulinea2", Separatore),
       mnuStampa(mnuTrameli, "mnuStampa", "Stampa", 'S'),
+      mnuPausa(Se<MenuItem>(disegno.FrameSotto.has_value(), *this, "mnuPausa", "&Pausa")),
       mnuEsci(*this, "mnuEsci", "Torna al menù"),
-      PictureScansioneAutomatica(
-          Se(*this, "PictureScansioneAutomatica", disegno.PictureScansioneAutomatica)),
+      PictureScansioneAutomatica(SePosto<PictureBox>(*this, "PictureScansioneAutomatica",
+                                                     disegno.PictureScansioneAutomatica)),
       PictureScansioneManuale(
-          Se(*this, "PictureScansioneManuale", disegno.PictureScansioneManuale)),
+          SePosto<PictureBox>(*this, "PictureScansioneManuale", disegno.PictureScansioneManuale)),
       pictureTramelo(*this, "pictureTramelo", disegno.pictureTramelo),
       pictureStampa(*this, "pictureStampa", {600, 480, 3495, 2295}),
       Image2(pictureTramelo, "Image2", disegno.Image2),
+      FrameSotto(SePosto<Frame>(*this, "FrameSotto", disegno.FrameSotto)),
       Image1("Image1"),
-      BottoneAvanti(*this, "BottoneAvanti", disegno.BottoneAvanti),
+      BottoneAvanti(Fondo(*this, FrameSotto), "BottoneAvanti", disegno.BottoneAvanti),
       Timer1(*this, "Timer1", IntervalloTimer),
-      StatusBar1(*this, "StatusBar1", LarghezzaPannello, {"", "Livello", "Boing", "Passi"}) {
+      StatusBar1(*this, "StatusBar1", LarghezzaPannello,
+                 disegno.FrameSotto ? PannelliConRipartenze : Pannelli) {
     BackColor(White);
     mnuLinea1.Enabled(false);
     mnulinea2.Enabled(false);
@@ -62,10 +74,15 @@ FinestraTrm::FinestraTrm(trameli::Forms& forms, const DisegnoTrm& disegno)
     Image2.Visible(disegno.Image2Visibile);
     Image2.AccessibleName("Arrivo");
 
+    if (FrameSotto) {
+        FrameSotto->Border(false);
+        FrameSotto->AccessibleName("Sotto il tramelo");
+    }
     const DisegnoCoppe& coppe = disegno.Image1;
     for (const double left : coppe.Left) {
-        Image& coppa = Image1.Add(*this, Bounds{left, coppe.Top, coppe.Lato, coppe.Lato},
-                                  Picture{"coppa.svg"});
+        Image& coppa =
+            Image1.Add(Fondo(*this, FrameSotto), Bounds{left, coppe.Top, coppe.Lato, coppe.Lato},
+                       Picture{"coppa.svg"});
         coppa.Visible(false);
         coppa.AccessibleName("Coppa " + std::to_string(Image1.Count()));
     }

@@ -7,6 +7,7 @@
 #include "platform/command_button.h"
 #include "platform/control_array.h"
 #include "platform/form.h"
+#include "platform/frame.h"
 #include "platform/image.h"
 #include "platform/menu.h"
 #include "platform/picture_box.h"
@@ -31,6 +32,9 @@ struct DisegnoTrm {
     bool Image2Visibile;
     DisegnoCoppe Image1;
     Bounds BottoneAvanti;
+    /// The band under the maze where the symbol walks by itself: cups and button lie in it, and a
+    /// pause in the menu and a further status panel come with it.
+    std::optional<Bounds> FrameSotto = std::nullopt;
     std::optional<Bounds> PictureScansioneAutomatica;
     std::optional<Bounds> PictureScansioneManuale;
     bool ConMuri;  ///< has the menu entry that chooses what the walls are made of
@@ -52,6 +56,7 @@ public:
     MenuItem mnuLinee;
     MenuItem mnulinea2;
     MenuItem mnuStampa;
+    std::optional<MenuItem> mnuPausa;
     MenuItem mnuEsci;
 
     // These two do nothing but have the keyboard while scanning. They lie under the maze, where
@@ -59,9 +64,10 @@ public:
     std::optional<PictureBox> PictureScansioneAutomatica;
     std::optional<PictureBox> PictureScansioneManuale;
 
-    PictureBox pictureTramelo;    ///< the playing surface
-    PictureBox pictureStampa;     ///< carries the maze to the printer; never seen
-    Image Image2;                 ///< the finish mark
+    PictureBox pictureTramelo;  ///< the playing surface
+    PictureBox pictureStampa;   ///< carries the maze to the printer; never seen
+    Image Image2;               ///< the finish mark
+    std::optional<Frame> FrameSotto;
     ControlArray<Image> Image1;   ///< the cups, one for each solved maze
     CommandButton BottoneAvanti;  ///< shown after a solved maze; leads to the next one
     Timer Timer1;

@@ -1,30 +1,11 @@
 #include "play/form_a_passi.h"
 
-#include <algorithm>
-#include <array>
-
 #include "base/rounding.h"
-#include "platform/keys.h"
+#include "play/tasti.h"
 
 namespace trameli {
 
 namespace {
-
-struct Tasto {
-    int Codice;
-    Lato Direzione;
-};
-
-constexpr std::array<Tasto, 8> Tasti{{
-    {KeyLeft, Lato::Sinistra},
-    {KeyPad4, Lato::Sinistra},
-    {KeyUp, Lato::Alto},
-    {KeyPad8, Lato::Alto},
-    {KeyRight, Lato::Destra},
-    {KeyPad6, Lato::Destra},
-    {KeyDown, Lato::Basso},
-    {KeyPad2, Lato::Basso},
-}};
 
 constexpr int QuartoDiSecondo = 250;  // milliseconds
 
@@ -42,10 +23,8 @@ void FormAPassi::Form_KeyUp(int keyCode, int /*shift*/) {
         return;
     }
     ColoreTratto = Nearest(stato_.ColoreAvanti);
-    const auto tasto = std::find_if(Tasti.begin(), Tasti.end(),
-                                    [=](const Tasto& t) { return t.Codice == keyCode; });
-    if (tasto != Tasti.end()) {
-        Muovi(tasto->Direzione);
+    if (const auto direzione = DirezioneDi(keyCode)) {
+        Muovi(*direzione);
     }
 }
 

@@ -119,6 +119,13 @@ void FormTrm::BottoneAvanti_Click() {
     mnuNuovo_Click();
 }
 
+void FormTrm::AzzeraContatori() {
+    ContaBoing = 0;
+    ContaPassi = 0;
+    ScriviPassi();
+    ScriviBoing("boing ");
+}
+
 void FormTrm::ScriviBoing(const char* parola) {
     StatusBar1.Panel(3, parola + std::to_string(ContaBoing));
 }

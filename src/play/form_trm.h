@@ -33,7 +33,7 @@ protected:
     virtual void Disponi() = 0;
     /// Seconds that the window is shown empty before the first maze.
     virtual double AttesaIniziale() const = 0;
-    virtual void AzzeraContatori() = 0;
+    virtual void AzzeraContatori();
     /// Chooses what the walls of the next maze look like.
     virtual void ScegliMuri() {}
     /// When a changed thickness takes effect: at every restart of the maze, or only when the menu

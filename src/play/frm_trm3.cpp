@@ -48,13 +48,6 @@ void frmTrm3::mnuNuovo_Click() {
     }
 }
 
-void frmTrm3::AzzeraContatori() {
-    ContaBoing = 0;
-    ContaPassi = 0;
-    ScriviPassi();
-    ScriviBoing("boing ");
-}
-
 void frmTrm3::CompletaTramelo() {
     DisegnaTramelo();
     AzzeraVariabili();

@@ -17,7 +17,6 @@ protected:
     DimensioniGriglia Griglia() const override;
     void Disponi() override;
     double AttesaIniziale() const override { return 0; }
-    void AzzeraContatori() override;
     bool SpessoriAllaRipartenza() const override { return false; }
     void CompletaTramelo() override;
 };

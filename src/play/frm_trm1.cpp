@@ -1,0 +1,182 @@
+#include "play/frm_trm1.h"
+
+#include <array>
+#include <string>
+
+#include "base/rounding.h"
+#include "drawing/geometria.h"
+#include "platform/forms.h"
+#include "play/tasti.h"
+
+namespace trameli {
+
+namespace {
+
+constexpr DisegnoTrm Disegno{
+    .Nome = "frmTrm1",
+    .Dimensioni = {9675, 6600},
+    .pictureTramelo = {0, 0, 5325, 4725},
+    .Image2 = {3000, 3240, 855, 735},
+    .Image2Visibile = true,
+    .Image1 = {{360, 960, 1560, 2160}, 720, 495},
+    .BottoneAvanti = {7320, 240, 1725, 780},
+    .FrameSotto = Bounds{120, 4800, 9255, 1455},
+    .PictureScansioneAutomatica = std::nullopt,
+    .PictureScansioneManuale = std::nullopt,
+    .ConMuri = false,
+};
+
+constexpr std::array<double, 5> LeftSoli{240, 840, 1440, 2040, 2640};
+constexpr double TopSoli = 120;
+constexpr double LatoSole = 495;
+constexpr std::int16_t TuttiISoli = LeftSoli.size();
+
+constexpr int VelocitaMinima = 1;
+constexpr int VelocitaMassima = 25;
+constexpr int VelocitaIniziale = 12;
+constexpr int SaltoVelocita = 3;
+constexpr int Lentissimo = 30;  // tenths of a second; the bar takes its value from it
+
+constexpr int DecimoDiSecondo = 100;    // milliseconds
+constexpr double TempoPerGuardare = 3;  // seconds
+
+}  // namespace
+
+frmTrm1::frmTrm1(trameli::Forms& forms, Servizi& servizi, Casuale& casuale)
+    : FormTrm(forms, servizi, casuale, Disegno),
+      HScroll1(*FrameSotto, "HScroll1", {3360, 360, 3375, 270}, VelocitaMinima, VelocitaMassima,
+               SaltoVelocita),
+      Label1(*FrameSotto, "Label1", {3360, 720, 855, 255}, "lento"),
+      Label2(*FrameSotto, "Label2", {5880, 720, 855, 255}, "veloce") {
+    for (const double left : LeftSoli) {
+        Image& sole = ImageSole.Add(*FrameSotto, Bounds{left, TopSoli, LatoSole, LatoSole},
+                                    Picture{"sole.svg"});
+        sole.AccessibleName("Sole " + std::to_string(ImageSole.Count()));
+    }
+    HScroll1.AccessibleName("Velocità");
+    Label1.Transparent(true);
+    Label2.Transparent(true);
+    Label2.TextAlignment(Alignment::Right);
+
+    HScroll1.Change = [this] { HScroll1_Change(); };
+    Timer1.Tick = [this] { Timer1_Timer(); };
+    mnuPausa->Click = [this] { mnuPausa_Click(); };
+}
+
+void frmTrm1::Disponi() {
+    Timer1.Enabled(false);
+    ContaRipartenze = 0;
+    pictureTramelo.Width(Width());
+    pictureTramelo.Height(Height() - 2 * StatusBar1.Height() - FrameSotto->Height());
+    FrameSotto->Top(pictureTramelo.Height());
+    FrameSotto->Width(Width());
+    BottoneAvanti.Left(Width() - 2 * BottoneAvanti.Width());
+    Image1.ForEach([](Image& coppa) { coppa.Visible(false); });
+    HScroll1.Value(VelocitaIniziale);
+    FrameSotto->BackColor(Nearest(stato_.ColoreSfondo));
+}
+
+void frmTrm1::Form_KeyUp(int keyCode, int /*shift*/) {
+    if (BottoneAvanti.Visible()) {
+        BottoneAvanti.SetFocus();
+        return;
+    }
+    if (giocatore_.TrameloRisolto()) {
+        return;
+    }
+    Direzione = DirezioneDi(keyCode).value_or(Direzione);
+}
+
+void frmTrm1::HScroll1_Change() {
+    Lentezza = static_cast<std::int16_t>(Lentissimo - HScroll1.Value());
+}
+
+void frmTrm1::Timer1_Timer() {
+    Timer1.Interval(Lentezza * DecimoDiSecondo);
+    // The pause can start the clock before there is a maze.
+    if (giocatore_.TrameloRisolto() || !HaTramelo()) {
+        return;
+    }
+    ColoreTratto = Nearest(stato_.ColoreAvanti);
+    Muovi(Direzione);
+}
+
+void frmTrm1::mnuNuovo_Click() {
+    Timer1.Enabled(false);
+    FormTrm::mnuNuovo_Click();
+    if (HaTramelo()) {
+        trameloNuovo_ = true;
+        AttendiEParti();
+    }
+}
+
+void frmTrm1::mnuPausa_Click() {
+    const bool pausa = Timer1.Enabled();
+    Timer1.Enabled(!pausa);
+    mnuPausa->Caption(pausa ? "Ri&prendi" : "&Pausa");
+}
+
+PartenzaArrivo frmTrm1::TrovaPartenzaArrivo() {
+    Direzione = Lato::Basso;
+    return TrovaPartenzaArrivoATempo(*tramelo_, MisureDi(geometria_, spessori_));
+}
+
+void frmTrm1::CompletaTramelo() {
+    FormTrm::CompletaTramelo();
+    SoliRimasti = TuttiISoli;
+    MostraSoli();
+}
+
+void frmTrm1::ColpitoMuro() {
+    FormTrm::ColpitoMuro();
+    --SoliRimasti;
+    mnuRicomincia_Click();
+    Direzione = DirezioneIniziale;
+    if (SoliRimasti >= 0) {
+        ImageSole(SoliRimasti).Visible(false);
+    } else {
+        Sbagliato();
+    }
+}
+
+void frmTrm1::Sbagliato() {
+    Timer1.Enabled(false);
+    pictureTramelo.Cls();
+    AzzeraVariabili();
+    giocatore_.TornaAllaPartenza();
+    InserisciPartenza();
+    SoliRimasti = TuttiISoli;
+    ContaRipartenze = Saturated(ContaRipartenze + 1);
+    StatusBar1.Panel(5, "Ripartito da zero " + std::to_string(ContaRipartenze) + " volte");
+    MostraSoli();
+    DisegnaTramelo();
+    AttendiEParti();
+}
+
+void frmTrm1::MostraSoli() {
+    ImageSole.ForEach([](Image& sole) { sole.Visible(true); });
+}
+
+void frmTrm1::AttendiEParti() {
+    const Clock& orologio = Forms().Clock();
+    const bool attende = fineAttesa_.has_value();
+    fineAttesa_ = orologio.Now() + TempoPerGuardare;
+    if (attende) {
+        // Waits inside waits would pile up with every new maze and all end together. The one that
+        // is under way lasts longer instead.
+        return;
+    }
+    while (orologio.Now() < *fineAttesa_) {
+        if (!Attesa(*fineAttesa_ - orologio.Now())) {
+            return;
+        }
+    }
+    fineAttesa_.reset();
+    if (trameloNuovo_) {
+        DirezioneIniziale = Direzione;
+    }
+    trameloNuovo_ = false;
+    Timer1.Enabled(true);
+}
+
+}  // namespace trameli

@@ -1,0 +1,56 @@
+// The play form of levels 5 to 7.
+#pragma once
+
+#include <optional>
+
+#include "platform/label.h"
+#include "platform/scroll_bar.h"
+#include "play/form_trm.h"
+
+namespace trameli {
+
+/// Mazes of 8 by 11 cells in which the symbol walks by itself, a step with each tick, and the keys
+/// only steer it. A hit costs a sun and leads back to the start; without suns the maze starts again
+/// from zero.
+class frmTrm1 : public FormTrm {
+public:
+    frmTrm1(trameli::Forms& forms, Servizi& servizi, Casuale& casuale);
+
+    ControlArray<Image> ImageSole{"ImageSole"};
+    HScrollBar HScroll1;  ///< the speed
+    Label Label1;
+    Label Label2;
+
+protected:
+    void Form_KeyUp(int keyCode, int shift) override;
+    void HScroll1_Change();
+    void Timer1_Timer();
+    void mnuNuovo_Click() override;
+    void mnuPausa_Click();
+
+    DimensioniGriglia Griglia() const override { return {8, 11}; }
+    void Disponi() override;
+    double AttesaIniziale() const override { return 0; }
+    bool SpessoriAllaRipartenza() const override { return false; }
+    PartenzaArrivo TrovaPartenzaArrivo() override;
+    void CompletaTramelo() override;
+    void ColpitoMuro() override;
+    void Sbagliato();
+
+private:
+    void MostraSoli();
+    /// Leaves the player three seconds to look, then starts the clock. The form may be unloaded
+    /// afterwards.
+    void AttendiEParti();
+
+    Lato Direzione = Lato::Basso;          ///< of the next step
+    Lato DirezioneIniziale = Lato::Basso;  ///< to go back to after a hit
+    std::int16_t Lentezza = 18;            ///< time of a step, tenths of a second
+    std::int16_t SoliRimasti = 5;          ///< suns shown; -1 when they have run out
+    std::int16_t ContaRipartenze = 0;      ///< new starts from zero in the whole game
+
+    std::optional<double> fineAttesa_;  ///< when the wait under way ends
+    bool trameloNuovo_ = false;         ///< a new maze came before or during that wait
+};
+
+}  // namespace trameli
