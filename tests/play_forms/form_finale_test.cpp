@@ -1,0 +1,354 @@
+// The congratulations: what can be pressed when, by hand and by switch, and where it leads.
+#include <QKeyEvent>
+#include <QTest>
+#include <QWindow>
+
+#include "base/rounding.h"
+#include "play_forms/finale.h"
+
+namespace trameli {
+namespace {
+
+using Richieste = std::vector<std::string>;
+
+const Richieste MusicaAvviata = {"close", "open P:\\suoni\\coppa.mid", "play"};
+
+class FormFinaleTest : public FinaleTest {};
+
+TEST_F(FormFinaleTest, TellsThePlayerAndTheLevel) {
+    Avvia();
+    FormFinale& form = Mostra();
+    EXPECT_EQ(form.LabelNome.Caption(), "Giulia");
+    EXPECT_EQ(form.Label1.Caption(), "Complimenti!");
+    EXPECT_EQ(form.Label2.Caption(), "4\r\n");
+    EXPECT_EQ(form.Command1.Caption(), "Resta a questo livello");
+    EXPECT_EQ(form.Command2.Caption(), "Vai al prossimo livello");
+}
+
+TEST_F(FormFinaleTest, KeepsItsLayoutWholeInTheMiddleOfEveryScreen) {
+    for (const QSize schermo : {QSize(800, 600), QSize(1366, 768), QSize(1920, 1080),
+                                QSize(3840, 2160), QSize(1080, 1920)}) {
+        SCOPED_TRACE(testing::Message() << schermo.width() << " x " << schermo.height());
+        Avvia(schermo.width(), schermo.height());
+        FormFinale& form = Mostra();
+        const double pixel = Programma().Screen().TwipsPerPixelX();
+        const double left = form.Image1.Left() - 2520;
+        const double top = form.Image1.Top() - 1080;
+        EXPECT_NEAR(left, (form.Width() - 9915) / 2, pixel);
+        EXPECT_NEAR(top, (form.Height() - 7680) / 2, pixel);
+        EXPECT_EQ(form.LabelNome.Place(), (Bounds{3000 + left, 5760 + top, 3375, 495}));
+        EXPECT_EQ(form.Label1.Place(), (Bounds{360 + left, 3120 + top, 2415, 855}));
+        EXPECT_EQ(form.Label2.Place(), (Bounds{360 + left, 3960 + top, 3855, 3135}));
+        EXPECT_EQ(form.Image1.Place(), (Bounds{2520 + left, 1080 + top, 4515, 5475}));
+        EXPECT_EQ(form.Command1.Place(), (Bounds{7440 + left, 5040 + top, 1935, 735}));
+        EXPECT_EQ(form.Command2.Place(), (Bounds{7440 + left, 5880 + top, 1935, 735}));
+        for (const VisualControl* controllo : std::initializer_list<const VisualControl*>{
+                 &form.Image1, &form.Label1, &form.Label2, &form.Command1, &form.Command2}) {
+            EXPECT_TRUE(WindowOf(form).rect().contains(WidgetOf(*controllo).geometry()));
+        }
+    }
+}
+
+// The first second.
+
+TEST_F(FormFinaleTest, CannotBeAnsweredInTheFirstSecond) {
+    for (const int modo : {0, 1, 2}) {
+        Stato.ModoInput = Saturated(modo);
+        Uditi.Asked.clear();
+        Avvia();
+        int controlli = 0;
+        for (const double quando : {0.0, 0.5, 0.99}) {
+            Tempo.In(quando, [&] {
+                FormFinale& form = Finale();
+                EXPECT_TRUE(form.Command1.Visible());
+                EXPECT_EQ(Uditi.Asked, MusicaAvviata);
+                Tap(form, Qt::Key_Space);
+                Tap(form, Qt::Key_Return);
+                ClickOn(form.Command1);
+                ClickOn(form.Command2);
+                EXPECT_FALSE(form.Command1.Enabled());
+                EXPECT_FALSE(form.Command2.Enabled());
+                EXPECT_EQ(Evidenziato(), 0);
+                EXPECT_EQ(Tempo.TimersRunning(), 0);
+                ++controlli;
+            });
+        }
+        FormFinale& form = Mostra();
+        EXPECT_EQ(controlli, 3);
+        EXPECT_TRUE(form.Command1.Enabled());
+        EXPECT_TRUE(form.Command2.Enabled());
+        EXPECT_EQ(Evidenziato(), 1);
+        EXPECT_FALSE(Aperto("frmTrm0"));
+    }
+}
+
+TEST_F(FormFinaleTest, StrokeBegunInTheFirstSecondAnswersNothing) {
+    for (const int modo : {0, 2}) {
+        Stato.ModoInput = Saturated(modo);
+        for (const int tasto : {Qt::Key_Space, Qt::Key_Return}) {
+            Avvia();
+            Tempo.In(0.9, [&] { Press(Finale(), tasto); });
+            Release(Mostra(), tasto);
+            EXPECT_TRUE(Aperto("FormFinale"));
+            Tap(Finale(), tasto);
+            EXPECT_FALSE(Aperto("FormFinale"));
+        }
+    }
+}
+
+TEST_F(FormFinaleTest, ClosedInTheFirstSecondIsGone) {
+    Avvia();
+    Programma().Show("Altro");
+    Pump();
+    Tempo.In(0.5, [&] { WindowOf(Finale()).close(); });
+    Programma().Show("FormFinale");
+    Pump();
+    EXPECT_FALSE(Aperto("FormFinale"));
+    EXPECT_EQ(Uditi.Asked.back(), "close");
+    EXPECT_EQ(Tempo.TimersRunning(), 0);
+    EXPECT_FALSE(Programma().Ended());
+    Tempo.Advance(3);
+}
+
+TEST_F(FormFinaleTest, ProgramEndedInTheFirstSecondRunsNothingMore) {
+    Avvia();
+    Tempo.In(0.5, [&] { Programma().End(); });
+    FormFinale& form = Mostra();
+    EXPECT_FALSE(form.Command1.Enabled());
+    EXPECT_EQ(Uditi.Asked, MusicaAvviata);
+}
+
+TEST_F(FormFinaleTest, ComingBackToTheFrontStartsNothingAnew) {
+    Avvia();
+    const auto vaiEVieni = [&] {
+        Programma().Show("Altro");
+        Pump();
+        Programma().Show("FormFinale");
+        Pump();
+        EXPECT_TRUE(WindowOf(Finale()).isActiveWindow());
+    };
+    double inizio = 0;
+    Tempo.In(0, [&] { inizio = Tempo.Now(); });
+    Tempo.In(0.6, [&] {
+        vaiEVieni();
+        EXPECT_EQ(Tempo.WaitsUnderWay(), 1);
+        EXPECT_FALSE(Finale().Command1.Enabled());
+    });
+    FormFinale& form = Mostra();
+    EXPECT_DOUBLE_EQ(Tempo.Now(), inizio + AttesaIniziale);
+    EXPECT_TRUE(form.Command1.Enabled());
+    Tab();
+    ASSERT_EQ(Evidenziato(), 2);
+    vaiEVieni();
+    EXPECT_EQ(Evidenziato(), 2);
+    EXPECT_EQ(Uditi.Asked, MusicaAvviata);
+    EXPECT_TRUE(form.Command1.Enabled());
+}
+
+// Where the buttons lead.
+
+TEST_F(FormFinaleTest, StaysAtTheLevel) {
+    struct {
+        std::int16_t Livello;
+        const char* Form;
+    } const casi[] = {{0, "frmTrm0"}, {4, "frmTrm0"}, {5, "frmTrm1"},
+                      {7, "frmTrm1"}, {8, "frmTrm3"}, {15, "frmTrm3"}};
+    for (const auto& caso : casi) {
+        Stato.Livello = caso.Livello;
+        Stato.RigheGriglia = 33;
+        Stato.ColonneGriglia = 44;
+        Avvia();
+        Uditi.Asked.clear();
+        ClickOn(Mostra().Command1);
+        EXPECT_TRUE(Aperto(caso.Form)) << caso.Livello;
+        EXPECT_FALSE(Aperto("FormFinale"));
+        EXPECT_EQ(Stato.Livello, caso.Livello);
+        EXPECT_EQ(Stato.RigheGriglia, 33);
+        EXPECT_EQ(Stato.ColonneGriglia, 44);
+        EXPECT_EQ(Uditi.Asked.back(), "close");
+        EXPECT_EQ(Uditi.Asked.size(), MusicaAvviata.size() + 1);
+    }
+}
+
+TEST_F(FormFinaleTest, GoesToTheNextLevelWithItsGrid) {
+    struct {
+        const char* Form;
+        std::int16_t Righe, Colonne;
+    } const prossimi[] = {{"frmTrm0", 33, 44}, {"frmTrm0", 33, 44}, {"frmTrm0", 33, 44},
+                          {"frmTrm0", 33, 44}, {"frmTrm1", 33, 44}, {"frmTrm1", 33, 44},
+                          {"frmTrm1", 33, 44}, {"frmTrm3", 3, 4},   {"frmTrm3", 4, 5},
+                          {"frmTrm3", 5, 6},   {"frmTrm3", 6, 7},   {"frmTrm3", 8, 10},
+                          {"frmTrm3", 10, 15}, {"frmTrm3", 12, 18}, {"frmTrm3", 15, 20}};
+    std::int16_t livello = 0;
+    for (const auto& prossimo : prossimi) {
+        Stato.Livello = livello++;
+        Stato.RigheGriglia = 33;
+        Stato.ColonneGriglia = 44;
+        Stato.TrameloDisegnato = true;
+        Avvia();
+        ClickOn(Mostra().Command2);
+        EXPECT_EQ(Stato.Livello, livello);
+        EXPECT_TRUE(Aperto(prossimo.Form)) << livello;
+        EXPECT_FALSE(Aperto("FormFinale"));
+        EXPECT_EQ(Stato.RigheGriglia, prossimo.Righe);
+        EXPECT_EQ(Stato.ColonneGriglia, prossimo.Colonne);
+        EXPECT_FALSE(Stato.TrameloDisegnato);
+    }
+}
+
+TEST_F(FormFinaleTest, OffersNothingAfterTheLastLevel) {
+    Stato.Livello = 15;
+    Avvia();
+    Tempo.In(0.5, [&] { EXPECT_TRUE(Finale().Command2.Visible()); });
+    FormFinale& form = Mostra();
+    EXPECT_FALSE(form.Command2.Visible());
+    EXPECT_EQ(Evidenziato(), 1);
+    Tab();
+    EXPECT_EQ(Evidenziato(), 1);
+    Tap(form, Qt::Key_Space);
+    EXPECT_TRUE(Aperto("frmTrm3"));
+    EXPECT_EQ(Stato.Livello, 15);
+}
+
+TEST_F(FormFinaleTest, StaysWhereAGameHasNoWindow) {
+    Avvia(1024, 768, false);
+    FormFinale& form = Mostra();
+    Stato.TrameloDisegnato = true;
+    ClickOn(form.Command1);
+    ClickOn(form.Command2);
+    EXPECT_TRUE(Aperto("FormFinale"));
+    EXPECT_EQ(Stato.Livello, 3);
+    EXPECT_TRUE(Stato.TrameloDisegnato);
+}
+
+// Keyboard and switches.
+
+TEST_F(FormFinaleTest, WithTheKeyboardNothingMovesByItself) {
+    Avvia();
+    FormFinale& form = Mostra();
+    EXPECT_EQ(Tempo.TimersRunning(), 0);
+    Tempo.Advance(60);
+    EXPECT_EQ(Evidenziato(), 1);
+    Tab();
+    EXPECT_EQ(Evidenziato(), 2);
+    Tap(form, Qt::Key_Space);
+    EXPECT_EQ(Stato.Livello, 4);
+}
+
+TEST_F(FormFinaleTest, WithTwoSwitchesSpaceMovesAndEnterPresses) {
+    Stato.ModoInput = 1;
+    for (int colpi = 0; colpi < 5; ++colpi) {
+        Stato.Livello = 2;
+        Avvia();
+        FormFinale& form = Mostra();
+        EXPECT_EQ(Tempo.TimersRunning(), 0);
+        for (int colpo = 0; colpo < colpi; ++colpo) {
+            EXPECT_EQ(Evidenziato(), 1 + colpo % 2);
+            Press(form, Qt::Key_Space);
+            EXPECT_EQ(Evidenziato(), 1 + colpo % 2) << "it is the release that moves";
+            Release(form, Qt::Key_Space);
+            EXPECT_EQ(Evidenziato(), 2 - colpo % 2);
+        }
+        Tap(form, Qt::Key_Return);
+        EXPECT_FALSE(Aperto("FormFinale"));
+        EXPECT_EQ(Stato.Livello, 2 + colpi % 2);
+    }
+}
+
+TEST_F(FormFinaleTest, SpaceHeldDownMovesOnce) {
+    Stato.ModoInput = 1;
+    Avvia();
+    FormFinale& form = Mostra();
+    QWindow* finestra = WindowOf(form).windowHandle();
+    Press(form, Qt::Key_Space);
+    for (int i = 0; i < 20; ++i) {
+        for (const QEvent::Type tipo : {QEvent::KeyRelease, QEvent::KeyPress}) {
+            QKeyEvent ripetuto(tipo, Qt::Key_Space, Qt::NoModifier, " ", true);
+            QCoreApplication::sendEvent(static_cast<QObject*>(finestra), &ripetuto);
+        }
+    }
+    EXPECT_EQ(Evidenziato(), 1);
+    Release(form, Qt::Key_Space);
+    EXPECT_EQ(Evidenziato(), 2);
+    Tap(form, Qt::Key_Space);
+    EXPECT_EQ(Evidenziato(), 1);
+}
+
+TEST_F(FormFinaleTest, WithTwoSwitchesTheLastLevelStillEnds) {
+    Stato.ModoInput = 1;
+    Stato.Livello = 15;
+    Avvia();
+    FormFinale& form = Mostra();
+    Tap(form, Qt::Key_Space);
+    Tap(form, Qt::Key_Space);
+    EXPECT_EQ(Evidenziato(), 1);
+    Tap(form, Qt::Key_Return);
+    EXPECT_TRUE(Aperto("frmTrm3"));
+}
+
+TEST_F(FormFinaleTest, WithOneSwitchTheFocusMovesAndSpacePresses) {
+    Stato.ModoInput = 2;
+    for (const int velocita : {2, 4, 60}) {
+        Stato.VelocitaScansione = Saturated(velocita);
+        const double passo = velocita * 0.25;
+        for (int passi = 0; passi < 4; ++passi) {
+            Stato.Livello = 2;
+            Avvia();
+            FormFinale& form = Mostra();
+            for (int i = 0; i < passi; ++i) {
+                EXPECT_EQ(Evidenziato(), 1 + i % 2);
+                Tempo.Advance(passo - 0.01);
+                EXPECT_EQ(Evidenziato(), 1 + i % 2);
+                Tempo.Advance(0.01);
+                EXPECT_EQ(Evidenziato(), 2 - i % 2);
+            }
+            Tap(form, Qt::Key_Space);
+            EXPECT_FALSE(Aperto("FormFinale"));
+            EXPECT_EQ(Stato.Livello, 2 + passi % 2);
+            EXPECT_EQ(Tempo.TimersRunning(), 0);
+        }
+    }
+}
+
+TEST_F(FormFinaleTest, PressesWhatWasOfferedWhenTheSwitchWentDown) {
+    Stato.ModoInput = 2;
+    Avvia();
+    FormFinale& form = Mostra();
+    Tempo.Advance(1);
+    ASSERT_EQ(Evidenziato(), 2);
+    Press(form, Qt::Key_Space);
+    Tempo.Advance(10);
+    EXPECT_EQ(Evidenziato(), 2);
+    Release(form, Qt::Key_Space);
+    EXPECT_EQ(Stato.Livello, 4);
+}
+
+TEST_F(FormFinaleTest, GoesOnOfferingAfterAStrokeThatWasLost) {
+    Stato.ModoInput = 2;
+    Avvia();
+    FormFinale& form = Mostra();
+    Press(form, Qt::Key_Space);
+    Programma().Show("Altro");
+    Pump();
+    Release(*Programma().Find("Altro"), Qt::Key_Space);
+    Programma().Show("FormFinale");
+    Pump();
+    EXPECT_EQ(Evidenziato(), 1);
+    Tempo.Advance(1);
+    EXPECT_EQ(Evidenziato(), 2);
+    EXPECT_EQ(Stato.Livello, 3);
+}
+
+TEST_F(FormFinaleTest, WithOneSwitchTheLastLevelStillEnds) {
+    Stato.ModoInput = 2;
+    Stato.Livello = 15;
+    Avvia();
+    FormFinale& form = Mostra();
+    Tempo.Advance(7.3);
+    EXPECT_EQ(Evidenziato(), 1);
+    Tap(form, Qt::Key_Space);
+    EXPECT_TRUE(Aperto("frmTrm3"));
+}
+
+}  // namespace
+}  // namespace trameli
