@@ -31,6 +31,7 @@ public:
         Routine Resize;
         Routine Activate;
         Routine Unload;
+        std::function<bool(ScriptedForm&, int)> KeyDown;
         std::function<void(ScriptedForm&, int)> KeyUp;
     };
 
@@ -77,6 +78,9 @@ protected:
     void Form_Activate() override { Do("Activate", script_.Activate); }
     void Form_Unload() override { Do("Unload", script_.Unload); }
     void Form_MouseMove() override { Note("MouseMove"); }
+    bool Form_KeyDown(int keyCode, int) override {
+        return script_.KeyDown && script_.KeyDown(*this, keyCode);
+    }
     void Form_KeyUp(int keyCode, int) override {
         Note("KeyUp " + std::to_string(keyCode));
         if (script_.KeyUp) {

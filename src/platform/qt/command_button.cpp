@@ -63,6 +63,9 @@ protected:
         PaintCaption(painter, room);
     }
 
+    bool event(QEvent* event) override {
+        return KeyPressOnRelease::Shortcut(*event, *this) || QPushButton::event(event);
+    }
     void keyPressEvent(QKeyEvent* event) override {
         if (!keys_.Pressed(*event, *this)) {
             QPushButton::keyPressEvent(event);

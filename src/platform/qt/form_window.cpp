@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QWindow>
 #include <algorithm>
+#include <utility>
 
 #include "platform/forms.h"
 #include "platform/qt/convert.h"
@@ -141,6 +142,9 @@ bool FormWindow::event(QEvent* event) {
 
 bool FormWindow::eventFilter(QObject* object, QEvent* event) {
     switch (event->type()) {
+        case QEvent::ShortcutOverride:  // comes before each press
+            menuHasKey_ = QApplication::activePopupWidget() != nullptr;
+            break;
         case QEvent::KeyPress:
         case QEvent::KeyRelease:
             if (FilterKey(*static_cast<QKeyEvent*>(event))) {
@@ -162,11 +166,16 @@ bool FormWindow::eventFilter(QObject* object, QEvent* event) {
 
 /// True if the key goes no further.
 bool FormWindow::FilterKey(QKeyEvent& event) {
-    if (event.type() == QEvent::KeyPress) {
-        return FilterPress(event);
-    }
+    const bool menuHadKey = std::exchange(menuHasKey_, false);
     if (QApplication::activePopupWidget()) {
+        // The keyboard is the menu's, and so is the release of whatever is held down just now.
+        keys_.Forget();
+        kept_.clear();
         return false;
+    }
+    if (event.type() == QEvent::KeyPress) {
+        // A list closes before the press itself has come.
+        return menuHadKey || FilterPress(event);
     }
     if (!keys_.Release(event)) {
         return true;
@@ -180,9 +189,6 @@ bool FormWindow::FilterKey(QKeyEvent& event) {
 
 /// The form is asked once; what it says holds for the presses that auto-repeat makes up as well.
 bool FormWindow::FilterPress(QKeyEvent& event) {
-    if (QApplication::activePopupWidget()) {
-        return false;
-    }
     keys_.Press(event);
     if (!event.isAutoRepeat()) {
         const int keyCode = KeyCodeOf(event);

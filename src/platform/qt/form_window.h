@@ -56,7 +56,8 @@ private:
     Form& form_;
     ClientArea& client_;
     KeyGate keys_;
-    QSet<int> kept_;  // keys held down that the form keeps from its controls
+    QSet<int> kept_;           // keys held down that the form keeps from its controls
+    bool menuHasKey_ = false;  // the press under way found a menu or a list open
     const Control* focused_ = nullptr;
     QTimer settling_;
     bool activated_ = false;       // Form_Activate has come once

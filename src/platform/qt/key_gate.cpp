@@ -1,7 +1,5 @@
 #include "platform/qt/key_gate.h"
 
-#include <QApplication>
-
 #include "platform/keys.h"
 
 namespace trameli {
@@ -61,7 +59,7 @@ int ShiftBitsOf(const QKeyEvent& event) {
 }
 
 void KeyGate::Press(const QKeyEvent& event) {
-    if (!event.isAutoRepeat() && !QApplication::activePopupWidget()) {
+    if (!event.isAutoRepeat()) {
         pressed_.insert(Identity(event));
     }
 }

@@ -16,11 +16,11 @@ int ShiftBitsOf(const QKeyEvent& event);
 /// message box, or belonged to another window.
 class KeyGate {
 public:
-    /// Takes note of a press. Presses while a menu is open are the menu's.
+    /// Takes note of a press.
     void Press(const QKeyEvent& event);
     /// True if this release belongs to a press that was noted.
     bool Release(const QKeyEvent& event);
-    /// The window lost the keyboard: releases go elsewhere from now on.
+    /// The window lost the keyboard, be it to a menu: what is held down is not its own any more.
     void Forget() { pressed_.clear(); }
 
 private:

@@ -3,6 +3,7 @@
 
 #include <QAbstractButton>
 #include <QKeyEvent>
+#include <QShortcutEvent>
 
 namespace trameli {
 
@@ -30,6 +31,22 @@ public:
             button.setDown(false);
         }
         return ours;
+    }
+
+    /// True if this was the button's letter with Alt, which presses it at once. The toolkit would
+    /// show it pressed for a moment first, by a time that is not the program's, and would press it
+    /// again and again while the key is held.
+    static bool Shortcut(const QEvent& event, QAbstractButton& button) {
+        if (event.type() != QEvent::Shortcut) {
+            return false;
+        }
+        const auto& shortcut = static_cast<const QShortcutEvent&>(event);
+        if (shortcut.isAmbiguous()) {
+            return false;
+        }
+        button.setShortcutAutoRepeat(shortcut.shortcutId(), false);
+        button.click();
+        return true;
     }
 
     /// The keyboard went elsewhere between press and release.

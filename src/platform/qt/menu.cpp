@@ -61,6 +61,8 @@ MenuItem::MenuItem(MenuItem& parent, ControlName name, std::string caption, char
     : Control(parent.OwnerForm(), std::move(name)),
       native_(std::make_unique<Native>(parent.NativePart().Menu())) {
     if (letter != 0) {
+        // Held down, a key is one press and no more.
+        native_->Action->setAutoRepeat(false);
         native_->Action->setShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(letter)));
     }
     QObject::connect(native_->Action, &QAction::triggered, [this] { Fire(*this, Click); });

@@ -51,6 +51,9 @@ protected:
         }
     }
 
+    bool event(QEvent* event) override {
+        return KeyPressOnRelease::Shortcut(*event, *this) || QRadioButton::event(event);
+    }
     void keyPressEvent(QKeyEvent* event) override {
         if (!keys_.Pressed(*event, *this)) {
             QRadioButton::keyPressEvent(event);
