@@ -1,6 +1,10 @@
 #include "play/form_a_passi.h"
 
+#include <array>
+#include <cstddef>
+
 #include "base/rounding.h"
+#include "platform/keys.h"
 #include "play/tasti.h"
 
 namespace trameli {
@@ -10,6 +14,36 @@ namespace {
 constexpr int QuartoDiSecondo = 250;  // milliseconds
 
 }  // namespace
+
+FormAPassi::FormAPassi(trameli::Forms& forms, Servizi& servizi, Casuale& casuale,
+                       const DisegnoTrm& disegno)
+    : FormTrm(forms, servizi, casuale, disegno) {
+    Timer1.Tick = [this] { Timer1_Timer(); };
+    PictureScansioneManuale->KeyUp = [this](int keyCode, int) {
+        PictureScansioneManuale_KeyUp(keyCode);
+    };
+    PictureScansioneAutomatica->KeyUp = [this](int keyCode, int) {
+        PictureScansioneAutomatica_KeyUp(keyCode);
+    };
+}
+
+/// Brings the keyboard to where the switches count, before the key goes down there. The timer alone
+/// would not do: its next tick can be 15 seconds away, and while a solved maze is on show it stands
+/// still. A click somewhere would then leave the player no way to go on.
+bool FormAPassi::Form_KeyDown(int keyCode, int /*shift*/) {
+    if (stato_.ModoInput == 0 || (keyCode != KeySpace && keyCode != KeyEnter)) {
+        return false;
+    }
+    if (BottoneAvanti.Visible()) {
+        BottoneAvanti.SetFocus();
+    } else if (stato_.ModoInput == 1) {
+        PictureScansioneManuale->SetFocus();
+    } else if (offerto_) {
+        // Not before: nobody can take what was not yet offered.
+        PictureScansioneAutomatica->SetFocus();
+    }
+    return false;
+}
 
 void FormAPassi::Form_KeyUp(int keyCode, int /*shift*/) {
     if (stato_.ModoInput != 0) {
@@ -28,6 +62,43 @@ void FormAPassi::Form_KeyUp(int keyCode, int /*shift*/) {
     }
 }
 
+void FormAPassi::mnuNuovo_Click() {
+    offerto_ = false;
+    FormTrm::mnuNuovo_Click();
+}
+
+void FormAPassi::Timer1_Timer() {
+    if (stato_.ModoInput == 1) {
+        PictureScansioneManuale->SetFocus();
+    } else if (stato_.ModoInput == 2 && HaTramelo()) {
+        OffriProssima();
+        offerto_ = true;
+        PictureScansioneAutomatica->SetFocus();
+    }
+}
+
+void FormAPassi::PictureScansioneManuale_KeyUp(int keyCode) {
+    if (stato_.ModoInput != 1 || !HaTramelo()) {
+        return;
+    }
+    if (BottoneAvanti.Visible()) {
+        BottoneAvanti_Click();
+    } else if (keyCode == KeySpace) {
+        OffriProssima();
+    } else if (keyCode == KeyEnter && !giocatore_.TrameloRisolto()) {
+        PrendiOfferta();
+    }
+}
+
+void FormAPassi::PictureScansioneAutomatica_KeyUp(int keyCode) {
+    if (stato_.ModoInput != 2 || keyCode != KeySpace || giocatore_.TrameloRisolto() ||
+        !HaTramelo()) {
+        return;
+    }
+    TogliLineeRotazione();
+    PrendiOfferta();
+}
+
 void FormAPassi::DisponiControlli(double altezza, double scartoCoppe) {
     pictureTramelo.Width(Width());
     pictureTramelo.Height(altezza);
@@ -43,9 +114,11 @@ void FormAPassi::ImpostaModoInput() {
     switch (stato_.ModoInput) {
         case 1:
             Timer1.Enabled(true);
+            DirezioneScansione = 0;
             break;
         case 2:
             Timer1.Interval(stato_.VelocitaScansione * QuartoDiSecondo);
+            DirezioneScansione = 0;
             break;
         default:
             Timer1.Enabled(false);
@@ -53,6 +126,51 @@ void FormAPassi::ImpostaModoInput() {
     }
     PictureScansioneManuale->Visible(stato_.ModoInput == 1);
     PictureScansioneAutomatica->Visible(stato_.ModoInput == 2);
+}
+
+void FormAPassi::OffriProssima() {
+    constexpr std::array offerte{&FormAPassi::LineaASinistra, &FormAPassi::LineaInAlto,
+                                 &FormAPassi::LineaADestra, &FormAPassi::LineaInBasso};
+    DirezioneScansione = DirezioneDopo(DirezioneScansione);
+    (this->*offerte.at(static_cast<std::size_t>(DirezioneScansione)))();
+}
+
+void FormAPassi::LineaASinistra() {
+    Offri(0);
+}
+
+void FormAPassi::LineaInAlto() {
+    Offri(1);
+}
+
+void FormAPassi::LineaADestra() {
+    Offri(2);
+}
+
+void FormAPassi::LineaInBasso() {
+    Offri(3);
+}
+
+void FormAPassi::Offri(std::int16_t direzione) {
+    const Punto testa = giocatore_.PuntoCorrente();
+    TogliTrattoScansione(pictureTramelo, testa, DirezionePrima(direzione), AspettoTratti());
+    DisegnaPercorsoPerStampa(pictureTramelo, traccia_, Aspetto());
+    DisegnaTrattoScansione(pictureTramelo, testa, direzione, AspettoTratti());
+    DisegnaSimbolo(pictureTramelo, testa, Aspetto());
+}
+
+void FormAPassi::TogliLineeRotazione() {
+    for (std::int16_t direzione = 0; direzione < NumeroDirezioni; ++direzione) {
+        TogliTrattoScansione(pictureTramelo, giocatore_.PuntoCorrente(), direzione,
+                             AspettoTratti());
+    }
+    DisegnaPercorsoPerStampa(pictureTramelo, traccia_, Aspetto());
+}
+
+/// The form may be unloaded afterwards.
+void FormAPassi::PrendiOfferta() {
+    ColoreTratto = Nearest(stato_.ColoreAvanti);
+    Muovi(DirezioniScansione.at(static_cast<std::size_t>(DirezioneScansione)));
 }
 
 }  // namespace trameli

@@ -6,17 +6,39 @@
 namespace trameli {
 
 /// Each key released is a step, and the settings tell who is served: the keyboard, or switches
-/// through the pictures that hold the keys for them.
+/// through the pictures that hold the keys for them. With two switches one goes from direction to
+/// direction and the other takes the one on offer; with a single one, Timer1 does the going.
 class FormAPassi : public FormTrm {
 protected:
-    using FormTrm::FormTrm;
+    FormAPassi(trameli::Forms& forms, Servizi& servizi, Casuale& casuale,
+               const DisegnoTrm& disegno);
 
+    bool Form_KeyDown(int keyCode, int shift) override;
     void Form_KeyUp(int keyCode, int shift) override;
+    void mnuNuovo_Click() override;
+    void Timer1_Timer();
+    void PictureScansioneManuale_KeyUp(int keyCode);
+    void PictureScansioneAutomatica_KeyUp(int keyCode);
 
     /// Gives `pictureTramelo` the whole width and `altezza` twips, puts the button under it and
     /// hides the cups, their tops `scartoCoppe` twips below the button's.
     void DisponiControlli(double altezza, double scartoCoppe);
     void ImpostaModoInput();
+
+    // Each takes the stroke of the direction before it away and offers its own.
+    void LineaASinistra();
+    void LineaInAlto();
+    void LineaADestra();
+    void LineaInBasso();
+    /// Takes all strokes away; the direction on offer stays.
+    void TogliLineeRotazione();
+
+private:
+    void OffriProssima();
+    void Offri(std::int16_t direzione);
+    void PrendiOfferta();
+
+    bool offerto_ = false;  ///< the timer has offered a direction in this maze
 };
 
 }  // namespace trameli

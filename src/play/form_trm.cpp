@@ -110,7 +110,10 @@ void FormTrm::mnuEsci_Click() {
 }
 
 void FormTrm::BottoneAvanti_GotFocus() {
-    StatoTimerSalvato = Timer1.Enabled();
+    // The button can get the focus a second time, from the Tab key or a click, and then finds the
+    // timer as it left it. A timer that once ran has to run again, or scanning would stand still
+    // in the next maze.
+    StatoTimerSalvato = StatoTimerSalvato || Timer1.Enabled();
     Timer1.Enabled(false);
 }
 

@@ -43,6 +43,8 @@ void frmTrm0::mnuNuovo_Click() {
     InserisciArrivo();
     if (stato_.ModoInput == 2) {
         Timer1.Enabled(true);
+    } else if (stato_.ModoInput == 1) {
+        RidisegnaRotazione();
     }
 }
 

@@ -43,8 +43,14 @@ void frmTrm3::Disponi() {
 
 void frmTrm3::mnuNuovo_Click() {
     FormAPassi::mnuNuovo_Click();
-    if (HaTramelo() && (stato_.ModoInput == 1 || stato_.ModoInput == 2)) {
+    if (!HaTramelo()) {
+        return;
+    }
+    if (stato_.ModoInput == 1 || stato_.ModoInput == 2) {
         Timer1.Enabled(true);
+    }
+    if (stato_.ModoInput == 1) {
+        RidisegnaRotazione();
     }
 }
 

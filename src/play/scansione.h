@@ -16,12 +16,14 @@ namespace trameli {
 inline constexpr std::array<Lato, 4> DirezioniScansione{Lato::Sinistra, Lato::Alto, Lato::Destra,
                                                         Lato::Basso};
 
+inline constexpr auto NumeroDirezioni = static_cast<std::int16_t>(DirezioniScansione.size());
+
 /// The direction offered after this one, or before it.
 constexpr std::int16_t DirezioneDopo(std::int16_t direzione) {
-    return static_cast<std::int16_t>((direzione + 1) % 4);
+    return static_cast<std::int16_t>((direzione + 1) % NumeroDirezioni);
 }
 constexpr std::int16_t DirezionePrima(std::int16_t direzione) {
-    return static_cast<std::int16_t>((direzione + 3) % 4);
+    return static_cast<std::int16_t>((direzione + NumeroDirezioni - 1) % NumeroDirezioni);
 }
 
 /// How long and thick the strokes are, and their colours.

@@ -1,6 +1,8 @@
 #include "platform/control.h"
 
+#include <QApplication>
 #include <QCursor>
+#include <QMenuBar>
 #include <QPalette>
 #include <algorithm>
 
@@ -14,6 +16,13 @@
 namespace trameli {
 
 namespace {
+
+/// Whether a menu or a dropped list has the keyboard. A message box needs no such care: it is a
+/// window of its own, and focus given in another one waits there.
+bool KeyboardTaken() {
+    return QApplication::activePopupWidget() ||
+           qobject_cast<QMenuBar*>(QApplication::focusWidget());
+}
 
 /// A colour two thirds of the way to grey.
 QColor Pale(const QColor& colour) {
@@ -125,6 +134,9 @@ void VisualControl::TabIndex(int index) {
 
 void VisualControl::SetFocus() {
     QWidget* widget = native_->Widget;
+    if (KeyboardTaken()) {
+        return;
+    }
     if (widget->isVisible() && widget->isEnabled() && widget->focusPolicy() != Qt::NoFocus) {
         widget->setFocus(Qt::OtherFocusReason);
     }
