@@ -7,6 +7,7 @@ namespace trameli {
 namespace {
 
 constexpr int NumeroArrivi = 20;
+constexpr int NumeroMuri = 4;
 constexpr double Lato = 1200;  // twips; those who take a picture stretch it to their own size
 
 }  // namespace
@@ -16,6 +17,10 @@ FormArchivio::FormArchivio(trameli::Forms& forms)
     for (int i = 0; i < NumeroArrivi; ++i) {
         const std::string numero = (i < 10 ? "0" : "") + std::to_string(i);
         Image2.Add(*this, Bounds{0, Lato * i, Lato, Lato}, Picture{"arrivo/" + numero + ".svg"});
+    }
+    for (int i = 0; i < NumeroMuri; ++i) {
+        PictureBox& muro = PictureMuro.Add(*this, Bounds{Lato, Lato * i, Lato, Lato});
+        muro.Picture({"muri/" + std::to_string(i) + ".svg"});
     }
 }
 

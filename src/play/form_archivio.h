@@ -4,6 +4,7 @@
 #include "platform/control_array.h"
 #include "platform/form.h"
 #include "platform/image.h"
+#include "platform/picture_box.h"
 
 namespace trameli {
 
@@ -14,6 +15,8 @@ public:
 
     /// The pictures that can mark the finish.
     ControlArray<Image> Image2{"Image2"};
+    /// The pictures that bars of walls can show, each larger than the longest bar.
+    ControlArray<PictureBox> PictureMuro{"PictureMuro"};
 };
 
 }  // namespace trameli

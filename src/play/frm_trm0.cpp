@@ -2,6 +2,10 @@
 
 #include <string>
 
+#include "drawing/muri_a_barre.h"
+#include "platform/forms.h"
+#include "play/form_archivio.h"
+
 namespace trameli {
 
 namespace {
@@ -24,7 +28,7 @@ constexpr DisegnoTrm Disegno{
 frmTrm0::frmTrm0(trameli::Forms& forms, Servizi& servizi, Casuale& casuale)
     : FormAPassi(forms, servizi, casuale, Disegno) {
     PictureMuri.Add(pictureTramelo, Bounds{4080, 480, 900, 900}).Visible(false);
-    mnuLineeMuri->Enabled(false);  // until there are bars
+    mnuLineeMuri->Click = [this] { mnuLineeMuri_Click(); };
 }
 
 void frmTrm0::Disponi() {
@@ -62,6 +66,56 @@ Pareti frmTrm0::AspettoPareti() const {
 void frmTrm0::InserisciArrivo() {
     FormAPassi::InserisciArrivo();
     Image2.Visible(true);
+}
+
+void frmTrm0::ScegliMuri() {
+    if (!LineeMuri) {
+        const auto& archivio = static_cast<FormArchivio&>(Forms().Load("FormArchivio"));
+        IndiceMuro = static_cast<std::int16_t>(casuale_.FinoA(archivio.PictureMuro.Count()));
+    }
+}
+
+void frmTrm0::DisegnaTramelo() {
+    if (LineeMuri) {
+        DisegnaConLinee();
+    } else {
+        SistemaMuri();
+    }
+}
+
+void frmTrm0::DisegnaConLinee() {
+    TogliMuri();
+    FormAPassi::DisegnaTramelo();
+}
+
+void frmTrm0::SistemaMuri() {
+    TogliMuri();
+    const auto& archivio = static_cast<FormArchivio&>(Forms().Load("FormArchivio"));
+    PictureMuri(0).Width(geometria_.DimensioneCella);
+    PictureMuri(0).Height(geometria_.DimensioneCella);
+    PictureMuri(0).Picture(archivio.PictureMuro(IndiceMuro).Picture());
+    for (const Bounds& posto : PostiBarre(*tramelo_, MisureDi(geometria_, spessori_))) {
+        PictureBox& muro = PictureMuri.Load(++ContaPezziMuro);
+        muro.AccessibleName("Muro");
+        muro.Enabled(false);  // a click on a wall takes the keyboard from nobody
+        muro.Place(posto);
+        muro.Visible(true);
+    }
+    stato_.TrameloDisegnato = true;
+}
+
+/// The bars of an earlier drawing go, whatever the next one is made of.
+void frmTrm0::TogliMuri() {
+    while (PictureMuri.Count() > 1) {
+        PictureMuri.Unload(PictureMuri.Count() - 1);
+    }
+    ContaPezziMuro = 0;
+}
+
+void frmTrm0::mnuLineeMuri_Click() {
+    LineeMuri = !LineeMuri;
+    ScriviLineeMuri();
+    mnuRicomincia_Click();
 }
 
 void frmTrm0::ScriviLineeMuri() {

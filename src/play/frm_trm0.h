@@ -16,6 +16,7 @@ public:
 
 protected:
     void mnuNuovo_Click() override;
+    void mnuLineeMuri_Click();
 
     DimensioniGriglia Griglia() const override { return {6, 9}; }
     void Disponi() override;
@@ -24,11 +25,18 @@ protected:
     bool SpessoriAllaRipartenza() const override { return true; }
     trameli::Pareti AspettoPareti() const override;
     void InserisciArrivo() override;
+    void ScegliMuri() override;
+    void DisegnaTramelo() override;
 
 private:
     void ScriviLineeMuri();
+    void DisegnaConLinee();
+    void SistemaMuri();
+    void TogliMuri();
 
-    bool LineeMuri = false;  ///< walls are lines; the form's own copy of the setting
+    bool LineeMuri = false;           ///< walls are lines; the form's own copy of the setting
+    std::int16_t IndiceMuro = 0;      ///< which picture of the archive the bars show
+    std::int16_t ContaPezziMuro = 0;  ///< bars in use: the highest index of PictureMuri
 };
 
 }  // namespace trameli
