@@ -110,8 +110,12 @@ void Surface::Native::Round(double x1, double y1, double x2, double y2, int pen,
     const int width = PenOnDevice(pen);
     const std::uint32_t pixel = PixelOf(colour);
     const Pixels target = Target();
-    const Point a = ToDevice(x1, y1);
-    const Point b = ToDevice(x2, y2);
+    Point a = ToDevice(x1, y1);
+    Point b = ToDevice(x2, y2);
+    if (b.Y < a.Y) {
+        // The same pixels from whichever end it is drawn: it may be erased from the other one.
+        std::swap(a, b);
+    }
     pens_.DrawPoint(target, a.X, a.Y, width, pixel);
     if (a.Y == b.Y) {
         FillRectangle(target, std::min(a.X, b.X), a.Y + PenOffset(width), std::abs(b.X - a.X),
@@ -148,7 +152,7 @@ void Surface::Native::Paint(QPainter& painter, const QRect& where) {
 }
 
 int Surface::Native::ToDevice(double twips) const {
-    // Always to the same side, so that equal lengths in twips stay equal wherever they lie.
+    // Halves always to the same side, so that lengths of whole pixels stay equal wherever they lie.
     return Floor(twips / twipsPerPixel_ * ratio_ + 0.5);
 }
 
