@@ -1,4 +1,5 @@
 // The congratulations: what can be pressed when, by hand and by switch, and where it leads.
+#include <QAbstractButton>
 #include <QKeyEvent>
 #include <QTest>
 #include <QWindow>
@@ -272,6 +273,21 @@ TEST_F(FormFinaleTest, SpaceHeldDownMovesOnce) {
     EXPECT_EQ(Evidenziato(), 2);
     Tap(form, Qt::Key_Space);
     EXPECT_EQ(Evidenziato(), 1);
+}
+
+TEST_F(FormFinaleTest, SpaceThatMovesNeverReachesTheButton) {
+    Stato.ModoInput = 1;
+    Avvia();
+    FormFinale& form = Mostra();
+    int viste = 0;
+    form.Command1.KeyUp = [&](int, int) { ++viste; };
+    form.Command2.KeyUp = form.Command1.KeyUp;
+    Press(form, Qt::Key_Space);
+    EXPECT_FALSE(dynamic_cast<QAbstractButton&>(WidgetOf(form.Command1)).isDown());
+    Release(form, Qt::Key_Space);
+    EXPECT_EQ(viste, 0);
+    Tap(form, Qt::Key_A);
+    EXPECT_EQ(viste, 1);
 }
 
 TEST_F(FormFinaleTest, WithTwoSwitchesTheLastLevelStillEnds) {
