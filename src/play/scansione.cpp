@@ -1,10 +1,31 @@
 #include "play/scansione.h"
 
+#include <algorithm>
 #include <cstddef>
 
 #include "base/rounding.h"
 
 namespace trameli {
+
+namespace {
+
+/// A bar from end to end of the stroke. It is filled between its edges, not drawn with a pen, whose
+/// half thickness is rounded and would let it end a pixel further, in a wall. And edges that lie
+/// further apart in twips never lie closer in pixels: a thicker bar covers a thinner one.
+void Riempi(Surface& superficie, const Segmento& tratto, int penna, Colour colore,
+            double twipsPerPixel) {
+    const auto& [da, a] = tratto;
+    const int spessore = Nearest(std::max(1, penna) * twipsPerPixel);
+    const int prima = Quotient(spessore, 2);
+    const int dopo = spessore - prima;
+    if (da.X == a.X) {
+        superficie.FillBox(da.X - prima, da.Y, da.X + dopo, a.Y, colore);
+    } else {
+        superficie.FillBox(da.X, da.Y - prima, a.X, da.Y + dopo, colore);
+    }
+}
+
+}  // namespace
 
 AspettoScansione AspettoScansioneDi(const Spessori& spessori, std::int16_t dimensioneCella,
                                     double twipsPerPixelX, Colour colore, Colour coloreSfondo) {
@@ -30,16 +51,14 @@ Segmento TrattoScansione(Punto testa, std::int16_t direzione, const AspettoScans
 
 void DisegnaTrattoScansione(Surface& superficie, Punto testa, std::int16_t direzione,
                             const AspettoScansione& aspetto) {
-    superficie.DrawWidth(aspetto.Penna);
-    Disegna(superficie, TrattoScansione(testa, direzione, aspetto), Estremi::Quadri, aspetto.Colore,
-            aspetto.TwipsPerPixel);
+    Riempi(superficie, TrattoScansione(testa, direzione, aspetto), aspetto.Penna, aspetto.Colore,
+           aspetto.TwipsPerPixel);
 }
 
 void TogliTrattoScansione(Surface& superficie, Punto testa, std::int16_t direzione,
                           const AspettoScansione& aspetto) {
-    superficie.DrawWidth(aspetto.PennaGomma);
-    Disegna(superficie, TrattoScansione(testa, direzione, aspetto), Estremi::Quadri,
-            aspetto.ColoreSfondo, aspetto.TwipsPerPixel);
+    Riempi(superficie, TrattoScansione(testa, direzione, aspetto), aspetto.PennaGomma,
+           aspetto.ColoreSfondo, aspetto.TwipsPerPixel);
 }
 
 }  // namespace trameli

@@ -29,7 +29,7 @@ constexpr std::int16_t DirezionePrima(std::int16_t direzione) {
 /// How long and thick the strokes are, and their colours.
 struct AspettoScansione {
     int Lunghezza;   ///< twips, from the middle of a cell nearly to the face of its wall
-    int Penna;       ///< pixels; narrower than the trace
+    int Penna;       ///< pixels, one at least; narrower than the trace
     int PennaGomma;  ///< pixels, for taking a stroke away
     double TwipsPerPixel;
     Colour Colore;
