@@ -1,0 +1,116 @@
+// A maze in which the symbol walks by itself, and the hands that steer it.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "game/partita.h"
+#include "platform/command_button.h"
+#include "platform/frame.h"
+#include "platform/image.h"
+#include "platform/menu.h"
+#include "platform/scroll_bar.h"
+#include "platform/status_bar.h"
+#include "platform/timer.h"
+
+namespace trameli {
+
+inline constexpr double TreSecondi = 3;
+inline constexpr double UnIstante = 0.001;
+
+/// A game at one of the levels with a clock. Level 5 has no inner walls: there the symbol walks
+/// eight cells down and meets the wall with the ninth step.
+class ATempo : public testing::Test {
+protected:
+    static constexpr int PassiInGiu = 8;
+
+    /// Opens the level; its first maze stands, and the wait before it is over.
+    void Apri(int livello = 5, const FileUtente& file = {}) {
+        disco_.Scrivi("_predefinito", file);
+        partita_.ApriLivello(livello);
+    }
+
+    /// Opens level 5 without the menu, which does not offer it to everybody, and with nothing else
+    /// on the screen. `prima` is called just before.
+    void ApriDaSolo(const std::function<void()>& prima = [] {}) {
+        if (!partita_.Aperta("FormMenu")) {
+            partita_.ApriMenu();
+        }
+        prima();
+        partita_.Gioco.Stato().Livello = 5;
+        partita_.Gioco.Forms().Show("frmTrm1");
+        partita_.Gioco.Forms().Unload(partita_.Finestra("FormMenu"));
+        Pump();
+    }
+
+    Form& Gioco() { return partita_.Finestra("frmTrm1"); }
+    bool Aperto() { return partita_.Aperta("frmTrm1"); }
+    Tavolo IlTavolo() {
+        Tavolo tavolo(Gioco(), {8, 11});
+        const double sotto = Trova<Frame>(Gioco(), "FrameSotto").Height() +
+                             2 * Trova<StatusBar>(Gioco(), "StatusBar1").Height();
+        tavolo.Pianta_ = Pianta::Su(Gioco().Width(), Gioco().Height() - sotto, 8, 11,
+                                    Gioco().Forms().Screen().TwipsPerPixelX());
+        return tavolo;
+    }
+    QImage Immagine() { return IlTavolo().Guarda().Immagine(); }
+    int Passi() { return IlTavolo().Passi(); }
+    int Urti() { return IlTavolo().Urti(); }
+    std::string Pannello(int numero) { return IlTavolo().Pannello(numero); }
+
+    Timer& Orologio() { return Trova<Timer>(Gioco(), "Timer1"); }
+    HScrollBar& Velocita() { return Trova<HScrollBar>(Gioco(), "HScroll1"); }
+    MenuItem& Pausa() { return Trova<MenuItem>(Gioco(), "mnuPausa"); }
+    CommandButton& Avanti() { return Trova<CommandButton>(Gioco(), "BottoneAvanti"); }
+
+    /// How many pictures of an array are seen; those seen come first.
+    int Visibili(const char* nome, int quante) {
+        int visibili = 0;
+        for (int i = 0; i < quante; ++i) {
+            const bool visibile = WidgetOf(Trova<Image>(Gioco(), nome, i)).isVisible();
+            EXPECT_TRUE(!visibile || visibili == i) << nome << " " << i;
+            visibili += visibile ? 1 : 0;
+        }
+        return visibili;
+    }
+    int Soli() { return Visibili("ImageSole", 5); }
+    int Coppe() { return Visibili("Image1", 4); }
+
+    void Tasto(int verso) { Tap(Gioco(), Frecce.at(static_cast<std::size_t>(verso))); }
+    void CtrlN() { Tap(Gioco(), Qt::Key_N, Qt::ControlModifier); }
+    void CtrlR() { Tap(Gioco(), Qt::Key_R, Qt::ControlModifier); }
+    void Scegli(const char* voce) { Partita::Scegli(Gioco(), voce); }
+
+    /// The time of a step passes.
+    void Scatto() { partita_.Tempo.Advance(Orologio().Interval() / 1000.0); }
+    void Scatti(int quanti) {
+        for (int i = 0; i < quanti; ++i) {
+            Scatto();
+        }
+    }
+    /// Steers before each tick.
+    void Guida(const std::vector<int>& passi) {
+        for (const int verso : passi) {
+            Tasto(verso);
+            Scatto();
+        }
+    }
+    /// So many hits, each by a wrong first step.
+    void Sbaglia(int volte) {
+        for (int i = 0; i < volte; ++i) {
+            Guida({Su});
+        }
+    }
+    /// `azione` in the middle of whatever waits then.
+    void Fra(double secondi, std::function<void()> azione) {
+        partita_.Tempo.In(secondi, std::move(azione));
+    }
+
+    Disco disco_;
+    Partita partita_{disco_, {800, 600}, 7};
+};
+
+}  // namespace trameli

@@ -1,0 +1,248 @@
+// The three seconds before the clock starts, and everything that can happen in them.
+#include <utility>
+
+#include "game/a_tempo.h"
+
+namespace trameli {
+namespace {
+
+/// What the player waits after.
+enum class Dopo { Apertura, TrameloNuovo, Bottone, Ripartenza };
+constexpr std::array<const char*, 4> NomiDopo{"Opening", "NewMaze", "Button", "NewStart"};
+
+class Attese : public ATempo {
+protected:
+    /// Brings such a wait about, with `azione` so many seconds after its beginning.
+    void Aspetta(Dopo dopo, double secondi, std::function<void()> azione) {
+        if (dopo == Dopo::Apertura) {
+            ApriDaSolo([&] { Fra(secondi, std::move(azione)); });
+            return;
+        }
+        Apri();
+        switch (dopo) {
+            case Dopo::Bottone:
+                Guida(IlTavolo().Soluzione());
+                Fra(secondi, std::move(azione));
+                Tap(Gioco(), Qt::Key_Space);
+                break;
+            case Dopo::Ripartenza:
+                Sbaglia(5);
+                Tasto(Su);
+                Fra(1.8 + secondi, std::move(azione));
+                Scatto();
+                break;
+            default:
+                Scatti(2);
+                Fra(secondi, std::move(azione));
+                CtrlN();
+                break;
+        }
+    }
+};
+
+constexpr auto NomeDopo = [](const auto& voce) {
+    return NomiDopo.at(static_cast<std::size_t>(voce.param));
+};
+
+class OgniAttesa : public Attese, public testing::WithParamInterface<Dopo> {};
+
+INSTANTIATE_TEST_SUITE_P(Tutte, OgniAttesa,
+                         testing::Values(Dopo::Apertura, Dopo::TrameloNuovo, Dopo::Bottone,
+                                         Dopo::Ripartenza),
+                         NomeDopo);
+
+TEST_P(OgniAttesa, EndsWithTheClockStarted) {
+    bool acceso = true;
+    double fine = 0;
+    Aspetta(GetParam(), TreSecondi - UnIstante, [&] {
+        acceso = Orologio().Enabled();
+        fine = partita_.Tempo.Now() + UnIstante;
+    });
+    EXPECT_FALSE(acceso);
+    EXPECT_TRUE(Orologio().Enabled());
+    EXPECT_NEAR(partita_.Tempo.Now(), fine, 1e-6);
+    const int passi = Passi();
+    Scatto();
+    EXPECT_EQ(Passi(), passi + 1);
+    EXPECT_EQ(Soli(), 5);
+}
+
+TEST_P(OgniAttesa, CanBeLeftAtAnyMoment) {
+    for (const double quando : {UnIstante, 1.5, TreSecondi - UnIstante}) {
+        Aspetta(GetParam(), quando, [&] { Scegli("mnuEsci"); });
+        EXPECT_FALSE(Aperto()) << quando;
+        EXPECT_EQ(partita_.Tempo.WaitsUnderWay(), 0);
+        EXPECT_EQ(partita_.Aperte(), std::vector<std::string>{"FormMenu"});
+        partita_.Tempo.Advance(20);
+        Apri();
+        EXPECT_EQ(Soli(), 5);
+        EXPECT_EQ(Coppe(), 0);
+        Scatto();
+        EXPECT_EQ(Passi(), 1);
+        Scegli("mnuEsci");
+    }
+}
+
+TEST_P(OgniAttesa, CanEndWithTheWindow) {
+    Aspetta(GetParam(), 1.5, [&] { Partita::Chiudi(Gioco()); });
+    EXPECT_TRUE(partita_.Gioco.Forms().Ended());
+    EXPECT_EQ(partita_.Tempo.WaitsUnderWay(), 0);
+    partita_.Tempo.Advance(20);
+}
+
+TEST_P(OgniAttesa, IsNotCutShortByARestart) {
+    Aspetta(GetParam(), 1, [&] {
+        const QImage prima = Immagine();
+        CtrlR();
+        Scegli("mnuLinee");
+        Scegli("mnuColora");
+        Scegli("mnuColora");
+        EXPECT_FALSE(Orologio().Enabled());
+        EXPECT_EQ(Soli(), 5);
+    });
+    EXPECT_TRUE(Orologio().Enabled());
+}
+
+class LungaAttesa : public OgniAttesa {};
+
+INSTANTIATE_TEST_SUITE_P(Due, LungaAttesa, testing::Values(Dopo::TrameloNuovo, Dopo::Ripartenza),
+                         NomeDopo);
+
+TEST_P(LungaAttesa, ThousandNewMazesWaitOnce) {
+    double fine = 0;
+    Aspetta(GetParam(), 1, [&] {
+        for (int i = 0; i < 1000; ++i) {
+            CtrlN();
+            ASSERT_EQ(partita_.Tempo.WaitsUnderWay(), 1);
+        }
+        EXPECT_FALSE(Orologio().Enabled());
+        Fra(TreSecondi - UnIstante, [&] { EXPECT_FALSE(Orologio().Enabled()); });
+        fine = partita_.Tempo.Now() + TreSecondi;
+    });
+    EXPECT_NEAR(partita_.Tempo.Now(), fine, 1e-6);
+    EXPECT_TRUE(Orologio().Enabled());
+    EXPECT_EQ(Passi(), 0);
+    Scatto();
+    EXPECT_EQ(Passi(), 1);
+    EXPECT_EQ(Soli(), 5);
+}
+
+TEST_P(OgniAttesa, EachNewMazeBeginsItAnew) {
+    double inizio = 0;
+    Aspetta(GetParam(), 2, [&] {
+        inizio = partita_.Tempo.Now();
+        CtrlN();
+        Fra(2, [&] { CtrlN(); });
+        Fra(4.5, [&] { CtrlN(); });
+        for (const double quando : {1.1, 3.1, 5.1, 7.4}) {
+            Fra(quando, [&] { EXPECT_FALSE(Orologio().Enabled()); });
+        }
+    });
+    EXPECT_NEAR(partita_.Tempo.Now() - inizio, 7.5, 1e-6);
+    EXPECT_TRUE(Orologio().Enabled());
+}
+
+TEST_P(OgniAttesa, PauseTwiceLeavesItsEntryBehind) {
+    Aspetta(GetParam(), 1, [&] {
+        Scegli("mnuPausa");
+        EXPECT_TRUE(Orologio().Enabled());
+        EXPECT_EQ(Pausa().Caption(), "&Pausa");
+        Scegli("mnuPausa");
+        EXPECT_FALSE(Orologio().Enabled());
+        EXPECT_EQ(Pausa().Caption(), "Ri&prendi");
+    });
+    EXPECT_TRUE(Orologio().Enabled());
+    EXPECT_EQ(Pausa().Caption(), "Ri&prendi");
+    Scegli("mnuPausa");
+    EXPECT_FALSE(Orologio().Enabled());
+    EXPECT_EQ(Pausa().Caption(), "Ri&prendi");
+}
+
+TEST_F(Attese, PauseOnceInTheWaitLetsTheSymbolWalk) {
+    Aspetta(Dopo::TrameloNuovo, 1, [&] { Scegli("mnuPausa"); });
+    EXPECT_EQ(Passi(), 1);  // at 2.8 seconds
+    partita_.Tempo.Advance(1.6 - UnIstante);
+    EXPECT_EQ(Passi(), 1);
+    partita_.Tempo.Advance(2 * UnIstante);
+    EXPECT_EQ(Passi(), 2);
+}
+
+TEST_F(Attese, NoTickInsideATick) {
+    Aspetta(Dopo::Ripartenza, 1, [&] { Scegli("mnuPausa"); });
+    EXPECT_EQ(Passi(), 0);
+    partita_.Tempo.Advance(1.6 - UnIstante);
+    EXPECT_EQ(Passi(), 0);
+    partita_.Tempo.Advance(2 * UnIstante);
+    EXPECT_EQ(Passi(), 1);
+}
+
+TEST_F(Attese, KeyBeforeANewMazeIsWhereHitsLeadBackTo) {
+    Aspetta(Dopo::TrameloNuovo, 1, [&] { Tasto(AllaDestra); });
+    Scatti(2);
+    EXPECT_EQ(Urti(), 2);
+    Guida({Giu, Su});
+    EXPECT_EQ(Passi(), 1);
+    EXPECT_EQ(Urti(), 3);
+    Scatto();
+    EXPECT_EQ(Urti(), 4);
+}
+
+TEST_F(Attese, KeyBeforeANewStartCountsOnce) {
+    Aspetta(Dopo::Ripartenza, 1, [&] { Tasto(AllaDestra); });
+    EXPECT_EQ(Urti(), 6);
+    Scatto();
+    EXPECT_EQ(Urti(), 7);
+    Scatto();
+    EXPECT_EQ(Passi(), 1);
+}
+
+TEST_F(Attese, NewMazeInTheWaitForANewStartIsANewMaze) {
+    Aspetta(Dopo::Ripartenza, 1, [&] {
+        CtrlN();
+        EXPECT_EQ(Urti(), 0);
+        Tasto(AllaDestra);
+    });
+    EXPECT_EQ(Pannello(5), "Ripartito da zero 1 volte");
+    Scatti(2);
+    EXPECT_EQ(Urti(), 2);
+    EXPECT_EQ(Soli(), 3);
+}
+
+TEST_F(Attese, NewStartInTheFirstWaitMakesItLonger) {
+    double inizio = 0;
+    Aspetta(Dopo::Apertura, 0.1, [&] {
+        inizio = partita_.Tempo.Now();
+        Velocita().Value(25);
+        Scegli("mnuPausa");
+        // Ticks after 0.1 seconds, and every half second from there on.
+        for (int i = 0; i < 6; ++i) {
+            Fra(0.05 + 0.5 * i, [&] { Tasto(Su); });
+        }
+        Fra(2.61, [&] {
+            EXPECT_EQ(Pannello(5), "Ripartito da zero 1 volte");
+            EXPECT_FALSE(Orologio().Enabled());
+        });
+        Fra(5.59, [&] { EXPECT_FALSE(Orologio().Enabled()); });
+    });
+    EXPECT_NEAR(partita_.Tempo.Now() - inizio, 2.6 + TreSecondi, 1e-6);
+    EXPECT_TRUE(Orologio().Enabled());
+    Scatto();
+    EXPECT_EQ(Passi(), 1);
+    EXPECT_EQ(Urti(), 6);
+}
+
+TEST_P(OgniAttesa, SeesTheWindowComeBackWithoutANewMaze) {
+    QImage prima;
+    double fine = 0;
+    Aspetta(GetParam(), 1, [&] {
+        prima = Immagine();
+        fine = partita_.Tempo.Now() + 2;
+        Partita::ViaERitorno(Gioco());
+        EXPECT_EQ(partita_.Tempo.WaitsUnderWay(), 1);
+    });
+    EXPECT_NEAR(partita_.Tempo.Now(), fine, 1e-6);
+    EXPECT_EQ(Immagine(), prima);
+}
+
+}  // namespace
+}  // namespace trameli
