@@ -31,9 +31,9 @@ public:
     /// The rectangle between two corners, filled, without an outline.
     void FillBox(double x1, double y1, double x2, double y2, Colour colour);
     /// Filled ellipses round the middle of the surface, one inside the other, in the surface's own
-    /// proportions. The largest touches the edges and has the last colour; the others follow
-    /// towards the middle in equal steps down to the first.
-    void FillRings(std::span<const Colour> colours);
+    /// proportions. The longer half axis of the largest is `radius`, in any unit; it touches the
+    /// edges and has the first colour. Each further one is smaller by 1, the last takes the middle.
+    void FillRings(std::span<const Colour> colours, double radius);
     /// Clears to the background.
     void Cls();
 

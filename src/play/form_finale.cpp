@@ -145,18 +145,17 @@ void FormFinale::Form_Unload() {
 }
 
 void FormFinale::Command1_Click() {
-    ApriGioco(stato_.Livello);
+    ApriGioco();
 }
 
 void FormFinale::Command2_Click() {
-    const int prossimo = stato_.Livello + 1;
-    if (!Forms().Knows(FormDelLivello(prossimo))) {
-        return;
+    if (stato_.Livello == NumeroLivelli - 1) {
+        return;  // the button is hidden there
     }
-    stato_.Livello = Saturated(prossimo);
+    ++stato_.Livello;
     ImpostaGriglia(stato_);
     stato_.TrameloDisegnato = false;
-    ApriGioco(prossimo);
+    ApriGioco();
 }
 
 void FormFinale::Timer1_Timer() {
@@ -199,12 +198,9 @@ void FormFinale::Evidenzia(CommandButton& bottone) {
     bottone.BackColor(Evidenza);
 }
 
-void FormFinale::ApriGioco(int livello) {
-    const char* const form = FormDelLivello(livello);
-    if (Forms().Knows(form)) {
-        Forms().Show(form);
-        Forms().Unload(*this);
-    }
+void FormFinale::ApriGioco() {
+    Forms().Show(FormDelLivello(stato_.Livello));
+    Forms().Unload(*this);
 }
 
 }  // namespace trameli

@@ -44,7 +44,7 @@ private:
     void Centra();
     void AltroBottone();
     void Evidenzia(CommandButton& bottone);
-    void ApriGioco(int livello);
+    void ApriGioco();
 
     Servizi& servizi_;
     Stato& stato_;

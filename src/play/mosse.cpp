@@ -110,8 +110,7 @@ void FormTrm::MostraFrameTrameloRisolto() {
         ++TrameliRisolti;
         return;
     }
-    // The level is done; a game without the window that celebrates it goes back to the menu.
-    Forms().Show(Forms().Knows("FormFinale") ? "FormFinale" : "FormMenu");
+    Forms().Show("FormFinale");
     Forms().Unload(*this);
 }
 

@@ -38,21 +38,23 @@ Colour ColoreScritte(int schema) {
     return Trova(schema).Scritte;
 }
 
-std::vector<Colour> Sfumatura(int schema, float raggioMassimo) {
+std::vector<Colour> Sfumatura(int schema, float RaggioMassimo) {
     const Colour tinta = Trova(schema).Tinta;
-    const float passoLuce = SaltoDiLuce / raggioMassimo;
-    float luce = LuceAlBordo;
+    const float PassoLuce = SaltoDiLuce / RaggioMassimo;
+    float Luce = LuceAlBordo;
     std::vector<Colour> anelli;
-    for (float raggio = raggioMassimo; raggio >= 1; raggio -= 1) {
-        anelli.push_back(tinta * Nearest(luce));
-        luce += passoLuce;
+    for (float Raggio = RaggioMassimo; Raggio >= 1; Raggio -= 1) {
+        anelli.push_back(tinta * Nearest(Luce));
+        Luce += PassoLuce;
     }
-    std::reverse(anelli.begin(), anelli.end());
     return anelli;
 }
 
 void DisegnaSfumatura(Surface& superficie, int schema, double larghezza, double altezza) {
-    superficie.FillRings(Sfumatura(schema, static_cast<float>(std::max(larghezza, altezza) / 2)));
+    const double CentroX = larghezza / 2;
+    const double CentroY = altezza / 2;
+    const double RaggioMassimo = std::max(CentroX, CentroY);
+    superficie.FillRings(Sfumatura(schema, static_cast<float>(RaggioMassimo)), RaggioMassimo);
 }
 
 }  // namespace trameli

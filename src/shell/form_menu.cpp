@@ -211,10 +211,6 @@ void FormMenu::Combo1_Click() {
 }
 
 void FormMenu::Timer1_Timer() {
-    // The timer goes on while a message box is open in the middle of this routine.
-    if (preparato_) {
-        return;
-    }
     preparato_ = true;
 
     const Stato& stato = servizi_.Stato;
@@ -303,12 +299,12 @@ void FormMenu::EvidenziaLivello() {
 }
 
 void FormMenu::AvviaGioco() {
-    // Whoever is faster than the timer has chosen no level yet.
-    ImpostaGriglia(servizi_.Stato);
-    const char* const form = FormDelLivello(servizi_.Stato.Livello);
-    if (Forms().Knows(form)) {
-        Cedi(form);
+    // Whoever is faster than the timer finds nothing prepared.
+    if (!preparato_ && servizi_.Stato.ModoInput != 0) {
+        EscludiLivelliATempo();
     }
+    ImpostaGriglia(servizi_.Stato);
+    Cedi(FormDelLivello(servizi_.Stato.Livello));
 }
 
 /// Hands over to another window.

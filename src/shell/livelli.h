@@ -5,6 +5,7 @@
 
 namespace trameli {
 
+/// How many levels there are; a level is 0 to one less.
 inline constexpr int NumeroLivelli = 16;
 
 /// Name of the form that plays a level, 0 to 15.

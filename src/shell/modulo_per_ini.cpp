@@ -31,7 +31,7 @@ void ModuloPerIni::ImpostaPredefiniti() {
 
 void ModuloPerIni::ScriviUtente() {
     const std::string file = ConEstensioneMinuscola(stato_.FileUtente);
-    if (fileSystem_.Replace(file, Testo(stato_))) {
+    if (!illeggibili_.contains(Maiuscolo(file)) && fileSystem_.Replace(file, Testo(stato_))) {
         nonSalvati_.erase(Maiuscolo(file));
         return;
     }
@@ -50,8 +50,12 @@ void ModuloPerIni::LeggiUtente() {
         return;
     }
     std::optional<std::string> testo;
+    illeggibili_.erase(Maiuscolo(stato_.FileUtente));
     if (EsisteFile(stato_.FileUtente)) {
         testo = fileSystem_.Read(stato_.FileUtente, LimiteLettura);
+        if (!testo) {
+            illeggibili_.insert(Maiuscolo(stato_.FileUtente));
+        }
     }
     const std::optional<Impostazioni> lette = testo ? Leggi(*testo) : std::nullopt;
     if (lette) {

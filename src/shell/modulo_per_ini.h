@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <map>
+#include <set>
 #include <string>
 
 #include "platform/dialogs.h"
@@ -60,6 +61,9 @@ private:
     /// menu, which saves and reads the current user whenever it is shown, would bring back the old
     /// settings of a file that cannot be written.
     std::map<std::string, Impostazioni> nonSalvati_;
+    /// Files that are there and could not be read, by the path in capitals. Nobody knows what is in
+    /// them, so they are not replaced by the defaults that stand in for it.
+    std::set<std::string> illeggibili_;
     bool avvisato_ = false;
 };
 

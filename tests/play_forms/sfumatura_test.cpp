@@ -98,11 +98,11 @@ TEST_F(SfumaturaTest, GoesFromAnEighthOfTheBrightnessToNearlyAllOfIt) {
     for (const float raggio : {1.0F, 256.0F, 400.5F, 960.0F}) {
         const std::vector<Colour> anelli = Sfumatura(0, raggio);
         EXPECT_EQ(anelli.size(), static_cast<std::size_t>(raggio));
-        EXPECT_EQ(anelli.back(), Rgb(0, 0, 32));
-        EXPECT_LE(BlueOf(anelli.front()), 255);
+        EXPECT_EQ(anelli.front(), Rgb(0, 0, 32));
+        EXPECT_LE(BlueOf(anelli.back()), 255);
         EXPECT_TRUE(std::is_sorted(anelli.rbegin(), anelli.rend()));
     }
-    EXPECT_GE(BlueOf(Sfumatura(0, 960).front()), 254);
+    EXPECT_GE(BlueOf(Sfumatura(0, 960).back()), 254);
     EXPECT_TRUE(Sfumatura(0, 0).empty());
 }
 

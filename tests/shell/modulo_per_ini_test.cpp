@@ -108,6 +108,21 @@ TEST_F(ModuloPerIniTest, UnreadableFileOrFolderOfTheNameGivesDefaults) {
     EXPECT_EQ(Lette(), Impostazioni());
 }
 
+TEST_F(ModuloPerIniTest, AFileThatCannotBeReadIsNotReplaced) {
+    const std::string diAnna = Testo(Lette());
+    ASSERT_TRUE(File.Replace(FileDiAnna, diAnna));
+    File.Illeggibili.insert(Maiuscolo(FileDiAnna));
+    Modulo.LeggiUtente();
+    Altera();
+    Modulo.ScriviUtente();
+    EXPECT_EQ(File.Contenuto(FileDiAnna), diAnna);
+    EXPECT_EQ(Finestre.Messaggi.size(), 1U);
+    // The record lives on in memory, and a file that can be read again counts again.
+    const Impostazioni alterate = Lette();
+    Modulo.LeggiUtente();
+    EXPECT_EQ(Lette(), alterate);
+}
+
 TEST_F(ModuloPerIniTest, OnlyTheStartOfAFileIsRead) {
     const std::string lungo = Testo(Lette()) + std::string(1 << 20, 'x');
     ASSERT_TRUE(File.Replace(FileDiAnna, lungo));

@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QWidget>
 
 #include "platform/qt/form_window.h"
 #include "platform/qt/native.h"
@@ -17,6 +18,9 @@ ControlEvents::ControlEvents(VisualControl& control, QWidget* widget)
 bool ControlEvents::eventFilter(QObject* object, QEvent* event) {
     switch (event->type()) {
         case QEvent::MouseMove:
+            if (!static_cast<QWidget*>(object)->isEnabled()) {
+                return false;  // it is as if the pointer were over what lies below
+            }
             Fire(control_, control_.MouseMove);
             // A move that the widget has no use for would go on to its parent, and that one would
             // report a pointer that is not over it.

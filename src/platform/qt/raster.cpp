@@ -20,14 +20,15 @@ void FillRectangle(const Pixels& pixels, int x, int y, int width, int height,
     }
 }
 
-void FillRings(const Pixels& pixels, const std::vector<std::uint32_t>& colours) {
+void FillRings(const Pixels& pixels, const std::vector<std::uint32_t>& colours, double radius) {
     if (colours.empty() || pixels.Width <= 0 || pixels.Height <= 0) {
         return;
     }
     // One quarter is computed, in parts of the way from the middle to the edge, and mirrored.
     const int columns = (pixels.Width + 1) / 2;
     const int rows = (pixels.Height + 1) / 2;
-    const auto rings = static_cast<float>(colours.size());
+    const auto whole = static_cast<float>(radius);
+    const auto innermost = static_cast<std::int32_t>(colours.size()) - 1;
     const auto squares = [](int count, int size) {
         std::vector<float> result;
         for (int i = 0; i < count; ++i) {
@@ -44,7 +45,10 @@ void FillRings(const Pixels& pixels, const std::vector<std::uint32_t>& colours) 
     for (int y = 0; y < rows; ++y) {
         const float fromMiddle = down[static_cast<std::size_t>(y)];
         for (std::size_t x = 0; x < ring.size(); ++x) {
-            ring[x] = static_cast<std::int32_t>(std::sqrt(across[x] + fromMiddle) * rings);
+            // Beyond the edge the difference is negative and must not be cut off to 0.
+            ring[x] = static_cast<std::int32_t>((1.0F - std::sqrt(across[x] + fromMiddle)) * whole +
+                                                1.0F) -
+                      1;
         }
         const auto row = [&](int number) {
             return pixels.Data + static_cast<std::ptrdiff_t>(number) * pixels.Stride;
@@ -53,8 +57,8 @@ void FillRings(const Pixels& pixels, const std::vector<std::uint32_t>& colours) 
         std::uint32_t* const lower = row(pixels.Height - 1 - y);
         const std::size_t last = static_cast<std::size_t>(pixels.Width) - 1;
         for (std::size_t x = 0; x < ring.size(); ++x) {
-            const auto index = static_cast<std::size_t>(ring[x]);
-            if (index < colours.size()) {
+            if (ring[x] >= 0) {
+                const auto index = static_cast<std::size_t>(std::min(ring[x], innermost));
                 upper[x] = upper[last - x] = lower[x] = lower[last - x] = colours[index];
             }
         }

@@ -20,9 +20,10 @@ struct Pixels {
 /// Fills the rectangle whose upper left pixel is (x, y); what lies outside is cut off.
 void FillRectangle(const Pixels& pixels, int x, int y, int width, int height, std::uint32_t colour);
 
-/// Fills concentric ellipses that have the proportions of the whole block: ring i of n takes what
-/// lies less than (i + 1) / n of the way from the middle to the edge, and not in a smaller ring.
-void FillRings(const Pixels& pixels, const std::vector<std::uint32_t>& colours);
+/// Fills concentric ellipses that have the proportions of the whole block. The first touches its
+/// edges and counts as `radius` long from the middle; each further one is 1 shorter, and what lies
+/// within the last has its colour.
+void FillRings(const Pixels& pixels, const std::vector<std::uint32_t>& colours, double radius);
 
 /// Where a pen of so many pixels begins, seen from the pixel line it is centred on.
 constexpr int PenOffset(int width) {

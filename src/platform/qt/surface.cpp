@@ -42,8 +42,8 @@ void Surface::FillBox(double x1, double y1, double x2, double y2, Colour colour)
     native_->Fill(x1, y1, x2, y2, colour);
 }
 
-void Surface::FillRings(std::span<const Colour> colours) {
-    native_->Rings(colours);
+void Surface::FillRings(std::span<const Colour> colours, double radius) {
+    native_->Rings(colours, radius);
 }
 
 void Surface::Cls() {
@@ -138,10 +138,10 @@ void Surface::Native::Round(double x1, double y1, double x2, double y2, int pen,
           std::max(a.Y, b.Y) + PenOffset(width) + width);
 }
 
-void Surface::Native::Rings(std::span<const Colour> colours) {
+void Surface::Native::Rings(std::span<const Colour> colours, double radius) {
     std::vector<std::uint32_t> pixels;
     std::transform(colours.begin(), colours.end(), std::back_inserter(pixels), PixelOf);
-    trameli::FillRings(Target(), pixels);
+    trameli::FillRings(Target(), pixels, radius);
     Touch(0, 0, image_.width(), image_.height());
 }
 

@@ -33,7 +33,7 @@ struct Surface::Native {
     /// A line with round ends.
     void Round(double x1, double y1, double x2, double y2, int pen, Colour colour);
 
-    void Rings(std::span<const Colour> colours);
+    void Rings(std::span<const Colour> colours, double radius);
 
     /// Shows what lies in `where`, in logical pixels.
     void Paint(QPainter& painter, const QRect& where);
