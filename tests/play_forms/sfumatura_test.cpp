@@ -100,7 +100,7 @@ TEST_F(SfumaturaTest, GoesFromAnEighthOfTheBrightnessToNearlyAllOfIt) {
         EXPECT_EQ(anelli.size(), static_cast<std::size_t>(raggio));
         EXPECT_EQ(anelli.front(), Rgb(0, 0, 32));
         EXPECT_LE(BlueOf(anelli.back()), 255);
-        EXPECT_TRUE(std::is_sorted(anelli.rbegin(), anelli.rend()));
+        EXPECT_TRUE(std::is_sorted(anelli.begin(), anelli.end()));
     }
     EXPECT_GE(BlueOf(Sfumatura(0, 960).back()), 254);
     EXPECT_TRUE(Sfumatura(0, 0).empty());
