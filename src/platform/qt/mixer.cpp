@@ -11,7 +11,7 @@ namespace {
 
 using Now = std::chrono::steady_clock;
 
-/// A minute of waves at the least, and pieces of music of hours; more is not a sound of a game.
+/// Half a minute of stereo, and music for hours: what is longer is no sound of a game.
 constexpr std::size_t LongestWave = 4 << 20;
 constexpr std::size_t LongestMusic = 1 << 20;
 
@@ -22,24 +22,6 @@ constexpr int OnlyChannel = 0;
 
 /// The number that the library gives to the first device a process opens.
 constexpr SDL_AudioDeviceID OnlyDevice = 2;
-
-/// General MIDI instruments, small sets first: all of a set is read before the first note.
-constexpr const char* SoundFonts[] = {
-    "/usr/share/sounds/sf2/TimGM6mb.sf2",   "/usr/share/soundfonts/TimGM6mb.sf2",
-    "/usr/share/sounds/sf3/default-GM.sf3", "/usr/share/sounds/sf2/default-GM.sf2",
-    "/usr/share/soundfonts/default.sf2",    "/usr/share/sounds/sf2/FluidR3_GM.sf2",
-    "/usr/share/soundfonts/FluidR3_GM.sf2",
-};
-
-const char* FindSoundFont() {
-    for (const char* font : SoundFonts) {
-        std::error_code error;
-        if (std::filesystem::is_regular_file(font, error)) {
-            return font;
-        }
-    }
-    return nullptr;
-}
 
 /// The bytes of a file that is not longer than `longest`.
 std::optional<std::string> Read(const LocalFileSystem& files, const std::string& path,
@@ -61,8 +43,8 @@ void Mixer::FreeMusic::operator()(Mix_Music* music) const {
     Sdl->Mix_FreeMusic(music);
 }
 
-Mixer::Mixer(LocalFileSystem files, Patience patience)
-    : files_(std::move(files)), patience_(patience) {}
+Mixer::Mixer(LocalFileSystem files, MixerOptions options)
+    : files_(std::move(files)), options_(std::move(options)) {}
 
 Mixer::~Mixer() {
     Close();
@@ -81,7 +63,7 @@ bool Mixer::Open() {
     }
     open_ = sdl_.Load() && OpenDevice();
     if (!open_) {
-        retryAt_ = Now::now() + patience_.Retry;
+        retryAt_ = Now::now() + options_.Retry;
     }
     return open_;
 }
@@ -132,7 +114,7 @@ void Mixer::Rest() {
     const auto now = Now::now();
     if (sdl_.Mix_Playing(OnlyChannel) != 0 || sdl_.Mix_PlayingMusic() != 0) {
         lastSound_ = now;
-    } else if (now - lastSound_ >= patience_.Silence) {
+    } else if (now - lastSound_ >= options_.Silence) {
         Close();
     }
 }
@@ -150,8 +132,8 @@ Mix_Chunk* Mixer::Wave(const std::string& path) {
     return wave.get();
 }
 
-void Mixer::PlayWave(const std::string& path) {
-    if (!Open()) {
+void Mixer::PlayWave(const std::string& path, Now::time_point deadline) {
+    if (!Open() || Now::now() > deadline) {
         return;
     }
     // The one before is cut off even if the new one turns out to be silent.
@@ -161,15 +143,25 @@ void Mixer::PlayWave(const std::string& path) {
     }
 }
 
+std::filesystem::path Mixer::SoundFont() const {
+    for (const auto& font : options_.SoundFonts) {
+        std::error_code error;
+        if (std::filesystem::is_regular_file(font, error)) {
+            return font;
+        }
+    }
+    return {};
+}
+
 void Mixer::PlayMusic(const std::string& path) {
     StopMusic();
     auto bytes = Read(files_, path, LongestMusic);
-    const char* font = FindSoundFont();
-    if (!bytes || !IsMidi(*bytes) || !font || !Open()) {
+    const auto font = SoundFont();
+    if (!bytes || !IsMidi(*bytes) || font.empty() || !Open()) {
         return;
     }
     musicBytes_ = std::move(*bytes);
-    sdl_.Mix_SetSoundFonts(font);
+    sdl_.Mix_SetSoundFonts(font.c_str());
     music_.reset(sdl_.Mix_LoadMUSType_RW(Stream(musicBytes_), MUS_MID, 1));
     if (music_) {
         sdl_.Mix_PlayMusic(music_.get(), 1);

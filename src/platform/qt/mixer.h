@@ -2,12 +2,14 @@
 #pragma once
 
 #include <chrono>
+#include <filesystem>
 #include <map>
 #include <memory>
 #include <string>
 
 #include "platform/qt/local_file_system.h"
 #include "platform/qt/mixer_library.h"
+#include "platform/qt/mixer_options.h"
 
 namespace trameli {
 
@@ -16,20 +18,13 @@ namespace trameli {
 /// be heard and given back after some silence: an open one costs processor time for nothing.
 class Mixer {
 public:
-    using Time = std::chrono::steady_clock::duration;
-
-    /// How long to wait for what.
-    struct Patience {
-        Time Silence = std::chrono::seconds(5);  ///< until the device is given back
-        Time Retry = std::chrono::seconds(10);   ///< until a device that failed is tried again
-    };
-
-    Mixer(LocalFileSystem files, Patience patience);
+    Mixer(LocalFileSystem files, MixerOptions options);
     ~Mixer();
     Mixer(const Mixer&) = delete;
     Mixer& operator=(const Mixer&) = delete;
 
-    void PlayWave(const std::string& path);
+    /// Plays a wave unless it is later than `deadline` by the time the device is open.
+    void PlayWave(const std::string& path, std::chrono::steady_clock::time_point deadline);
     /// Plays from the beginning; there is one piece at most.
     void PlayMusic(const std::string& path);
     void StopMusic();
@@ -53,12 +48,13 @@ private:
     bool OpenDevice();
     void Close();
     bool HasLostDevice() const;
+    std::filesystem::path SoundFont() const;
     Mix_Chunk* Wave(const std::string& path);
     SDL_RWops* Stream(const std::string& bytes) const;
 
     MixerLibrary sdl_;
     LocalFileSystem files_;
-    Patience patience_;
+    MixerOptions options_;
     bool open_ = false;
     std::chrono::steady_clock::time_point retryAt_{};
     std::chrono::steady_clock::time_point lastSound_{};

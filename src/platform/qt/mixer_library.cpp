@@ -23,6 +23,34 @@ private:
     bool complete_ = true;
 };
 
+extern "C" {
+static void DropAlsaError(const char*, int, const char*, int, const char*, ...) {}
+static void DropFluidSynthMessage(int, const char*, void*) {}
+}
+
+/// Looks a function up in a library that others have loaded.
+template <typename Function>
+void FindLoaded(const char* library, const char* name, Function& function) {
+    void* handle = dlopen(library, RTLD_NOW | RTLD_NOLOAD);
+    function = handle ? reinterpret_cast<Function>(dlsym(handle, name)) : nullptr;
+}
+
+/// A machine without a sound card is nothing to be told about, and ALSA tells it in sixteen lines
+/// on the terminal at each try. FluidSynth is as frank about broken files.
+void SilenceLibraries() {
+    int (*setAlsaHandler)(decltype(&DropAlsaError)) = nullptr;
+    FindLoaded("libasound.so.2", "snd_lib_error_set_handler", setAlsaHandler);
+    if (setAlsaHandler) {
+        setAlsaHandler(DropAlsaError);
+    }
+    using FluidSynthHandler = decltype(&DropFluidSynthMessage);
+    FluidSynthHandler (*setFluidSynthHandler)(int, FluidSynthHandler, void*) = nullptr;
+    FindLoaded("libfluidsynth.so.3", "fluid_set_log_function", setFluidSynthHandler);
+    for (int level = 0; setFluidSynthHandler && level < 5; ++level) {
+        setFluidSynthHandler(level, DropFluidSynthMessage, nullptr);
+    }
+}
+
 }  // namespace
 
 bool MixerLibrary::Load() {
@@ -50,6 +78,7 @@ bool MixerLibrary::Load() {
     mixer.Find("Mix_PlayMusic", Mix_PlayMusic);
     mixer.Find("Mix_HaltMusic", Mix_HaltMusic);
     mixer.Find("Mix_PlayingMusic", Mix_PlayingMusic);
+    SilenceLibraries();
     loaded_ = sdl.IsComplete() && mixer.IsComplete();
     return loaded_;
 }

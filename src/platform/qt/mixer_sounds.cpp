@@ -1,10 +1,13 @@
 #include "platform/qt/mixer_sounds.h"
 
+#include <chrono>
 #include <condition_variable>
 #include <mutex>
 #include <optional>
 #include <system_error>
 #include <utility>
+
+#include "platform/qt/mixer.h"
 
 namespace trameli {
 
@@ -36,19 +39,19 @@ struct MixerSounds::Wishes {
     bool Ended = false;      ///< the thread is through
 };
 
-MixerSounds::MixerSounds(LocalFileSystem files, Mixer::Patience patience)
+MixerSounds::MixerSounds(LocalFileSystem files, MixerOptions options)
     : wishes_(std::make_shared<Wishes>()) {
     try {
-        thread_ = std::jthread(
-            [wishes = wishes_, files = std::move(files), patience](const std::stop_token& stop) {
-                {
-                    Mixer mixer(files, patience);
-                    Serve(stop, *wishes, mixer);
-                }
-                const std::lock_guard lock(wishes->Mutex);
-                wishes->Ended = true;
-                wishes->Changed.notify_all();
-            });
+        thread_ = std::jthread([wishes = wishes_, files = std::move(files),
+                                options = std::move(options)](const std::stop_token& stop) {
+            {
+                Mixer mixer(files, options);
+                Serve(stop, *wishes, mixer);
+            }
+            const std::lock_guard lock(wishes->Mutex);
+            wishes->Ended = true;
+            wishes->Changed.notify_all();
+        });
     } catch (const std::system_error&) {
         // No thread to be had: a silent game.
     }
@@ -88,8 +91,8 @@ void MixerSounds::Serve(const std::stop_token& stop, Wishes& wishes, Mixer& mixe
         const std::string music = wishes.MusicPlays ? wishes.Music : std::string();
         lock.unlock();
         // The wave first: it takes no time, while instruments may have to be read for the music.
-        if (wave && Now::now() - waveAsked < Stale) {
-            mixer.PlayWave(*wave);
+        if (wave) {
+            mixer.PlayWave(*wave, waveAsked + Stale);
         }
         if (newMusic && music.empty()) {
             mixer.StopMusic();

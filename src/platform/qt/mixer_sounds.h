@@ -1,22 +1,23 @@
 // Sounds of the desktop.
 #pragma once
 
-#include <chrono>
 #include <memory>
 #include <string>
 #include <thread>
 
 #include "platform/qt/local_file_system.h"
-#include "platform/qt/mixer.h"
+#include "platform/qt/mixer_options.h"
 #include "platform/sounds.h"
 
 namespace trameli {
+
+class Mixer;
 
 /// Hands what is asked for to a thread that plays it, and forgets about it: a sound system that is
 /// slow, hangs or is not there holds nothing up. One at a time in a process.
 class MixerSounds final : public Sounds {
 public:
-    explicit MixerSounds(LocalFileSystem files, Mixer::Patience patience = {});
+    explicit MixerSounds(LocalFileSystem files, MixerOptions options = {});
     /// Ends all sounds. A thread that hangs in the sound system is left behind.
     ~MixerSounds() override;
     MixerSounds(const MixerSounds&) = delete;

@@ -1,0 +1,181 @@
+#include "recorded_sounds.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <cstdlib>
+#include <cstring>
+#include <numbers>
+#include <thread>
+
+namespace trameli {
+
+namespace {
+
+constexpr int Rate = 44100;
+constexpr std::size_t Window = Rate / 50;
+constexpr std::size_t WaveHeader = 44;
+
+std::string Small(std::uint32_t number, int bytes) {
+    std::string text;
+    for (int i = 0; i < bytes; ++i) {
+        text += static_cast<char>(number >> 8 * i & 0xff);
+    }
+    return text;
+}
+
+std::string Big(std::uint32_t number, int bytes) {
+    std::string text = Small(number, bytes);
+    std::reverse(text.begin(), text.end());
+    return text;
+}
+
+/// How much of a pitch a window holds, by Goertzel's way: 1 for nothing else.
+double ShareOf(double pitch, const std::int16_t* window, double energy) {
+    const double turn = 2 * std::cos(2 * std::numbers::pi * pitch / Rate);
+    double last = 0;
+    double beforeLast = 0;
+    for (std::size_t i = 0; i < Window; ++i) {
+        const double now = window[i] + turn * last - beforeLast;
+        beforeLast = last;
+        last = now;
+    }
+    const double power = last * last + beforeLast * beforeLast - turn * last * beforeLast;
+    return 2 * power / static_cast<double>(Window) / energy;
+}
+
+char LetterOf(const std::int16_t* window) {
+    double energy = 0;
+    for (std::size_t i = 0; i < Window; ++i) {
+        energy += static_cast<double>(window[i]) * window[i];
+    }
+    if (energy < 30.0 * 30.0 * Window) {
+        return '.';
+    }
+    const double a = ShareOf(PitchA, window, energy);
+    const double b = ShareOf(PitchB, window, energy);
+    if (std::max(a, b) < 0.3 || std::min(a, b) * 4 > std::max(a, b)) {
+        return '?';
+    }
+    return a > b ? 'A' : 'B';
+}
+
+}  // namespace
+
+std::string WaveOf(const Samples& sound) {
+    const auto length = static_cast<std::uint32_t>(2 * sound.size());
+    std::string wave = "RIFF" + Small(36 + length, 4) + "WAVEfmt " + Small(16, 4) + Small(1, 2) +
+                       Small(1, 2) + Small(Rate, 4) + Small(2 * Rate, 4) + Small(2, 2) +
+                       Small(16, 2) + "data" + Small(length, 4);
+    return wave.append(reinterpret_cast<const char*>(sound.data()), length);
+}
+
+Samples SamplesOf(const std::string& wave) {
+    Samples sound((wave.size() - WaveHeader) / 2);
+    std::memcpy(sound.data(), wave.data() + WaveHeader, 2 * sound.size());
+    return sound;
+}
+
+std::string Tone(double pitch, double seconds) {
+    Samples sound(static_cast<std::size_t>(seconds * Rate));
+    for (std::size_t i = 0; i < sound.size(); ++i) {
+        const double turn = 2 * std::numbers::pi * pitch / Rate * static_cast<double>(i);
+        sound[i] = static_cast<std::int16_t>(std::lround(9000 * std::sin(turn)));
+    }
+    return WaveOf(sound);
+}
+
+std::string Tune(int secondsOfA, int secondsOfB) {
+    // 96 ticks a second; no reverberation and no chorus, which would mix the pitches.
+    const auto wait = [](int seconds) {
+        const int ticks = 96 * seconds;
+        return std::string{static_cast<char>(0x80 | ticks >> 7), static_cast<char>(ticks & 0x7f)};
+    };
+    using namespace std::string_literals;
+    const std::string track = "\0\xff\x51\3\x0f\x42\x40"s + "\0\xc0\x4f"s + "\0\xb0\x5b\0"s +
+                              "\0\xb0\x5d\0"s + "\0\x90\x45\x60"s + wait(secondsOfA) +
+                              "\x80\x45\0"s + "\0\x90\x4c\x60"s + wait(secondsOfB) + "\x80\x4c\0"s +
+                              "\0\xff\x2f\0"s;
+    return "MThd" + Big(6, 4) + Big(0, 2) + Big(1, 2) + Big(96, 2) + "MTrk" +
+           Big(static_cast<std::uint32_t>(track.size()), 4) + track;
+}
+
+bool Soon(const std::function<bool()>& question) {
+    using namespace std::chrono;
+    for (const auto end = steady_clock::now() + 30s; steady_clock::now() < end;) {
+        if (question()) {
+            return true;
+        }
+        std::this_thread::sleep_for(10ms);
+    }
+    return false;
+}
+
+RecordedSounds::RecordedSounds() {
+    setenv("SDL_AUDIODRIVER", "disk", 1);
+    setenv("SDL_DISKAUDIODELAY", "5", 1);
+    RecordTo(PathOf("recording"));
+}
+
+RecordedSounds::~RecordedSounds() {
+    Sounds.reset();  // before the folder
+}
+
+void RecordedSounds::Put(const std::string& name, const std::string& bytes) const {
+    Write(PathOf(name), bytes);
+}
+
+void RecordedSounds::RecordTo(const std::filesystem::path& file) {
+    recording_ = file;
+    setenv("SDL_DISKAUDIOFILE", file.c_str(), 1);
+}
+
+Samples RecordedSounds::Heard() const {
+    const std::string bytes = BytesOf(recording_);
+    Samples left(bytes.size() / 4);
+    for (std::size_t i = 0; i < left.size(); ++i) {
+        std::memcpy(&left[i], bytes.data() + 4 * i, 2);
+    }
+    return left;
+}
+
+std::string RecordedSounds::Letters() const {
+    const Samples heard = Heard();
+    std::string letters;
+    for (std::size_t i = 0; i + Window <= heard.size(); i += Window) {
+        letters += LetterOf(heard.data() + i);
+    }
+    // A window in which one sound gives way to another tells nothing.
+    for (std::size_t i = 0; i < letters.size(); ++i) {
+        const bool isAlone =
+            (i == 0 || letters[i - 1] != '?') && (i + 1 == letters.size() || letters[i + 1] != '?');
+        if (letters[i] == '?' && isAlone) {
+            letters.erase(i, 1);
+        }
+    }
+    return letters;
+}
+
+std::string RecordedSounds::Story() const {
+    std::string story = Letters();
+    story.erase(0, story.find_first_not_of('.'));
+    story.erase(std::unique(story.begin(), story.end()), story.end());
+    return story;
+}
+
+bool RecordedSounds::MoreIsHeard(double seconds) const {
+    const auto enough = Heard().size() + static_cast<std::size_t>(seconds * Rate);
+    return Soon([&] { return Heard().size() >= enough; });
+}
+
+bool RecordedSounds::DeviceIsOpen() const {
+    std::error_code error;
+    for (const auto& handle : std::filesystem::directory_iterator("/proc/self/fd", error)) {
+        if (std::filesystem::read_symlink(handle, error) == recording_) {
+            return true;
+        }
+    }
+    return false;
+}
+
+}  // namespace trameli
