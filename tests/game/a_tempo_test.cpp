@@ -218,9 +218,10 @@ TEST_F(ATempo, CountOfNewStartsStaysUntilTheFormCloses) {
     EXPECT_EQ(Pannello(5), testo);
 }
 
-TEST_F(ATempo, NewMazeBringsTheSunsBack) {
+TEST_F(ATempo, NewMazeBringsSunsBackAndLeadsDown) {
     Apri();
     Sbaglia(3);
+    Tasto(AllaDestra);
     CtrlN();
     EXPECT_EQ(Soli(), 5);
     EXPECT_EQ(Pannello(3), "boing 0");
