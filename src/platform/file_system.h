@@ -12,9 +12,9 @@ namespace trameli {
 inline constexpr char ProgramFolder[] = "P:";
 
 /// The service for files. Paths are the program's own: "C:\..." with backslashes, UTF-8, without
-/// regard to case. "C:\" stands for the folder `trameli` in the user's data folder. "P:\" stands for
-/// the program folder, where nothing can be made or changed. A path with a part that could lead out
-/// of its folder ("..", a slash, a zero character) names nothing. No call throws.
+/// regard to case. "C:\" stands for the folder `trameli` in the user's data folder. "P:\" stands
+/// for the program folder, where nothing can be made or changed. A path with a part that could lead
+/// out of its folder ("..", a slash, a zero character) names nothing. No call throws.
 class FileSystem {
 public:
     virtual ~FileSystem() = default;
