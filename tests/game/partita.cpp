@@ -1,0 +1,204 @@
+#include "game/partita.h"
+
+#include <QApplication>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTest>
+#include <algorithm>
+
+#include "platform/command_button.h"
+#include "platform/menu.h"
+#include "platform/option_button.h"
+#include "platform/picture_box.h"
+#include "platform/qt/form_window.h"
+#include "platform/status_bar.h"
+
+namespace trameli {
+
+namespace {
+
+/// From the bar down to the entry with this text.
+std::vector<QAction*> StradaAllaVoce(const QList<QAction*>& voci, const QString& testo) {
+    for (QAction* voce : voci) {
+        if (voce->text() == testo) {
+            return {voce};
+        }
+        if (voce->menu()) {
+            auto resto = StradaAllaVoce(voce->menu()->actions(), testo);
+            if (!resto.empty()) {
+                resto.insert(resto.begin(), voce);
+                return resto;
+            }
+        }
+    }
+    return {};
+}
+
+template <typename Lista>
+void CliccaVoce(Lista& lista, QAction* voce) {
+    QTest::mouseClick(lista.window()->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                      lista.mapTo(lista.window(), lista.actionGeometry(voce).center()));
+    Pump();
+}
+
+}  // namespace
+
+Partita::Partita(const Disco& disco, PixelSize schermo, std::uint64_t seme)
+    : Partita(disco, schermo, std::make_unique<CasualeConSeme>(seme)) {}
+
+Partita::Partita(const Disco& disco, PixelSize schermo, std::unique_ptr<Casuale> casuale)
+    : Schermo(schermo.Width, schermo.Height),
+      File(disco.Radice()),
+      Gioco(Tempo, Schermo, File, Messaggi, Istanze, Suoni, std::move(casuale)) {}
+
+bool Partita::Avvia() {
+    const bool avviato = Gioco.Main();
+    Pump();
+    return avviato;
+}
+
+Form& Partita::ApriMenu(bool pronto) {
+    if (!Avvia()) {
+        throw std::runtime_error("the program does not start");
+    }
+    ClickOn(Trova<CommandButton>(Finestra("FormAvvio"), "Command1"));
+    if (pronto) {
+        Tempo.Advance(0.3);
+    }
+    return Finestra("FormMenu");
+}
+
+Form& Partita::ApriLivello(int livello) {
+    Form& menu = Aperta("FormMenu") ? Finestra("FormMenu") : ApriMenu();
+    Tempo.Advance(0.3);
+    ClickOn(Trova<OptionButton>(menu, "Option1", livello));
+    ClickOn(Trova<CommandButton>(menu, "Command1", 0));
+    return Finestra(livello < 5 ? "frmTrm0" : livello < 8 ? "frmTrm1" : "frmTrm3");
+}
+
+Form& Partita::Finestra(const std::string& nome) {
+    Form* form = Gioco.Forms().Find(nome);
+    if (!form) {
+        throw std::runtime_error("no window " + nome);
+    }
+    return *form;
+}
+
+bool Partita::Aperta(const std::string& nome) {
+    const Form* form = Gioco.Forms().Find(nome);
+    return form && WindowOf(*form).isVisible();
+}
+
+std::vector<std::string> Partita::Aperte() {
+    std::vector<std::string> nomi;
+    for (const char* nome : {"FormAvvio", "FormMenu", "FormConfigura", "FormInfo", "frmTrm0",
+                             "frmTrm1", "frmTrm3", "FormFinale", "frmStampa"}) {
+        if (Aperta(nome)) {
+            nomi.emplace_back(nome);
+        }
+    }
+    return nomi;
+}
+
+void Partita::Scegli(Form& form, const std::string& voce) {
+    auto& finestra = dynamic_cast<FormWindow&>(WindowOf(form));
+    const QString testo = QString::fromStdString(Trova<MenuItem>(form, voce).Caption());
+    const auto strada = StradaAllaVoce(finestra.menuBar()->actions(), testo);
+    if (strada.empty()) {
+        throw std::runtime_error("no entry " + voce);
+    }
+    CliccaVoce(*finestra.menuBar(), strada.front());
+    for (std::size_t i = 1; i < strada.size(); ++i) {
+        CliccaVoce(*strada[i - 1]->menu(), strada[i]);
+    }
+}
+
+void Partita::ViaERitorno(Form& form) {
+    for (const QEvent::Type tipo : {QEvent::WindowDeactivate, QEvent::WindowActivate}) {
+        QEvent evento(tipo);
+        QApplication::sendEvent(&WindowOf(form), &evento);
+    }
+    Pump();
+}
+
+void Partita::Chiudi(Form& form) {
+    WindowOf(form).close();
+    Pump();
+}
+
+Tavolo::Tavolo(Form& form, Misura misura, const FileUtente& file) : Form_(form), file_(file) {
+    const double twips = form.Forms().Screen().TwipsPerPixelX();
+    const double barra = Trova<StatusBar>(form, "StatusBar1").Height();
+    // What lies under the maze: the button and twice the bar, or twice the button.
+    const double sotto = form.Name() == "frmTrm0" ? 660 + 2 * barra : 2 * 780.0;
+    Pianta_ = Pianta::Su(form.Width(), form.Height() - sotto, misura.Righe, misura.Colonne, twips);
+}
+
+Vista Tavolo::Guarda() const {
+    return {Shot(Trova<PictureBox>(Form_, "pictureTramelo")), Pianta_};
+}
+
+MuriVisti Tavolo::Muri() const {
+    return {Guarda(), Colore(RigaPareti)};
+}
+
+Posto Tavolo::Partenza() const {
+    const Vista vista = Guarda();
+    for (const Posto& posto : MuriVisti(vista, Colore(RigaPareti)).Aperture()) {
+        if (vista.Muro(posto) == Colore(RigaSimbolo)) {
+            return posto;
+        }
+    }
+    throw std::runtime_error("no symbol in an opening");
+}
+
+Posto Tavolo::Arrivo() const {
+    const Posto partenza = Partenza();
+    for (const Posto& posto : Muri().Aperture()) {
+        if (posto != partenza) {
+            return posto;
+        }
+    }
+    throw std::runtime_error("no second opening");
+}
+
+std::vector<int> Tavolo::Soluzione() const {
+    const Posto partenza = Partenza();
+    const Posto arrivo = Arrivo();
+    std::vector<int> passi = Muri().Strada(partenza, arrivo);
+    passi.insert(passi.begin(), Contrario(partenza.Lato));
+    passi.push_back(arrivo.Lato);
+    return passi;
+}
+
+void Tavolo::Passo(int verso, const std::array<int, 4>& tasti) const {
+    Tap(Form_, tasti.at(static_cast<std::size_t>(verso)),
+        tasti == Tastierino ? Qt::KeypadModifier : Qt::NoModifier);
+}
+
+void Tavolo::Cammina(const std::vector<int>& passi, const std::array<int, 4>& tasti) const {
+    for (const int verso : passi) {
+        Passo(verso, tasti);
+    }
+}
+
+std::string Tavolo::Pannello(int numero) const {
+    return Trova<StatusBar>(Form_, "StatusBar1").Panel(numero);
+}
+
+int Tavolo::NumeroPannello(int numero) const {
+    const std::string testo = Pannello(numero);
+    const std::size_t ultima = testo.find_last_not_of("0123456789");
+    const std::string cifre = testo.substr(ultima == std::string::npos ? 0 : ultima + 1);
+    return cifre.empty() ? -1 : std::stoi(cifre);
+}
+
+bool Tavolo::Risolto() const {
+    return WidgetOf(Trova<CommandButton>(Form_, "BottoneAvanti")).isVisible();
+}
+
+QRgb Tavolo::Colore(Riga riga) const {
+    return Pixel(std::stoi(file_.Righe.at(riga)));
+}
+
+}  // namespace trameli

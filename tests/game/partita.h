@@ -1,0 +1,135 @@
+// A whole game as a player has it before him, from the splash to the maze.
+#pragma once
+
+#include <array>
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "game/disco.h"
+#include "game/muri_visti.h"
+#include "platform/form.h"
+#include "platform/qt/local_file_system.h"
+#include "program.h"
+#include "support/hand_clock.h"
+#include "support/noted_sounds.h"
+#include "support/stage.h"
+
+namespace trameli {
+
+inline constexpr int NumeroLivelliGioco = 16;
+
+/// Rows and columns of a level.
+struct Misura {
+    int Righe;
+    int Colonne;
+};
+inline constexpr std::array<Misura, NumeroLivelliGioco> MisureLivelli{{{6, 9},
+                                                                       {6, 9},
+                                                                       {6, 9},
+                                                                       {6, 9},
+                                                                       {6, 9},
+                                                                       {8, 11},
+                                                                       {8, 11},
+                                                                       {8, 11},
+                                                                       {3, 4},
+                                                                       {4, 5},
+                                                                       {5, 6},
+                                                                       {6, 7},
+                                                                       {8, 10},
+                                                                       {10, 15},
+                                                                       {12, 18},
+                                                                       {15, 20}}};
+
+/// The control of a form by its name, and its index if it is one of several.
+template <typename T>
+T& Trova(const Form& form, const std::string& nome, std::optional<int> indice = std::nullopt) {
+    for (Control* control : form.Controls()) {
+        if (control->Name() == nome && control->Index() == indice) {
+            return dynamic_cast<T&>(*control);
+        }
+    }
+    throw std::runtime_error(form.Name() + " has no " + nome);
+}
+
+/// A colour of the settings as a pixel.
+constexpr QRgb Pixel(Colour colour) {
+    return qRgb(RedOf(colour), GreenOf(colour), BlueOf(colour));
+}
+
+/// The keys of the four directions, cursor keys and those of the numeric pad.
+inline constexpr std::array<int, 4> Frecce{Qt::Key_Up, Qt::Key_Right, Qt::Key_Down, Qt::Key_Left};
+inline constexpr std::array<int, 4> Tastierino{Qt::Key_8, Qt::Key_6, Qt::Key_2, Qt::Key_4};
+
+/// One run of the program on a machine with this disk and screen. Everything happens through
+/// windows: clicks, keys, and what is seen.
+class Partita {
+public:
+    explicit Partita(const Disco& disco, PixelSize schermo = {1366, 768}, std::uint64_t seme = 1);
+    Partita(const Disco& disco, PixelSize schermo, std::unique_ptr<Casuale> casuale);
+
+    HandClock Tempo;
+    FixedScreen Schermo;
+    LocalFileSystem File;
+    NotedDialogs Messaggi;
+    FixedInstances Istanze;
+    NotedSounds Suoni;
+    Program Gioco;
+
+    /// The splash comes up. False if the program does not start.
+    bool Avvia();
+    /// Starts and clicks the splash; with `pronto` until the menu's timer has run.
+    Form& ApriMenu(bool pronto = true);
+    /// Goes to the menu if it is not there, chooses the level and starts it, up to its maze.
+    Form& ApriLivello(int livello);
+
+    Form& Finestra(const std::string& nome);
+    bool Aperta(const std::string& nome);
+    /// The windows on the screen.
+    std::vector<std::string> Aperte();
+
+    /// Chooses an entry of the menu bar with the mouse, opening its menu first.
+    static void Scegli(Form& form, const std::string& voce);
+    /// Another window comes before this one, and goes again.
+    static void ViaERitorno(Form& form);
+    /// Closes the window as the desktop does.
+    static void Chiudi(Form& form);
+};
+
+/// A maze on the screen and the hands that walk it.
+class Tavolo {
+public:
+    explicit Tavolo(Form& form, Misura misura, const FileUtente& file = {});
+
+    Form& Form_;
+    Pianta Pianta_;
+
+    Vista Guarda() const;
+    MuriVisti Muri() const;
+    /// The openings, by the symbol that stands in one of them before the first step.
+    Posto Partenza() const;
+    Posto Arrivo() const;
+    /// The steps from before the start to behind the finish.
+    std::vector<int> Soluzione() const;
+
+    void Passo(int verso, const std::array<int, 4>& tasti = Frecce) const;
+    void Cammina(const std::vector<int>& passi, const std::array<int, 4>& tasti = Frecce) const;
+    void Risolvi() const { Cammina(Soluzione()); }
+
+    std::string Pannello(int numero) const;
+    /// The number at the end of a panel, whatever word stands before it.
+    int NumeroPannello(int numero) const;
+    int Urti() const { return NumeroPannello(3); }
+    int Passi() const { return NumeroPannello(4); }
+    bool Risolto() const;
+
+    /// A colour of the player's settings.
+    QRgb Colore(Riga riga) const;
+
+private:
+    FileUtente file_;
+};
+
+}  // namespace trameli
