@@ -66,11 +66,13 @@ TEST_P(SuOgniSchermo, MazeBandAndStatusFollowEachOther) {
               (Bounds{Gioco().Width() - 2 * 1725, 240, 1725, 780}));
     // One ground from the maze to the status bar.
     const QImage vista = Shot(Gioco());
-    const QRect sotto = WidgetOf(banda).geometry();
-    const int barra = WidgetOf(banda).mapTo(&WindowOf(Gioco()), QPoint(0, 0)).y();
-    for (const int x : {1, sotto.left() + 2, vista.width() - 2}) {
-        for (const int y : {barra + 1, barra + sotto.height() - 2, barra + sotto.height() + 2}) {
-            EXPECT_EQ(vista.pixel(x, y), Pixel(12648447)) << x << ", " << y;
+    const QPoint angolo = WidgetOf(banda).mapTo(&WindowOf(Gioco()), QPoint(0, 0));
+    const int larga = WindowOf(Gioco()).width();
+    const int alta = WidgetOf(banda).height();
+    for (const int x : {1, angolo.x() + 2, larga - 2}) {
+        for (const int y : {1, alta - 2, alta + 2}) {
+            const QPointF punto = QPointF(x, angolo.y() + y) * vista.devicePixelRatio();
+            EXPECT_EQ(vista.pixel(punto.toPoint()), Pixel(12648447)) << x << ", " << y;
         }
     }
 }
