@@ -148,5 +148,12 @@ TEST(SoundFiles, ChunksOfOtherKindsMayComeBetween) {
     EXPECT_TRUE(IsPlainWave(wave));
 }
 
+TEST(SoundFiles, MusicBeginsAsMidiDoes) {
+    EXPECT_TRUE(IsMidi(Tune(1, 1)));
+    for (const std::string& other : {std::string(), std::string("MTh"), Tone(PitchA, 1)}) {
+        EXPECT_FALSE(IsMidi(other)) << other.substr(0, 8);
+    }
+}
+
 }  // namespace
 }  // namespace trameli

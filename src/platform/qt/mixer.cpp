@@ -136,8 +136,6 @@ void Mixer::PlayWave(const std::string& path, Now::time_point deadline) {
     if (!Open() || Now::now() > deadline) {
         return;
     }
-    // The one before is cut off even if the new one turns out to be silent.
-    sdl_.Mix_HaltChannel(OnlyChannel);
     if (Mix_Chunk* wave = Wave(path)) {
         sdl_.Mix_PlayChannelTimed(OnlyChannel, wave, 0, -1);
     }
