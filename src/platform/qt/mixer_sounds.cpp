@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <condition_variable>
+#include <exception>
 #include <mutex>
 #include <optional>
 #include <system_error>
@@ -29,29 +30,32 @@ constexpr auto Farewell = 500ms;
 /// that a slow device never has anything to catch up with.
 struct MixerSounds::Wishes {
     std::mutex Mutex;
-    std::condition_variable_any Changed;
+    std::condition_variable Changed;
 
     std::optional<std::string> Wave;  ///< to be played, unless taken already
     Now::time_point WaveAsked;
     std::string Music;  ///< the open piece; empty if there is none
     bool MusicPlays = false;
     unsigned MusicTurn = 0;  ///< moves on with every change of the music
+    bool Over = false;       ///< nothing shall be heard any more
     bool Ended = false;      ///< the thread is through
 };
 
 MixerSounds::MixerSounds(LocalFileSystem files, MixerOptions options)
     : wishes_(std::make_shared<Wishes>()) {
     try {
-        thread_ = std::jthread([wishes = wishes_, files = std::move(files),
-                                options = std::move(options)](const std::stop_token& stop) {
-            {
-                Mixer mixer(files, options);
-                Serve(stop, *wishes, mixer);
-            }
-            const std::lock_guard lock(wishes->Mutex);
-            wishes->Ended = true;
-            wishes->Changed.notify_all();
-        });
+        thread_ =
+            std::thread([wishes = wishes_, files = std::move(files), options = std::move(options)] {
+                try {
+                    Mixer mixer(files, options);
+                    Serve(*wishes, mixer);
+                } catch (const std::exception&) {
+                    // Out of memory, say. The game goes on without sounds.
+                }
+                const std::lock_guard lock(wishes->Mutex);
+                wishes->Ended = true;
+                wishes->Changed.notify_all();
+            });
     } catch (const std::system_error&) {
         // No thread to be had: a silent game.
     }
@@ -61,29 +65,35 @@ MixerSounds::~MixerSounds() {
     if (!thread_.joinable()) {
         return;
     }
-    thread_.request_stop();
+    Wish([](Wishes& wishes) { wishes.Over = true; });
     std::unique_lock lock(wishes_->Mutex);
-    if (!wishes_->Changed.wait_for(lock, Farewell, [this] { return wishes_->Ended; })) {
+    const bool ended = wishes_->Changed.wait_for(lock, Farewell, [this] { return wishes_->Ended; });
+    lock.unlock();
+    if (ended) {
+        thread_.join();
+    } else {
         thread_.detach();
     }
 }
 
-void MixerSounds::Serve(const std::stop_token& stop, Wishes& wishes, Mixer& mixer) {
+void MixerSounds::Serve(Wishes& wishes, Mixer& mixer) {
     unsigned musicTurn = 0;
-    const auto wished = [&] { return wishes.Wave || wishes.MusicTurn != musicTurn; };
+    const auto changed = [&] {
+        return wishes.Over || wishes.Wave || wishes.MusicTurn != musicTurn;
+    };
     std::unique_lock lock(wishes.Mutex);
-    while (!stop.stop_requested()) {
+    for (;;) {
         // With the device closed nothing wakes this thread but a wish.
-        const bool isWished = mixer.IsOpen() ? wishes.Changed.wait_for(lock, stop, Round, wished)
-                                             : wishes.Changed.wait(lock, stop, wished);
-        if (stop.stop_requested()) {
-            break;
-        }
-        if (!isWished) {
+        if (!mixer.IsOpen()) {
+            wishes.Changed.wait(lock, changed);
+        } else if (!wishes.Changed.wait_for(lock, Round, changed)) {
             lock.unlock();
             mixer.Rest();
             lock.lock();
             continue;
+        }
+        if (wishes.Over) {
+            return;
         }
         const auto wave = std::exchange(wishes.Wave, std::nullopt);
         const auto waveAsked = wishes.WaveAsked;
@@ -103,34 +113,44 @@ void MixerSounds::Serve(const std::stop_token& stop, Wishes& wishes, Mixer& mixe
     }
 }
 
-void MixerSounds::PlayWave(const std::string& path) {
-    const std::lock_guard lock(wishes_->Mutex);
-    wishes_->Wave = path;
-    wishes_->WaveAsked = Now::now();
+/// Changes what shall be heard, and wakes the thread with no lock held for it to run into.
+template <typename Change>
+void MixerSounds::Wish(Change change) {
+    {
+        const std::lock_guard lock(wishes_->Mutex);
+        change(*wishes_);
+    }
     wishes_->Changed.notify_all();
+}
+
+void MixerSounds::PlayWave(const std::string& path) {
+    Wish([&path](Wishes& wishes) {
+        wishes.Wave = path;
+        wishes.WaveAsked = Now::now();
+    });
 }
 
 void MixerSounds::OpenMusic(const std::string& path) {
-    const std::lock_guard lock(wishes_->Mutex);
-    wishes_->Music = path;
-    wishes_->MusicPlays = false;
-    ++wishes_->MusicTurn;
-    wishes_->Changed.notify_all();
+    Wish([&path](Wishes& wishes) {
+        wishes.Music = path;
+        wishes.MusicPlays = false;
+        ++wishes.MusicTurn;
+    });
 }
 
 void MixerSounds::PlayMusic() {
-    const std::lock_guard lock(wishes_->Mutex);
-    wishes_->MusicPlays = !wishes_->Music.empty();
-    ++wishes_->MusicTurn;
-    wishes_->Changed.notify_all();
+    Wish([](Wishes& wishes) {
+        wishes.MusicPlays = !wishes.Music.empty();
+        ++wishes.MusicTurn;
+    });
 }
 
 void MixerSounds::CloseMusic() {
-    const std::lock_guard lock(wishes_->Mutex);
-    wishes_->Music.clear();
-    wishes_->MusicPlays = false;
-    ++wishes_->MusicTurn;
-    wishes_->Changed.notify_all();
+    Wish([](Wishes& wishes) {
+        wishes.Music.clear();
+        wishes.MusicPlays = false;
+        ++wishes.MusicTurn;
+    });
 }
 
 }  // namespace trameli

@@ -30,10 +30,12 @@ public:
 
 private:
     struct Wishes;
-    static void Serve(const std::stop_token& stop, Wishes& wishes, Mixer& mixer);
+    static void Serve(Wishes& wishes, Mixer& mixer);
+    template <typename Change>
+    void Wish(Change change);
 
     std::shared_ptr<Wishes> wishes_;  ///< also of the thread, which may live longer
-    std::jthread thread_;
+    std::thread thread_;
 };
 
 }  // namespace trameli
