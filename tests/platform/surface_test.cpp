@@ -315,20 +315,31 @@ TEST(SurfaceTest, PenIsAtLeastOnePixel) {
     }
 }
 
-TEST(SurfaceTest, RingsFillItFromTheMiddleToItsEdges) {
-    const Colour colours[] = {Rgb(1, 0, 0), Rgb(2, 0, 0), Rgb(3, 0, 0), Rgb(4, 0, 0)};
+TEST(SurfaceTest, RingsFillItFromItsEdgesToTheMiddle) {
+    const Colour colours[] = {Rgb(4, 0, 0), Rgb(3, 0, 0), Rgb(2, 0, 0), Rgb(1, 0, 0)};
     for (const QSize size : {QSize(81, 41), QSize(80, 40), QSize(1, 1), QSize(3, 80)}) {
         Sheet sheet(size, 1);
-        sheet.FillRings(colours);
-        EXPECT_TRUE(sheet.Has(size.width() / 2, size.height() / 2, colours[0]));
+        sheet.FillRings(colours, 4);
+        EXPECT_TRUE(sheet.Has(size.width() / 2, size.height() / 2, colours[3]));
         if (size.width() > 3) {
-            EXPECT_EQ(sheet.Extent(colours[3]), sheet.Image().rect());
+            EXPECT_EQ(sheet.Extent(colours[0]), sheet.Image().rect());
             EXPECT_TRUE(sheet.Has(0, 0, Back));
             EXPECT_EQ(sheet.Image(), sheet.Image().mirrored(true, true));
-            EXPECT_NEAR(sheet.Extent(colours[1]).width(), size.width() / 2.0, 2);
+            EXPECT_NEAR(sheet.Extent(colours[2]).width(), size.width() / 2.0, 2);
         }
-        sheet.FillRings({});
+        sheet.FillRings({}, 4);
     }
+}
+
+TEST(SurfaceTest, RingsOfAHalfRadiusEndHalfAStepEarlier) {
+    // Half axes 4.5, 3.5, 2.5 and 1.5 pixels: seen along the middle row of nine.
+    const Colour colours[] = {Rgb(1, 0, 0), Rgb(2, 0, 0), Rgb(3, 0, 0), Rgb(4, 0, 0)};
+    Sheet sheet(QSize(9, 9), 1);
+    sheet.FillRings(colours, 4.5);
+    for (const int fromEdge : {0, 1, 2, 3}) {
+        EXPECT_TRUE(sheet.Has(fromEdge, 4, colours[fromEdge]));
+    }
+    EXPECT_TRUE(sheet.Has(4, 4, colours[3]));
 }
 
 // What reaches the screen.

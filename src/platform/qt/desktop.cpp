@@ -31,6 +31,9 @@ public:
     DesktopTicker(int milliseconds, std::function<void()> tick) : tick_(std::move(tick)) {
         timer_.setTimerType(Qt::PreciseTimer);
         QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] {
+            // The toolkit would hold on to its rhythm after a late tick, and bring the next one
+            // almost at once.
+            timer_.start();
             // The routine may stop this very timer.
             const auto routine = tick_;
             routine();

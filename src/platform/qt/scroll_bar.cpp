@@ -12,6 +12,7 @@ HScrollBar::HScrollBar(Container& container, ControlName name, const Bounds& bou
                     MakeNative<QScrollBar>(container, Qt::Horizontal)) {
     auto& widget = WidgetOf<QScrollBar>(*this);
     widget.setFocusPolicy(Qt::NoFocus);
+    widget.setContextMenuPolicy(Qt::NoContextMenu);  // it would take the keys
     widget.setRange(min, max);
     widget.setPageStep(largeChange);
     QObject::connect(&widget, &QScrollBar::valueChanged, [this] { Fire(*this, Change); });
