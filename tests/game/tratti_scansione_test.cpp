@@ -71,7 +71,7 @@ TEST_P(OgniSchermo, AStrokeGoesToTheLastPixelAndTouchesNoWall) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Schermi, OgniSchermo,
+INSTANTIATE_TEST_SUITE_P(Risoluzioni, OgniSchermo,
                          testing::Values(Schermo{15, 1}, Schermo{15, 1.25}, Schermo{15, 1.5},
                                          Schermo{15, 2}, Schermo{12, 1}, Schermo{8, 1},
                                          Schermo{8, 1.5}, Schermo{5, 1}, Schermo{5, 1.25}),

@@ -3,6 +3,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 
+#include "base/rounding.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/graphics.h"
 #include "platform/qt/native.h"
@@ -15,7 +16,10 @@ namespace {
 class PictureBoxWidget : public GraphicWidget {
 public:
     explicit PictureBoxWidget(QWidget* parent) : GraphicWidget(parent) {
-        setAttribute(Qt::WA_OpaquePaintEvent);
+        // Where a pixel of the layout is a pixel and a part of the device, the edge can lie within
+        // one, and what is below the box has to be painted there first.
+        const double ratio = devicePixelRatioF();
+        setAttribute(Qt::WA_OpaquePaintEvent, ratio == Floor(ratio));
         setFocusPolicy(Qt::StrongFocus);
     }
 
