@@ -1,0 +1,119 @@
+// What it takes to build the walls of the first levels anew as bars, up to the picture on the
+// window.
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QImage>
+#include <QPainter>
+#include <QWidget>
+#include <memory>
+
+#include "drawing/geometria.h"
+#include "drawing/muri_a_barre.h"
+#include "engine/ricette.h"
+#include "platform/control_array.h"
+#include "platform/forms.h"
+#include "platform/picture_box.h"
+#include "platform/qt/desktop_services.h"
+#include "platform/qt/native.h"
+
+namespace trameli {
+namespace {
+
+class StillClock final : public Clock {
+public:
+    double Now() const override { return 0; }
+    std::unique_ptr<Ticker> Every(int, std::function<void()>) override { return nullptr; }
+    void Wait(double, const std::function<bool()>&) override {}
+};
+
+class BenchScreen final : public Screen {
+public:
+    PixelSize Size() const override { return {1920, 1080}; }
+    PixelSize Available() const override { return Size(); }
+    bool HasDesktop() const override { return false; }
+};
+
+/// A full HD window with nothing but the playing surface and the bars.
+class Board : public Form {
+public:
+    explicit Board(trameli::Forms& forms)
+        : Form(forms, "Board", {28800, 16200}), Surface(*this, "Surface", {0, 0, 28800, 14250}) {
+        Bars.Add(Surface, Bounds{0, 0, 900, 900}).Visible(false);
+        Bars(0).Picture({"muri/0.svg"});
+    }
+    PictureBox Surface;
+    ControlArray<PictureBox> Bars{"Bars"};
+};
+
+/// The mazes of the fifth level have the most bars.
+struct Maze {
+    Maze() {
+        Walls.CreaNuovaGriglia();
+        Walls.NonEliminareMuriEsterni();
+        Walls.Scava();
+    }
+    CasualeConSeme Draws{1};
+    Tramelo Walls{6, 9, Draws};
+    Geometria Geometry = CalcolaGeometria(28800, 14250, 6, 9);
+    Misure Measures{Geometry.DimensioneCella, Geometry.MargineSinistro, Geometry.MargineSuperiore,
+                    10};
+};
+
+void RebuildBars(benchmark::State& state) {
+    StillClock clock;
+    BenchScreen screen;
+    Forms forms(clock, screen);
+    forms.Register("Board", [](Forms& all) { return std::make_unique<Board>(all); });
+    forms.Show("Board");
+    QCoreApplication::processEvents();
+    auto& board = static_cast<Board&>(*forms.Find("Board"));
+    const Maze maze;
+    QWidget& surface = *static_cast<VisualControl&>(board.Surface).NativePart().Widget;
+    QImage window(surface.size(), QImage::Format_RGB32);
+    const auto places = PostiBarre(maze.Walls, maze.Measures);
+    for (auto _ : state) {
+        while (board.Bars.Count() > 1) {
+            board.Bars.Unload(board.Bars.Count() - 1);
+        }
+        for (const Bounds& place : places) {
+            PictureBox& bar = board.Bars.Load(board.Bars.Count());
+            bar.Enabled(false);
+            bar.Place(place);
+            bar.Visible(true);
+        }
+        surface.render(&window);
+    }
+    state.counters["barre"] = static_cast<double>(places.size());
+}
+
+/// The same pixels from one picture, with bare painter calls.
+void PaintBars(benchmark::State& state) {
+    const Maze maze;
+    const QImage texture(420, 420, QImage::Format_RGB32);
+    QImage window(1920, 950, QImage::Format_RGB32);
+    const auto places = PostiBarre(maze.Walls, maze.Measures);
+    for (auto _ : state) {
+        window.fill(Qt::yellow);
+        QPainter painter(&window);
+        for (const Bounds& place : places) {
+            painter.drawImage(QPointF(place.Left / 15, place.Top / 15), texture,
+                              QRectF(0, 0, place.Width / 15, place.Height / 15));
+        }
+    }
+}
+
+BENCHMARK(RebuildBars)->Name("barre")->Unit(benchmark::kMillisecond);
+BENCHMARK(PaintBars)->Name("barre_base")->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace trameli
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    trameli::PrepareToolkit();
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
