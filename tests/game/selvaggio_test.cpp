@@ -144,7 +144,8 @@ private:
     /// Reads the maze, if there is one, and walks it to its end.
     void Risolve(Form& form) {
         const Stato& stato = partita_->Gioco.Stato();
-        const bool passi = form.Name() == "frmTrm0" || form.Name() == "frmTrm3";
+        const std::string nome = form.Name();
+        const bool passi = nome == "frmTrm0" || nome == "frmTrm3";
         if (!passi || !stato.TrameloDisegnato || stato.ModoInput != 0) {
             return;
         }
@@ -156,7 +157,7 @@ private:
         }
         ++labirinti_;
         for (const int verso : tavolo.Soluzione()) {
-            if (!form.Loaded()) {
+            if (partita_->Gioco.Forms().Find(nome) != &form) {
                 return;
             }
             tavolo.Passo(verso);

@@ -1,6 +1,7 @@
 #include "support/stage.h"
 
 #include <QApplication>
+#include <QPointer>
 #include <QTest>
 #include <QWindow>
 #include <fstream>
@@ -38,8 +39,10 @@ void Release(Form& form, int key, Qt::KeyboardModifiers modifiers) {
 }
 
 void Tap(Form& form, int key, Qt::KeyboardModifiers modifiers) {
+    const QPointer<QWidget> window = &WindowOf(form);
     Press(form, key, modifiers);
-    if (form.Loaded()) {
+    // The press may have been the form's end.
+    if (window && form.Loaded()) {
         Release(form, key, modifiers);
     }
 }
