@@ -1,0 +1,143 @@
+// Hands that have one key or two.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "game/partita.h"
+#include "platform/picture_box.h"
+#include "play/scansione.h"
+
+namespace trameli {
+
+inline constexpr int Manuale = 1;
+inline constexpr int Automatica = 2;
+inline constexpr int Velocita = 4;  // quarters of a second
+inline constexpr double Giro = Velocita * 0.25;
+inline constexpr double UnDecimo = 0.1;
+
+inline constexpr int Blu = Rgb(0, 0, 255);
+
+/// Strokes and symbol are blue, the symbol can have another colour.
+inline FileUtente Utente(int modo, int simbolo) {
+    return FileUtente()
+        .Con(RigaModoInput, modo)
+        .Con(RigaVelocita, Velocita)
+        .Con(RigaSpessore, 0)
+        .Con(RigaScansione, Blu)
+        .Con(RigaSimbolo, simbolo);
+}
+
+/// The number of a direction of travel in the order of the offers.
+inline int Offerta(int verso) {
+    for (int i = 0; i < NumeroDirezioni; ++i) {
+        if (static_cast<int>(DirezioniScansione.at(static_cast<std::size_t>(i))) == verso) {
+            return i;
+        }
+    }
+    return -1;
+}
+
+/// A player who has Space, with `Manuale` Enter too, and otherwise waits.
+class ConInterruttori : public testing::Test {
+protected:
+    Tavolo Apri(int livello, int modo, int simbolo = Blu) {
+        modo_ = modo;
+        file_ = Utente(modo, simbolo);
+        disco_.Scrivi("_predefinito", file_);
+        return AlTavolo(partita_.ApriLivello(livello), livello);
+    }
+    Tavolo AlTavolo(Form& form, int livello) {
+        // In the first tenth of a second the keyboard may still be elsewhere.
+        if (modo_ == Manuale) {
+            partita_.Tempo.Advance(UnDecimo);
+        }
+        return Tavolo(form, MisureLivelli.at(static_cast<std::size_t>(livello)), file_);
+    }
+
+    void Spazio(Form& form) { Tap(form, Qt::Key_Space); }
+    void Invio(Form& form) { Tap(form, Qt::Key_Return); }
+    void Tic(int quanti = 1) { partita_.Tempo.Advance(Giro * quanti); }
+
+    /// The next direction, by key or by waiting.
+    void Prossima(Form& form) {
+        if (modo_ == Manuale) {
+            Spazio(form);
+        } else {
+            Tic();
+        }
+    }
+    void Conferma(Form& form) {
+        if (modo_ == Manuale) {
+            Invio(form);
+        } else {
+            Spazio(form);
+        }
+    }
+    /// Goes on to the direction and takes it. `offerta` is the one on offer.
+    void Vai(Form& form, int verso, int& offerta) {
+        // Without a stroke on show, a player with one key waits for the next one.
+        for (int passati = 0; passati == 0 || offerta != Offerta(verso); ++passati) {
+            if (modo_ == Manuale && offerta == Offerta(verso)) {
+                break;
+            }
+            Prossima(form);
+            offerta = (offerta + 1) % NumeroDirezioni;
+        }
+        Conferma(form);
+    }
+    void Risolvi(const Tavolo& tavolo, int& offerta) {
+        partenza_ = tavolo.Partenza();
+        for (const int verso : tavolo.Soluzione()) {
+            Vai(tavolo.Form_, verso, offerta);
+        }
+    }
+
+    /// The directions whose strokes are to be seen round the head, by a pixel near their ends.
+    /// `qui` is the cell where the head is, or an opening.
+    std::vector<int> Tratti(const Tavolo& tavolo, const Posto& qui, bool inApertura) const {
+        const Vista vista = tavolo.Guarda();
+        const double fuori = inApertura ? 0.5 : 0;
+        const auto lato = static_cast<std::size_t>(qui.Lato);
+        std::vector<int> visti;
+        for (int i = 0; i < NumeroDirezioni; ++i) {
+            const auto verso =
+                static_cast<std::size_t>(DirezioniScansione.at(static_cast<std::size_t>(i)));
+            constexpr double parte = 0.35;
+            if (vista.Fra(qui.Riga, qui.Colonna,
+                          parte * ColonnaVerso.at(verso) + fuori * ColonnaVerso.at(lato),
+                          parte * RigaVerso.at(verso) + fuori * RigaVerso.at(lato)) == Pixel(Blu)) {
+                visti.push_back(i);
+            }
+        }
+        return visti;
+    }
+    std::vector<int> TrattiAllInizio(const Tavolo& tavolo) const {
+        return Tratti(tavolo, partenza_, true);
+    }
+
+    QWidget& ImmagineTasti(Form& form) const {
+        return WidgetOf(Trova<PictureBox>(
+            form, modo_ == Manuale ? "PictureScansioneManuale" : "PictureScansioneAutomatica"));
+    }
+
+    Disco disco_;
+    Partita partita_{disco_, {800, 600}, 11};
+    FileUtente file_;
+    int modo_ = 0;
+    Posto partenza_;  ///< of the last maze that was looked at
+};
+
+struct Caso {
+    int Livello;
+    int Modo;
+};
+
+inline std::string NomeCaso(const testing::TestParamInfo<Caso>& voce) {
+    return "Level" + std::to_string(voce.param.Livello) +
+           (voce.param.Modo == Manuale ? "TwoKeys" : "OneKey");
+}
+
+}  // namespace trameli
