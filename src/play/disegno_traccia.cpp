@@ -48,10 +48,11 @@ void DisegnaPasso(Surface& superficie, Traccia& traccia, Punto destinazione, Col
     const Punto testa = traccia.Testa();
     superficie.DrawWidth(aspetto.PennaTraccia);
     superficie.DrawLine(testa.X, testa.Y, testa.X, testa.Y, aspetto.ColoreSfondo);
-    // The symbol is square where the picture was painted anew, and has corners then.
-    superficie.DrawWidth(aspetto.PennaSimbolo);
-    Disegna(superficie, {testa, testa}, Estremi::Quadri, aspetto.ColoreSfondo,
-            aspetto.TwipsPerPixel);
+    if (aspetto.TestaQuadra) {
+        superficie.DrawWidth(aspetto.PennaSimbolo);
+        Disegna(superficie, {testa, testa}, Estremi::Quadri, aspetto.ColoreSfondo,
+                aspetto.TwipsPerPixel);
+    }
     traccia.Aggiungi(destinazione, colore);
     DisegnaTratti(superficie, traccia, aspetto);
     DisegnaSimbolo(superficie, traccia.Testa(), aspetto);

@@ -9,12 +9,6 @@
 
 namespace trameli {
 
-namespace {
-
-constexpr int QuartoDiSecondo = 250;  // milliseconds
-
-}  // namespace
-
 FormAPassi::FormAPassi(trameli::Forms& forms, Servizi& servizi, Casuale& casuale,
                        const DisegnoTrm& disegno)
     : FormTrm(forms, servizi, casuale, disegno) {
@@ -31,12 +25,12 @@ FormAPassi::FormAPassi(trameli::Forms& forms, Servizi& servizi, Casuale& casuale
 /// would not do: its next tick can be 15 seconds away, and while a solved maze is on show it stands
 /// still. A click somewhere would then leave the player no way to go on.
 bool FormAPassi::Form_KeyDown(int keyCode, int /*shift*/) {
-    if (stato_.ModoInput == 0 || (keyCode != KeySpace && keyCode != KeyEnter)) {
+    if (stato_.ModoInput == Tastiera || (keyCode != KeySpace && keyCode != KeyEnter)) {
         return false;
     }
     if (BottoneAvanti.Visible()) {
         BottoneAvanti.SetFocus();
-    } else if (stato_.ModoInput == 1) {
+    } else if (stato_.ModoInput == ScansioneManuale) {
         PictureScansioneManuale->SetFocus();
     } else if (offerto_) {
         // Not before: nobody can take what was not yet offered.
@@ -46,7 +40,7 @@ bool FormAPassi::Form_KeyDown(int keyCode, int /*shift*/) {
 }
 
 void FormAPassi::Form_KeyUp(int keyCode, int /*shift*/) {
-    if (stato_.ModoInput != 0) {
+    if (stato_.ModoInput != Tastiera) {
         return;
     }
     if (BottoneAvanti.Visible()) {
@@ -68,9 +62,9 @@ void FormAPassi::mnuNuovo_Click() {
 }
 
 void FormAPassi::Timer1_Timer() {
-    if (stato_.ModoInput == 1) {
+    if (stato_.ModoInput == ScansioneManuale) {
         PictureScansioneManuale->SetFocus();
-    } else if (stato_.ModoInput == 2 && HaTramelo()) {
+    } else if (stato_.ModoInput == ScansioneAutomatica && HaTramelo()) {
         OffriProssima();
         offerto_ = true;
         PictureScansioneAutomatica->SetFocus();
@@ -78,7 +72,7 @@ void FormAPassi::Timer1_Timer() {
 }
 
 void FormAPassi::PictureScansioneManuale_KeyUp(int keyCode) {
-    if (stato_.ModoInput != 1 || !HaTramelo()) {
+    if (stato_.ModoInput != ScansioneManuale || !HaTramelo()) {
         return;
     }
     if (BottoneAvanti.Visible()) {
@@ -91,8 +85,8 @@ void FormAPassi::PictureScansioneManuale_KeyUp(int keyCode) {
 }
 
 void FormAPassi::PictureScansioneAutomatica_KeyUp(int keyCode) {
-    if (stato_.ModoInput != 2 || keyCode != KeySpace || giocatore_.TrameloRisolto() ||
-        !HaTramelo()) {
+    if (stato_.ModoInput != ScansioneAutomatica || keyCode != KeySpace ||
+        giocatore_.TrameloRisolto() || !HaTramelo()) {
         return;
     }
     TogliLineeRotazione();
@@ -112,11 +106,11 @@ void FormAPassi::DisponiControlli(double altezza, double scartoCoppe) {
 
 void FormAPassi::ImpostaModoInput() {
     switch (stato_.ModoInput) {
-        case 1:
+        case ScansioneManuale:
             Timer1.Enabled(true);
             DirezioneScansione = 0;
             break;
-        case 2:
+        case ScansioneAutomatica:
             Timer1.Interval(stato_.VelocitaScansione * QuartoDiSecondo);
             DirezioneScansione = 0;
             break;
@@ -124,8 +118,8 @@ void FormAPassi::ImpostaModoInput() {
             Timer1.Enabled(false);
             break;
     }
-    PictureScansioneManuale->Visible(stato_.ModoInput == 1);
-    PictureScansioneAutomatica->Visible(stato_.ModoInput == 2);
+    PictureScansioneManuale->Visible(stato_.ModoInput == ScansioneManuale);
+    PictureScansioneAutomatica->Visible(stato_.ModoInput == ScansioneAutomatica);
 }
 
 void FormAPassi::OffriProssima() {

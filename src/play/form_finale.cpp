@@ -18,10 +18,6 @@ constexpr Form::DesignSize Dimensioni{9915, 7680};
 constexpr Colour Sfondo = Rgb(0, 0, 32);
 constexpr Colour Evidenza = Rgb(255, 210, 63);
 constexpr double AttesaIniziale = 1;  // seconds
-constexpr int QuartoDiSecondo = 250;  // milliseconds
-
-constexpr int ScansioneManuale = 1;
-constexpr int ScansioneAutomatica = 2;
 
 Font Fumetto(double punti, bool grassetto) {
     return {"Comic Sans MS", punti, grassetto};

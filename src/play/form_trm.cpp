@@ -58,7 +58,7 @@ void FormTrm::PreparaGioco() {
     }
     preparando_ = false;
     mnuNuovo_Click();
-    if (Loaded() && stato_.ModoInput == 1 && HaTramelo()) {
+    if (Loaded() && stato_.ModoInput == ScansioneManuale && HaTramelo()) {
         RidisegnaRotazione();
     }
 }

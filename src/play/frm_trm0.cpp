@@ -45,9 +45,9 @@ void frmTrm0::mnuNuovo_Click() {
     }
     // A second draw: this picture, not the one that came with the maze, is the one that stays.
     InserisciArrivo();
-    if (stato_.ModoInput == 2) {
+    if (stato_.ModoInput == ScansioneAutomatica) {
         Timer1.Enabled(true);
-    } else if (stato_.ModoInput == 1) {
+    } else if (stato_.ModoInput == ScansioneManuale) {
         RidisegnaRotazione();
     }
 }
@@ -70,7 +70,7 @@ void frmTrm0::InserisciArrivo() {
 
 void frmTrm0::ScegliMuri() {
     if (!LineeMuri) {
-        const auto& archivio = static_cast<FormArchivio&>(Forms().Load("FormArchivio"));
+        const FormArchivio& archivio = Archivio();
         IndiceMuro = static_cast<std::int16_t>(casuale_.FinoA(archivio.PictureMuro.Count()));
     }
 }
@@ -90,7 +90,7 @@ void frmTrm0::DisegnaConLinee() {
 
 void frmTrm0::SistemaMuri() {
     TogliMuri();
-    const auto& archivio = static_cast<FormArchivio&>(Forms().Load("FormArchivio"));
+    const FormArchivio& archivio = Archivio();
     PictureMuri(0).Width(geometria_.DimensioneCella);
     PictureMuri(0).Height(geometria_.DimensioneCella);
     PictureMuri(0).Picture(archivio.PictureMuro(IndiceMuro).Picture());

@@ -46,10 +46,10 @@ void frmTrm3::mnuNuovo_Click() {
     if (!HaTramelo()) {
         return;
     }
-    if (stato_.ModoInput == 1 || stato_.ModoInput == 2) {
+    if (stato_.ModoInput == ScansioneManuale || stato_.ModoInput == ScansioneAutomatica) {
         Timer1.Enabled(true);
     }
-    if (stato_.ModoInput == 1) {
+    if (stato_.ModoInput == ScansioneManuale) {
         RidisegnaRotazione();
     }
 }

@@ -82,7 +82,7 @@ void FormTrm::DisegnaLinea() {
     ContaPassi = Saturated(ContaPassi + 1);
     ScriviPassi();
     DisegnaPasso(pictureTramelo, traccia_, giocatore_.PuntoCorrente(), ColoreTratto, Aspetto());
-    if (stato_.ModoInput == 1) {
+    if (stato_.ModoInput == ScansioneManuale) {
         RidisegnaRotazione();
     }
 }
@@ -104,7 +104,7 @@ void FormTrm::MostraFrameTrameloRisolto() {
         servizi_.Suoni.SuonoArrivo();
         BottoneAvanti.Visible(true);
         BottoneAvanti.SetFocus();
-        if (stato_.ModoInput == 2) {
+        if (stato_.ModoInput == ScansioneAutomatica) {
             Timer1.Enabled(false);
         }
         ++TrameliRisolti;

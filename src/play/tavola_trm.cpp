@@ -11,6 +11,10 @@ TavolaTrm::TavolaTrm(trameli::Forms& forms, Servizi& servizi, Casuale& casuale,
                      const DisegnoTrm& disegno)
     : FinestraTrm(forms, disegno), servizi_(servizi), stato_(servizi.Stato), casuale_(casuale) {}
 
+FormArchivio& TavolaTrm::Archivio() const {
+    return static_cast<FormArchivio&>(Forms().Load("FormArchivio"));
+}
+
 void TavolaTrm::Alloca() {
     const auto [righe, colonne] = Griglia();
     tramelo_.emplace(righe, colonne, casuale_);
@@ -28,9 +32,11 @@ void TavolaTrm::ImpostaSpessori() {
 }
 
 AspettoTraccia TavolaTrm::Aspetto() const {
-    return AspettoDi(spessori_, geometria_.DimensioneCella, Forms().Screen().TwipsPerPixelX(),
-                     stato_.ColoraCasella, Nearest(stato_.ColoreSfondo),
-                     Nearest(stato_.ColoreSimbolo));
+    AspettoTraccia aspetto = AspettoDi(spessori_, geometria_.DimensioneCella,
+                                       Forms().Screen().TwipsPerPixelX(), stato_.ColoraCasella,
+                                       Nearest(stato_.ColoreSfondo), Nearest(stato_.ColoreSimbolo));
+    aspetto.TestaQuadra = stato_.ModoInput != Tastiera;
+    return aspetto;
 }
 
 void TavolaTrm::GeneraTramelo() {
@@ -73,7 +79,7 @@ void TavolaTrm::InserisciPartenza() {
 }
 
 void TavolaTrm::InserisciArrivo() {
-    const auto& archivio = static_cast<FormArchivio&>(Forms().Load("FormArchivio"));
+    const FormArchivio& archivio = Archivio();
     const int i = IndiceImmagineArrivo(casuale_, archivio.Image2.Count());
     const double lato = LatoArrivoImmagine(MisureDi(geometria_, spessori_));
     const Posizione posto = giocatore_.Percorso().PosizioneArrivo;

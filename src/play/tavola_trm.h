@@ -16,11 +16,16 @@
 
 namespace trameli {
 
+class FormArchivio;
+
 /// Makes mazes for the level and shows them, with start, finish, player and trace, on
 /// `pictureTramelo`. Knows nothing of keys, counters and menus.
 class TavolaTrm : public FinestraTrm {
 protected:
     TavolaTrm(trameli::Forms& forms, Servizi& servizi, Casuale& casuale, const DisegnoTrm& disegno);
+
+    /// The store of pictures, which no window shows.
+    FormArchivio& Archivio() const;
 
     /// Rows and columns of the form's mazes.
     virtual DimensioniGriglia Griglia() const = 0;

@@ -42,7 +42,7 @@ constexpr std::array<Riga, 16> Formato{{
     {&Impostazioni::SuoniAttivi},
     {&Impostazioni::SuonoMovimento},
     {&Impostazioni::PuntatoreSistema},
-    {&Impostazioni::ModoInput, 0, 2},
+    {&Impostazioni::ModoInput, Tastiera, ScansioneAutomatica},
     {&Impostazioni::VelocitaScansione, 2, 60},
 }};
 

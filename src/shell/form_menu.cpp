@@ -214,7 +214,7 @@ void FormMenu::Timer1_Timer() {
     preparato_ = true;
 
     const Stato& stato = servizi_.Stato;
-    if (stato.ModoInput != 0) {
+    if (stato.ModoInput != Tastiera) {
         EscludiLivelliATempo();
     }
     // An option that is chosen already fires no event, but the grid's size must be right anyway.
@@ -300,7 +300,7 @@ void FormMenu::EvidenziaLivello() {
 
 void FormMenu::AvviaGioco() {
     // Whoever is faster than the timer finds nothing prepared.
-    if (!preparato_ && servizi_.Stato.ModoInput != 0) {
+    if (!preparato_ && servizi_.Stato.ModoInput != Tastiera) {
         EscludiLivelliATempo();
     }
     ImpostaGriglia(servizi_.Stato);

@@ -5,6 +5,12 @@
 
 namespace trameli {
 
+/// How the player moves; the values of `ModoInput`.
+enum ModiInput : std::int16_t { Tastiera = 0, ScansioneManuale = 1, ScansioneAutomatica = 2 };
+
+/// The unit of `VelocitaScansione`, in milliseconds.
+inline constexpr int QuartoDiSecondo = 250;
+
 /// The sixteen persisted settings, in the order of the user file. Colours are whole numbers
 /// red + 256 x green + 65536 x blue. The values given here are the defaults.
 struct Impostazioni {
@@ -22,7 +28,7 @@ struct Impostazioni {
     bool SuoniAttivi = true;             ///< sounds on
     bool SuonoMovimento = false;         ///< a sound at every move
     bool PuntatoreSistema = false;       ///< the system's pointer instead of the program's own
-    std::int16_t ModoInput = 0;          ///< 0 arrow keys, 1 manual scanning, 2 automatic scanning
+    std::int16_t ModoInput = Tastiera;   ///< arrow keys, manual or automatic scanning
     std::int16_t VelocitaScansione = 4;  ///< a scanning step in quarters of a second, 2 to 60
 
     bool operator==(const Impostazioni&) const = default;

@@ -1,6 +1,7 @@
 // Which keys reach a form, its controls and its buttons.
 #include <QApplication>
 #include <QKeyEvent>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
@@ -10,6 +11,7 @@
 #include "platform/frame.h"
 #include "platform/keys.h"
 #include "platform/qt/desktop_services.h"
+#include "platform/qt/form_window.h"
 #include "platform/scripted_form.h"
 
 namespace trameli {
@@ -202,6 +204,36 @@ TEST_F(KeysTest, ThatChooseAMenuEntryAreTheMenus) {
         Release(form, key);
         EXPECT_EQ(Seen, Log{"A Other_Click"}) << "key " << key;
     }
+}
+
+TEST_F(KeysTest, ThatWalkTheMenuBarAreTheBars) {
+    ScriptedForm& form = Bring("A");
+    form.Board.SetFocus();
+    Tap(form, Qt::Key_Alt);
+    auto* const bar = dynamic_cast<FormWindow&>(WindowOf(form)).menuBar();
+    ASSERT_TRUE(bar->hasFocus());
+    Seen.clear();
+    Tap(form, Qt::Key_Right);
+    Tap(form, Qt::Key_Left);
+    Tap(form, Qt::Key_Escape);
+    EXPECT_EQ(Seen, Log{});
+    EXPECT_FALSE(bar->hasFocus());
+    Tap(form, Qt::Key_Left);
+    EXPECT_EQ(Seen, Log{"A KeyUp 37"});
+}
+
+TEST_F(KeysTest, OfTheMenuBarGoToAControlThatTheFormFetchesThemFor) {
+    ScriptedForm& form = Bring("A");
+    form.First.SetFocus();
+    Tap(form, Qt::Key_Alt);
+    ASSERT_TRUE(dynamic_cast<FormWindow&>(WindowOf(form)).menuBar()->hasFocus());
+    Seen.clear();
+    Scripts["A"].KeyDown = [](ScriptedForm& self, int) {
+        self.First.SetFocus();
+        return false;
+    };
+    Tap(form, Qt::Key_Space);
+    EXPECT_EQ(Seen, (Log{"A KeyUp 32", "A First_KeyUp 32", "A First_Click"}));
 }
 
 TEST_F(KeysTest, ThatOpenedTheMenuAreTheMenusToo) {

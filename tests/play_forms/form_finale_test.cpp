@@ -211,17 +211,6 @@ TEST_F(FormFinaleTest, OffersNothingAfterTheLastLevel) {
     EXPECT_EQ(Stato.Livello, 15);
 }
 
-TEST_F(FormFinaleTest, StaysWhereAGameHasNoWindow) {
-    Avvia(1024, 768, false);
-    FormFinale& form = Mostra();
-    Stato.TrameloDisegnato = true;
-    ClickOn(form.Command1);
-    ClickOn(form.Command2);
-    EXPECT_TRUE(Aperto("FormFinale"));
-    EXPECT_EQ(Stato.Livello, 3);
-    EXPECT_TRUE(Stato.TrameloDisegnato);
-}
-
 // Keyboard and switches.
 
 TEST_F(FormFinaleTest, WithTheKeyboardNothingMovesByItself) {

@@ -10,6 +10,7 @@
 #include "platform/forms.h"
 #include "platform/qt/control_events.h"
 #include "platform/qt/convert.h"
+#include "platform/qt/form_window.h"
 #include "platform/qt/graphics.h"
 #include "platform/qt/native.h"
 
@@ -18,10 +19,13 @@ namespace trameli {
 namespace {
 
 /// Whether a menu or a dropped list has the keyboard. A message box needs no such care: it is a
-/// window of its own, and focus given in another one waits there.
-bool KeyboardTaken() {
+/// window of its own, and focus given in another one waits there. A menu bar without an open menu
+/// gives way to a form that answers a key: whoever came to the bar by chance may have no key that
+/// leads out again.
+bool KeyboardTaken(Form& form) {
     return QApplication::activePopupWidget() ||
-           qobject_cast<QMenuBar*>(QApplication::focusWidget());
+           (qobject_cast<QMenuBar*>(QApplication::focusWidget()) &&
+            !form.NativePart().Window.AnswersPress());
 }
 
 /// A colour two thirds of the way to grey.
@@ -134,7 +138,7 @@ void VisualControl::TabIndex(int index) {
 
 void VisualControl::SetFocus() {
     QWidget* widget = native_->Widget;
-    if (KeyboardTaken()) {
+    if (KeyboardTaken(OwnerForm())) {
         return;
     }
     if (widget->isVisible() && widget->isEnabled() && widget->focusPolicy() != Qt::NoFocus) {

@@ -189,10 +189,10 @@ bool FormWindow::FilterKey(QKeyEvent& event) {
 
 /// The form is asked once; what it says holds for the presses that auto-repeat makes up as well.
 bool FormWindow::FilterPress(QKeyEvent& event) {
-    keys_.Press(event);
     if (!event.isAutoRepeat()) {
         const int keyCode = KeyCodeOf(event);
         const int shift = ShiftBitsOf(event);
+        answersPress_ = true;
         form_.Forms().Dispatch(form_, [&] {
             if (Form::Native::KeyPressed(form_, keyCode, shift)) {
                 kept_.insert(event.key());
@@ -200,7 +200,14 @@ bool FormWindow::FilterPress(QKeyEvent& event) {
                 kept_.remove(event.key());
             }
         });
+        answersPress_ = false;
     }
+    // Unless the form has just fetched it, the keyboard is the menu bar's: its arrows walk the bar.
+    if (qobject_cast<QMenuBar*>(QApplication::focusWidget()) && !kept_.contains(event.key())) {
+        keys_.Forget();
+        return false;
+    }
+    keys_.Press(event);
     return kept_.contains(event.key()) || !form_.Loaded();
 }
 

@@ -37,6 +37,8 @@ public:
     void Present();
     /// Notes which control has the keyboard; true if it is another one than before.
     bool FocusMovedTo(const Control& control);
+    /// True while the form is told of a key's press.
+    bool AnswersPress() const { return answersPress_; }
     /// Takes the window from the screen for good.
     void Dismiss();
 
@@ -56,6 +58,7 @@ private:
     Form& form_;
     ClientArea& client_;
     KeyGate keys_;
+    bool answersPress_ = false;
     QSet<int> kept_;           // keys held down that the form keeps from its controls
     bool menuHasKey_ = false;  // the press under way found a menu or a list open
     const Control* focused_ = nullptr;
