@@ -21,10 +21,13 @@ namespace {
 constexpr std::string_view UserDrive = "C:\\";
 constexpr std::size_t DriveLength = UserDrive.size();
 
+/// Longest name that a file can have on the disk, in bytes.
+constexpr std::size_t LongestName = 255;
+
 /// Longest path on the disk that is tried; longer ones are refused by the system anyway.
 constexpr std::size_t LongestPath = 4000;
 
-bool IsUtf8(const std::string& text) {
+bool IsUtf8(std::string_view text) {
     QStringDecoder decoder(QStringDecoder::Utf8);
     [[maybe_unused]] const QString decoded =
         decoder.decode(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
@@ -38,7 +41,7 @@ QString Folded(const std::string& name) {
 /// A part of a path that stays inside its folder on every file system.
 bool IsName(std::string_view part) {
     return !part.empty() && part != "." && part != ".." &&
-           part.find_first_of(std::string_view("/\0", 2)) == std::string_view::npos;
+           part.find_first_of(std::string_view("/\0", 2)) == std::string_view::npos && IsUtf8(part);
 }
 
 bool IsOnUserDrive(std::string_view path) {
@@ -118,6 +121,14 @@ private:
     int handle_;
 };
 
+/// The name under which a file is written before it takes its place.
+fs::path Beside(const fs::path& place) {
+    constexpr std::string_view ending = ".new";
+    const std::string name = "." + place.filename().string();
+    return place.parent_path() /
+           (name.substr(0, LongestName - ending.size()) + std::string(ending));
+}
+
 bool WriteAll(int handle, std::string_view bytes) {
     while (!bytes.empty()) {
         const ssize_t written = write(handle, bytes.data(), bytes.size());
@@ -186,10 +197,11 @@ std::optional<std::string> LocalFileSystem::Read(const std::string& path, std::s
     if (!file.IsOpen() || fstat(file.Handle(), &state) != 0 || !S_ISREG(state.st_mode)) {
         return std::nullopt;
     }
-    std::string bytes(limit, '\0');
+    const std::size_t wanted = std::min(limit, static_cast<std::size_t>(state.st_size));
+    std::string bytes(wanted, '\0');
     std::size_t length = 0;
-    while (length < limit) {
-        const ssize_t count = read(file.Handle(), bytes.data() + length, limit - length);
+    while (length < wanted) {
+        const ssize_t count = read(file.Handle(), bytes.data() + length, wanted - length);
         if (count < 0 && errno == EINTR) {
             continue;
         }
@@ -226,11 +238,10 @@ bool LocalFileSystem::Replace(const std::string& path, const std::string& bytes)
             return false;
         }
     }
-    // Always the same name beside the file: what a crash left there is written over.
-    fs::path beside = place->parent_path() / ".";
-    beside += place->filename();
-    beside += ".new";
-    OpenFile file(beside, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
+    const fs::path beside = Beside(*place);
+    // Always the same name, so that what a crash left there goes, whatever it is.
+    unlink(beside.c_str());
+    OpenFile file(beside, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC);
     const bool written = file.IsOpen() && WriteAll(file.Handle(), bytes) &&
                          fsync(file.Handle()) == 0 && file.Close() &&
                          rename(beside.c_str(), place->c_str()) == 0;

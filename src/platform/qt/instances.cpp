@@ -21,8 +21,13 @@ bool FolderLock::AnotherRuns() {
     std::error_code error;
     std::filesystem::create_directories(folder_, error);
     handle_ = open(folder_.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle_ >= 0 && flock(handle_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
+        close(handle_);
+        handle_ = -1;
+        return true;
+    }
     // Without a folder, or on a file system without locks, two copies are better than none.
-    return handle_ >= 0 && flock(handle_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    return false;
 }
 
 }  // namespace trameli

@@ -1,0 +1,176 @@
+// Replacing a file: whole or not at all, whatever happens in between.
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <chrono>
+#include <thread>
+
+#include "platform/in_child.h"
+#include "platform/qt/local_file_system.h"
+#include "support/stage.h"
+
+namespace fs = std::filesystem;
+
+namespace trameli {
+namespace {
+
+class ReplaceTest : public testing::Test {
+protected:
+    long EntriesLeft() const { return std::distance(fs::directory_iterator(Root), {}); }
+
+    TemporaryFolder Folder;
+    fs::path Root = Folder.Path();
+    LocalFileSystem Files{Root};
+};
+
+TEST_F(ReplaceTest, WritesTheBytesAsTheyAre) {
+    for (const std::string& bytes :
+         {std::string("a\r\nb\n\0c\xFF", 8), std::string(), std::string(1 << 20, 'x')}) {
+        EXPECT_TRUE(Files.Replace("C:\\file.ini", bytes));
+        EXPECT_EQ(BytesOf(Root / "file.ini"), bytes);
+        EXPECT_EQ(EntriesLeft(), 1);
+    }
+}
+
+TEST_F(ReplaceTest, KeepsTheNameAsItStands) {
+    Write(Root / "Maria.INI", "old");
+    EXPECT_TRUE(Files.Replace("C:\\maria.ini", "new"));
+    EXPECT_EQ(BytesOf(Root / "Maria.INI"), "new");
+    EXPECT_EQ(EntriesLeft(), 1);
+}
+
+TEST_F(ReplaceTest, ReplacesWhatALinkPointsTo) {
+    fs::create_directory(Root / "elsewhere");
+    Write(Root / "elsewhere" / "real.ini", "old");
+    fs::create_symlink("elsewhere/real.ini", Root / "link.ini");
+    EXPECT_TRUE(Files.Replace("C:\\link.ini", "new"));
+    EXPECT_TRUE(fs::is_symlink(Root / "link.ini"));
+    EXPECT_EQ(BytesOf(Root / "elsewhere" / "real.ini"), "new");
+    EXPECT_EQ(std::distance(fs::directory_iterator(Root / "elsewhere"), {}), 1);
+}
+
+TEST_F(ReplaceTest, RefusesWhatIsNoFile) {
+    fs::create_directory(Root / "folder.ini");
+    EXPECT_FALSE(Files.Replace("C:\\folder.ini", "new"));
+    EXPECT_FALSE(Files.Replace("C:\\none\\file.ini", "new"));
+    EXPECT_FALSE(Files.Replace("C:\\", "new"));
+    EXPECT_TRUE(fs::is_directory(Root / "folder.ini"));
+    EXPECT_EQ(EntriesLeft(), 1);
+}
+
+TEST_F(ReplaceTest, WritesOverWhatACrashLeft) {
+    struct Leftover {
+        const char* What;
+        void (*Make)(const fs::path&);
+    };
+    const Leftover leftovers[] = {
+        {"half a file", [](const fs::path& path) { Write(path, std::string(5000, 'x')); }},
+        {"read-only",
+         [](const fs::path& path) {
+             Write(path, "half");
+             fs::permissions(path, fs::perms::owner_read);
+         }},
+        {"link", [](const fs::path& path) { fs::create_symlink("victim", path); }},
+        {"second name of a file",
+         [](const fs::path& path) { fs::create_hard_link(path.parent_path() / "victim", path); }},
+        {"pipe", [](const fs::path& path) { mkfifo(path.c_str(), 0600); }},
+    };
+    for (const Leftover& leftover : leftovers) {
+        SCOPED_TRACE(leftover.What);
+        Write(Root / "victim", "precious");
+        Write(Root / "file.ini", "old");
+        fs::permissions(Root / "file.ini", fs::perms::all);
+        leftover.Make(Root / ".file.ini.new");
+        fs::permissions(Root, fs::perms::all);
+        EXPECT_EQ(RunInChild([&] {
+                      return BecomeNobody() && Files.Replace("C:\\file.ini", "new") ? 0 : 1;
+                  }),
+                  0);
+        EXPECT_EQ(BytesOf(Root / "file.ini"), "new");
+        EXPECT_EQ(BytesOf(Root / "victim"), "precious");
+        EXPECT_EQ(EntriesLeft(), 2);
+        fs::remove(Root / "file.ini");
+    }
+}
+
+TEST_F(ReplaceTest, KeepsTheOldFileWhereNothingMayBeWritten) {
+    Write(Root / "file.ini", "old");
+    const auto replaceAsNobody = [&] {
+        return RunInChild([&] {
+            return !BecomeNobody() ? 2 : Files.Replace("C:\\file.ini", "new") ? 1 : 0;
+        });
+    };
+    // A folder that is read-only.
+    fs::permissions(Root / "file.ini", fs::perms::all);
+    fs::permissions(Root, fs::perms(0555));
+    EXPECT_EQ(replaceAsNobody(), 0);
+    EXPECT_EQ(BytesOf(Root / "file.ini"), "old");
+    // A file that somebody made read-only.
+    fs::permissions(Root, fs::perms::all);
+    fs::permissions(Root / "file.ini", fs::perms(0444));
+    EXPECT_EQ(replaceAsNobody(), 0);
+    EXPECT_EQ(BytesOf(Root / "file.ini"), "old");
+    EXPECT_EQ(EntriesLeft(), 1);
+}
+
+TEST_F(ReplaceTest, KeepsTheOldFileWhenTheDiskIsFull) {
+    Write(Root / "file.ini", "old");
+    EXPECT_EQ(RunInChild([&] {
+                  // As on a full disk, writing stops in the middle.
+                  signal(SIGXFSZ, SIG_IGN);
+                  const rlimit limit{1000, 1000};
+                  setrlimit(RLIMIT_FSIZE, &limit);
+                  return Files.Replace("C:\\file.ini", std::string(5000, 'n')) ? 1 : 0;
+              }),
+              0);
+    EXPECT_EQ(BytesOf(Root / "file.ini"), "old");
+    EXPECT_EQ(EntriesLeft(), 1) << "and nothing else";
+}
+
+TEST_F(ReplaceTest, IsWholeWhenTheProgramIsKilledInTheMiddle) {
+    // Each version has its own length and bytes, so a mixture or a part of one shows.
+    const auto version = [](int i) {
+        return std::string(static_cast<std::size_t>(20000 + i % 26),
+                           static_cast<char>('a' + i % 26));
+    };
+    Write(Root / "file.ini", version(0));
+    for (int round = 0; round < 20; ++round) {
+        int ready[2];
+        ASSERT_EQ(pipe(ready), 0);
+        const pid_t child = StartChild([&] {
+            for (int i = 0;; ++i) {
+                if (!Files.Replace("C:\\file.ini", version(i))) {
+                    return 1;
+                }
+                if (write(ready[1], "x", 1) != 1) {
+                    return 2;
+                }
+            }
+        });
+        close(ready[1]);
+        // Killed somewhere in the replacement after a few whole ones, each round a bit later.
+        char byte = 0;
+        for (int i = 0; i < 1 + round % 4; ++i) {
+            ASSERT_EQ(read(ready[0], &byte, 1), 1);
+        }
+        for (int i = 0; i < round * 20; ++i) {
+            std::this_thread::yield();
+        }
+        kill(child, SIGKILL);
+        EXPECT_EQ(ExitOf(child), -1);
+        close(ready[0]);
+
+        const std::string bytes = BytesOf(Root / "file.ini");
+        ASSERT_FALSE(bytes.empty());
+        EXPECT_EQ(bytes, version(bytes.front() - 'a'));
+        EXPECT_LE(EntriesLeft(), 2);
+        EXPECT_TRUE(Files.Replace("C:\\file.ini", version(round)));
+        EXPECT_EQ(EntriesLeft(), 1);
+    }
+}
+
+}  // namespace
+}  // namespace trameli
