@@ -18,6 +18,9 @@ public:
     /// A transparent label lets what lies under it show between its letters.
     void Transparent(bool transparent);
 
+    /// Gives the letters a rim of this colour, so that they can be read on any ground.
+    void Rim(Colour colour);
+
     std::function<void()> Click;
 
 private:

@@ -28,6 +28,11 @@ double Margine(double spazio, double pixel) {
     return std::max(0, Floor(spazio / 2 / pixel)) * pixel;
 }
 
+/// Whether a dark rim sets the colour off better than a light one.
+bool Chiaro(Colour colore) {
+    return 3 * RedOf(colore) + 6 * GreenOf(colore) + BlueOf(colore) > 5 * 255;
+}
+
 /// Whether the key presses the button that has the focus.
 bool Preme(int keyCode) {
     return keyCode == KeySpace || keyCode == KeyEnter;
@@ -81,8 +86,11 @@ void FormFinale::Form_Load() {
                    lingue.TestoLingua("0015") + "\r\n" + lingue.TestoLingua("0016"));
     BackColor(Sfondo);
     SchemaColori = casuale_.FinoA(NumeroSchemi);
-    Label1.ForeColor(ColoreScritte(SchemaColori));
-    Label2.ForeColor(ColoreScritte(SchemaColori));
+    for (Label* scritta : {&Label1, &Label2}) {
+        scritta->ForeColor(ColoreScritte(SchemaColori));
+        // Some of the colours hardly differ in brightness from the ground they stand on.
+        scritta->Rim(Chiaro(ColoreScritte(SchemaColori)) ? Black : White);
+    }
     DisegnaSfondo();
 }
 

@@ -2,6 +2,8 @@
 
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPainter>
+#include <algorithm>
 
 #include "platform/qt/convert.h"
 #include "platform/qt/native.h"
@@ -20,8 +22,24 @@ public:
     }
 
     Label* Owner = nullptr;
+    QColor Rim;  // not valid for letters without one
 
 protected:
+    /// The rim is the text itself, moved a little all round, under the letters.
+    void paintEvent(QPaintEvent* event) override {
+        if (Rim.isValid()) {
+            QPainter painter(this);
+            painter.setPen(Rim);
+            const int width = std::max(1, fontMetrics().height() / 14);
+            for (int dy = -width; dy <= width; ++dy) {
+                for (int dx = -width; dx <= width; ++dx) {
+                    painter.drawText(contentsRect().translated(dx, dy),
+                                     static_cast<int>(alignment()) | Qt::TextWordWrap, text());
+                }
+            }
+        }
+        QLabel::paintEvent(event);
+    }
     void mousePressEvent(QMouseEvent*) override {}
     void mouseReleaseEvent(QMouseEvent* event) override {
         if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
@@ -52,6 +70,11 @@ void Label::TextAlignment(Alignment alignment) {
 
 void Label::Transparent(bool transparent) {
     WidgetOf<LabelWidget>(*this).setAutoFillBackground(!transparent);
+}
+
+void Label::Rim(Colour colour) {
+    WidgetOf<LabelWidget>(*this).Rim = ToQt(colour);
+    WidgetOf<LabelWidget>(*this).update();
 }
 
 }  // namespace trameli
