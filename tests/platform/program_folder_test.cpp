@@ -48,9 +48,12 @@ TEST_F(ProgramFolderTest, CannotBeLeft) {
 }
 
 TEST_F(ProgramFolderTest, NamesNothingIfThereIsNone) {
-    const LocalFileSystem files(Folder.Path());
+    const fs::path before = fs::current_path();
+    fs::current_path(Folder.Path());  // where a path without a beginning would lead
+    const LocalFileSystem files(Folder.Path() / "data");
     EXPECT_FALSE(files.FolderExists("P:\\"));
     EXPECT_EQ(files.Read("P:\\share\\trameli\\suoni\\boing.wav", 100), std::nullopt);
+    fs::current_path(before);
 }
 
 TEST_F(ProgramFolderTest, LiesBesideAnInstalledProgram) {

@@ -116,5 +116,14 @@ TEST_F(RecordedMusic, WithoutInstrumentsThereAreWavesAndNoMusic) {
     }
 }
 
+TEST_F(RecordedMusic, TheFirstInstrumentsThatThereAreAreTaken) {
+    Put("a.mid", Tune(100, 1));
+    MixerOptions options;
+    options.SoundFonts.insert(options.SoundFonts.begin(), PathOf("missing.sf2"));
+    Play(options);
+    StartMusic("P:\\a.mid");
+    EXPECT_TRUE(Soon([&] { return Contains("A"); }));
+}
+
 }  // namespace
 }  // namespace trameli

@@ -48,6 +48,10 @@ Mixer::Mixer(LocalFileSystem files, MixerOptions options)
 
 Mixer::~Mixer() {
     Close();
+    waves_.clear();
+    if (sdl_.SDL_TLSCleanup) {
+        sdl_.SDL_TLSCleanup();  // last of all; the library does it only for its own threads
+    }
 }
 
 bool Mixer::Open() {

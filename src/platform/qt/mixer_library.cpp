@@ -63,6 +63,7 @@ bool MixerLibrary::Load() {
     sdl.Find("SDL_QuitSubSystem", SDL_QuitSubSystem);
     sdl.Find("SDL_GetAudioDeviceStatus", SDL_GetAudioDeviceStatus);
     sdl.Find("SDL_RWFromConstMem", SDL_RWFromConstMem);
+    sdl.Find("SDL_TLSCleanup", SDL_TLSCleanup);
     Library mixer("libSDL2_mixer-2.0.so.0");
     mixer.Find("Mix_OpenAudioDevice", Mix_OpenAudioDevice);
     mixer.Find("Mix_CloseAudio", Mix_CloseAudio);

@@ -19,6 +19,7 @@ struct MixerLibrary {
     decltype(&::SDL_QuitSubSystem) SDL_QuitSubSystem = nullptr;
     decltype(&::SDL_GetAudioDeviceStatus) SDL_GetAudioDeviceStatus = nullptr;
     decltype(&::SDL_RWFromConstMem) SDL_RWFromConstMem = nullptr;
+    decltype(&::SDL_TLSCleanup) SDL_TLSCleanup = nullptr;
 
     decltype(&::Mix_OpenAudioDevice) Mix_OpenAudioDevice = nullptr;
     decltype(&::Mix_CloseAudio) Mix_CloseAudio = nullptr;
