@@ -72,7 +72,7 @@ bool Mixer::Open() {
     return open_;
 }
 
-bool Mixer::OpenDevice() {
+bool Mixer::OpenDevice() const {
     // Ctrl-C ends the program as if there were no sounds.
     sdl_.SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
     sdl_.SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Trameli");

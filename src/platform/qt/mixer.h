@@ -45,7 +45,7 @@ private:
     };
 
     bool Open();
-    bool OpenDevice();
+    bool OpenDevice() const;
     void Close();
     bool HasLostDevice() const;
     std::filesystem::path SoundFont() const;
