@@ -219,6 +219,7 @@ TEST_F(Utenti, ExitEndsAtOnce) {
     Form& menu = partita_.ApriMenu(false);  // the timer is still to come
     ClickOn(Trova<CommandButton>(menu, "Command1", 1));
     EXPECT_TRUE(partita_.Gioco.Forms().Ended());
+    ASSERT_EQ(partita_.Gioco.Forms().Find("FormMenu"), &menu);  // not even unloaded
     const Nomi dopo = disco_.Tutti();
     Write(disco_.FileDi("_predefinito"), "touched");
     partita_.Tempo.Advance(10);
@@ -254,6 +255,24 @@ TEST_F(Utenti, FolderThatCannotBeWrittenIsToldOncePerRun) {
     EXPECT_EQ(partita_.Messaggi.Messages.size(), 1U);
     EXPECT_EQ(stato_.SpessoreLinee, 2);  // the record lives on in memory
     EXPECT_EQ(BytesOf(disco_.Impostazioni()), "a file in the folder's place");
+}
+
+TEST_F(Utenti, FolderInTheFilesPlaceKeepsTheSettingsInMemory) {
+    Form& gioco = partita_.ApriLivello(9);
+    fs::remove(disco_.FileDi("_predefinito"));
+    fs::create_directory(disco_.FileDi("_predefinito"));
+    for (const int spessore : {2, 3}) {
+        Form& form = spessore == 2 ? gioco : partita_.ApriLivello(9);
+        Tap(form, Qt::Key_L, Qt::ControlModifier);
+        Partita::Scegli(form, "mnuEsci");
+        // It is listed, and so chosen: what cannot be saved is not read back either.
+        partita_.Tempo.Advance(0.3);
+        EXPECT_EQ(Elenco(), Nomi{"[_predefinito]"});
+        EXPECT_EQ(stato_.SpessoreLinee, spessore);
+        EXPECT_EQ(stato_.Livello, 9);
+        EXPECT_EQ(partita_.Messaggi.Messages.size(), 1U);
+    }
+    EXPECT_TRUE(fs::is_empty(disco_.FileDi("_predefinito")));
 }
 
 }  // namespace
