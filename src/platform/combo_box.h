@@ -17,7 +17,8 @@ public:
     void AddItem(const std::string& text);
     void Clear();
 
-    /// The chosen entry, -1 for none. Choosing by code fires `Click` if it changes the choice.
+    /// The chosen entry, -1 for none. Choosing by code fires `Click` if it changes the choice; an
+    /// entry that does not exist cannot be chosen.
     int ListIndex() const;
     void ListIndex(int index);
     /// Text of the chosen entry, empty if none is chosen.

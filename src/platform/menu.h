@@ -13,7 +13,8 @@ public:
     MenuItem(Form& form, ControlName name, std::string caption);
     /// An entry of a menu; `letter` is its shortcut together with Ctrl, 0 for none.
     MenuItem(MenuItem& parent, ControlName name, std::string caption, char letter = 0);
-    /// A further element of a control array at run time: beside `model`, but invisible.
+    /// A further element of a control array at run time: behind those of a smaller index, but
+    /// invisible.
     MenuItem(MenuItem& model, int index);
     ~MenuItem() override;
 
@@ -34,6 +35,8 @@ public:
     Native& NativePart() const { return *native_; }
 
 private:
+    void Listen();
+
     std::string caption_;
     bool enabled_ = true;
     bool visible_ = true;

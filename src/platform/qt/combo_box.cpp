@@ -48,10 +48,11 @@ int ComboBox::ListIndex() const {
 
 void ComboBox::ListIndex(int index) {
     auto& widget = WidgetOf<QComboBox>(*this);
-    if (index != widget.currentIndex()) {
-        widget.setCurrentIndex(index);
-        Fire(*this, Click);
+    if (index < -1 || index >= widget.count() || index == widget.currentIndex()) {
+        return;
     }
+    widget.setCurrentIndex(index);
+    Fire(*this, Click);
 }
 
 }  // namespace trameli

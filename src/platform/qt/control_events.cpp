@@ -12,6 +12,7 @@ namespace trameli {
 ControlEvents::ControlEvents(VisualControl& control, QWidget* widget)
     : QObject(widget), control_(control) {
     widget->setMouseTracking(true);
+    widget->setAttribute(Qt::WA_NoMousePropagation);
     widget->installEventFilter(this);
 }
 
@@ -19,12 +20,19 @@ bool ControlEvents::eventFilter(QObject* object, QEvent* event) {
     switch (event->type()) {
         case QEvent::MouseMove:
             if (!static_cast<QWidget*>(object)->isEnabled()) {
-                return false;  // it is as if the pointer were over what lies below
+                // It is as if the pointer were over what lies below; buttons would keep the move.
+                event->ignore();
+                return true;
             }
             Fire(control_, control_.MouseMove);
-            // A move that the widget has no use for would go on to its parent, and that one would
-            // report a pointer that is not over it.
-            return static_cast<QMouseEvent*>(event)->buttons() == Qt::NoButton;
+            return false;
+        case QEvent::EnabledChange: {
+            // A move that an enabled widget has no use for must not go on to its parent: that one
+            // would report a pointer that is not over it.
+            auto* const widget = static_cast<QWidget*>(object);
+            widget->setAttribute(Qt::WA_NoMousePropagation, widget->isEnabled());
+            return false;
+        }
         case QEvent::FocusIn:
             // The same control again means that only the window was away.
             if (control_.OwnerForm().NativePart().Window.FocusMovedTo(control_)) {

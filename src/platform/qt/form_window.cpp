@@ -76,7 +76,7 @@ void FormWindow::Present() {
         activateWindow();
         return;
     }
-    OrderTabs();
+    FocusFirst();
     const Screen& screen = form_.Forms().Screen();
     const PixelSize size = screen.Available();
     // The size comes first and the wish to be maximised after it, so that the window fills the
@@ -253,7 +253,14 @@ void FormWindow::Activate() {
     form_.Forms().Dispatch(form_, [this] { Form::Native::Activate(form_); });
 }
 
-void FormWindow::OrderTabs() {
+bool FormWindow::focusNextPrevChild(bool next) {
+    // Controls come, go and change their place in the order while the form is shown.
+    OrderTabs();
+    return QMainWindow::focusNextPrevChild(next);
+}
+
+/// Tells the toolkit of the order of the Tab key, and returns it.
+std::vector<const VisualControl*> FormWindow::OrderTabs() {
     std::vector<const VisualControl*> controls;
     for (const Control* control : form_.Controls()) {
         if (const auto* visual = dynamic_cast<const VisualControl*>(control)) {
@@ -265,7 +272,11 @@ void FormWindow::OrderTabs() {
     for (std::size_t i = 1; i < controls.size(); ++i) {
         setTabOrder(controls[i - 1]->NativePart().Widget, controls[i]->NativePart().Widget);
     }
-    for (const VisualControl* control : controls) {
+    return controls;
+}
+
+void FormWindow::FocusFirst() {
+    for (const VisualControl* control : OrderTabs()) {
         QWidget* widget = control->NativePart().Widget;
         if (widget->focusPolicy() != Qt::NoFocus && control->Visible() && control->Enabled()) {
             widget->setFocus();

@@ -46,6 +46,7 @@ protected:
     bool event(QEvent* event) override;
     bool eventFilter(QObject* object, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
     bool FilterKey(QKeyEvent& event);
@@ -53,7 +54,8 @@ private:
     void Settle();
     bool HasFinalSize() const;
     void Activate();
-    void OrderTabs();
+    std::vector<const VisualControl*> OrderTabs();
+    void FocusFirst();
 
     Form& form_;
     ClientArea& client_;

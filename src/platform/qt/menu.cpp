@@ -19,8 +19,11 @@ const trameli::Font MenuFont{"Arial", 9, false};
 
 /// The window owns menus and actions; the entry's own goes with the entry.
 struct MenuItem::Native {
-    explicit Native(QWidget* where) : Where(where), Action(new QAction(where)) {
-        Where->addAction(Action);
+    /// Behind the entry `previous`, or at the end.
+    explicit Native(QWidget* where, QAction* previous = nullptr)
+        : Where(where), Action(new QAction(where)) {
+        const qsizetype place = Where->actions().indexOf(previous);
+        Where->insertAction(place < 0 ? nullptr : Where->actions().value(place + 1), Action);
     }
     ~Native() { delete Action.data(); }
     Native(const Native&) = delete;
@@ -49,11 +52,24 @@ QMenuBar* BarOf(Form& form) {
     return bar;
 }
 
+/// The entry of the model's array that comes before the element `index`.
+const MenuItem& PreviousOf(const MenuItem& model, int index) {
+    const MenuItem* previous = &model;
+    for (const Control* control : model.OwnerForm().Controls()) {
+        const auto* const entry = dynamic_cast<const MenuItem*>(control);
+        if (entry && entry->Name() == model.Name() && entry->Index() < index &&
+            entry->Index() > previous->Index()) {
+            previous = entry;
+        }
+    }
+    return *previous;
+}
+
 }  // namespace
 
 MenuItem::MenuItem(Form& form, ControlName name, std::string caption)
     : Control(form, std::move(name)), native_(std::make_unique<Native>(BarOf(form))) {
-    QObject::connect(native_->Action, &QAction::triggered, [this] { Fire(*this, Click); });
+    Listen();
     Caption(caption);
 }
 
@@ -65,19 +81,28 @@ MenuItem::MenuItem(MenuItem& parent, ControlName name, std::string caption, char
         native_->Action->setAutoRepeat(false);
         native_->Action->setShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(letter)));
     }
-    QObject::connect(native_->Action, &QAction::triggered, [this] { Fire(*this, Click); });
+    Listen();
     Caption(caption);
 }
 
 MenuItem::MenuItem(MenuItem& model, int index)
     : Control(model.OwnerForm(), {model.Name(), index}),
-      native_(std::make_unique<Native>(model.NativePart().Where)) {
-    QObject::connect(native_->Action, &QAction::triggered, [this] { Fire(*this, Click); });
+      native_(std::make_unique<Native>(model.NativePart().Where,
+                                       PreviousOf(model, index).NativePart().Action)) {
+    Listen();
     Caption(model.Caption());
     Visible(false);
 }
 
 MenuItem::~MenuItem() = default;
+
+void MenuItem::Listen() {
+    QObject::connect(native_->Action, &QAction::triggered, [this] {
+        // The toolkit has turned the mark over, but that is for the program to do.
+        Checked(checked_);
+        Fire(*this, Click);
+    });
+}
 
 void MenuItem::Caption(const std::string& caption) {
     caption_ = caption;

@@ -52,7 +52,8 @@ void Fire(const Control& control, const std::function<void(Values...)>& routine,
         return;
     }
     Form& form = control.OwnerForm();
-    form.Forms().Dispatch(form, [&] { routine(values...); });
+    // A copy, as the routine may take its own control away.
+    form.Forms().Dispatch(form, [&, copy = routine] { copy(values...); });
 }
 
 }  // namespace trameli

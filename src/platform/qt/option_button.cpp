@@ -98,7 +98,11 @@ bool OptionButton::Value() const {
 }
 
 void OptionButton::Value(bool chosen) {
-    WidgetOf<OptionWidget>(*this).setChecked(chosen);
+    auto& widget = WidgetOf<OptionWidget>(*this);
+    // Among exclusive buttons the chosen one would stay chosen.
+    widget.setAutoExclusive(chosen);
+    widget.setChecked(chosen);
+    widget.setAutoExclusive(true);
 }
 
 }  // namespace trameli

@@ -53,7 +53,11 @@ PictureBox::PictureBox(Container& container, ControlName name, const Bounds& bou
 PictureBox::PictureBox(PictureBox& model, int index)
     : PictureBox(model.container_, {model.Name(), index}, model.Place()) {
     Visible(false);
+    Enabled(model.Enabled());
     BackColor(model.BackColor());
+    DrawWidth(model.DrawWidth());
+    ToolTipText(model.ToolTipText());
+    MouseIcon(model.MouseIcon());
     Picture(model.picture_);
 }
 

@@ -1,0 +1,100 @@
+// A program of empty forms, for tests that put their own controls on them.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QWindow>
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "platform/forms.h"
+#include "support/hand_clock.h"
+#include "support/stage.h"
+
+namespace trameli {
+
+class BareForm : public Form {
+public:
+    BareForm(trameli::Forms& forms, const std::string& name) : Form(forms, name, {6000, 4500}) {}
+
+    bool Wait(double seconds) { return Attesa(seconds); }
+    int MovesOverIt = 0;
+    int Resizes = 0;
+    std::function<void()> WhenResized;
+
+protected:
+    void Form_MouseMove() override { ++MovesOverIt; }
+    void Form_Resize() override {
+        ++Resizes;
+        if (WhenResized) {
+            WhenResized();
+        }
+    }
+};
+
+/// A program with the forms A and B on a screen of 800 x 600 pixels. A is loaded, not shown.
+class BareProgram : public testing::Test {
+protected:
+    BareForm& Get(const std::string& name) { return dynamic_cast<BareForm&>(*Program.Find(name)); }
+    void Bring(const std::string& name = "A") {
+        Program.Show(name);
+        Pump();
+    }
+    /// A routine that notes `what`.
+    std::function<void()> Noting(const std::string& what) {
+        return [this, what] { Seen.push_back(what); };
+    }
+    long Times(const std::string& what) const { return std::count(Seen.begin(), Seen.end(), what); }
+
+    HandClock Time;
+    FixedScreen Display{800, 600};
+    Forms Program{Time, Display};
+    std::vector<std::string> Seen;
+    BareForm& TheForm = Start();
+
+private:
+    BareForm& Start() {
+        for (const char* name : {"A", "B"}) {
+            Program.Register(
+                name, [name](Forms& forms) { return std::make_unique<BareForm>(forms, name); });
+        }
+        return dynamic_cast<BareForm&>(Program.Load("A"));
+    }
+};
+
+inline QRgb PixelOf(Colour colour) {
+    return qRgb(RedOf(colour), GreenOf(colour), BlueOf(colour));
+}
+
+/// How many pixels of a picture have just that colour.
+inline long Count(const QImage& image, Colour colour) {
+    long count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            count += image.pixel(x, y) == PixelOf(colour);
+        }
+    }
+    return count;
+}
+
+/// The part of a picture that colour takes.
+inline double Share(const QImage& image, Colour colour) {
+    return static_cast<double>(Count(image, colour)) /
+           static_cast<double>(std::max(1, image.width() * image.height()));
+}
+
+/// How many pixels of two pictures of one size differ.
+inline long Differences(const QImage& a, const QImage& b) {
+    EXPECT_EQ(a.size(), b.size());
+    long count = 0;
+    for (int y = 0; y < std::min(a.height(), b.height()); ++y) {
+        for (int x = 0; x < std::min(a.width(), b.width()); ++x) {
+            count += a.pixel(x, y) != b.pixel(x, y);
+        }
+    }
+    return count;
+}
+
+}  // namespace trameli
