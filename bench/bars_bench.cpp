@@ -84,7 +84,6 @@ void RebuildBars(benchmark::State& state) {
         }
         surface.render(&window);
     }
-    state.counters["barre"] = static_cast<double>(places.size());
 }
 
 /// The same pixels from one picture, with bare painter calls.

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QEventLoop>
-#include <QIcon>
 #include <QMessageBox>
 #include <QScreen>
 #include <QStyle>
@@ -119,12 +118,7 @@ Desktop::Desktop(int& argc, char** argv) {
     QApplication::setDesktopFileName(QStringLiteral("trameli"));
     services_ = std::make_unique<Services>(argc, argv);
     PrepareToolkit();
-    // The larger sizes are for menus and desktops; sent to the screen they would only cost time.
-    QIcon icon;
-    for (const int size : {16, 24, 32, 48, 64}) {
-        icon.addFile(QStringLiteral(":/icona/trameli-%1.png").arg(size), QSize(size, size));
-    }
-    QApplication::setWindowIcon(icon);
+    QApplication::setWindowIcon(WindowIcon());
 }
 
 Desktop::~Desktop() = default;

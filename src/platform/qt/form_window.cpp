@@ -90,6 +90,9 @@ void FormWindow::Present() {
     }
     winId();  // makes the window, whose keys are filtered
     windowHandle()->installEventFilter(this);
+    // Painted once, with what the activation draws: nothing flashes up before it, and the first
+    // picture is there sooner.
+    setUpdatesEnabled(false);
     show();
     Settle();
 }
@@ -228,6 +231,7 @@ void FormWindow::Settle() {
         QMetaObject::invokeMethod(
             this, [this] { Activate(); }, Qt::QueuedConnection);
     } else {
+        setUpdatesEnabled(true);  // too long for a window without a picture
         settling_.start();
     }
 }
@@ -250,6 +254,7 @@ void FormWindow::Activate() {
     }
     activated_ = true;
     settling_.stop();
+    setUpdatesEnabled(true);
     form_.Forms().Dispatch(form_, [this] { Form::Native::Activate(form_); });
 }
 

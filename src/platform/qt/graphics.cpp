@@ -5,6 +5,7 @@
 #include <QCursor>
 #include <QPainter>
 #include <QPixmapCache>
+#include <vector>
 
 #include "platform/qt/convert.h"
 
@@ -13,6 +14,16 @@ namespace trameli {
 namespace {
 
 constexpr int PointerSize = 32;  // pixels, each way
+
+/// Under 32 pixels the full maze turns to mush, so the small sizes have a drawing of their own.
+struct IconDrawing {
+    const char* Name;
+    std::vector<int> Sizes;  // pixels, each way
+};
+const IconDrawing IconDrawings[] = {
+    {"icona/trameli-small.svg", {16, 24}},
+    {"icona/trameli.svg", {32, 48, 64}},
+};
 
 QString PathOf(const Picture& picture) {
     return QStringLiteral(":/") + ToQt(picture.Name);
@@ -88,6 +99,20 @@ void SetPointer(QWidget& widget, const std::optional<PointerImage>& icon) {
     const QPixmap image =
         Rendered(renderer, QSize(PointerSize, PointerSize), widget.devicePixelRatioF());
     widget.setCursor(QCursor(image, icon->HotX, icon->HotY));
+}
+
+QIcon WindowIcon() {
+    // From the drawings and not from files of pixels: for those the toolkit first loads every
+    // plugin for pictures that it has, and the window waits. The larger sizes are for menus and
+    // desktops; sent to the screen they would only cost time.
+    QIcon icon;
+    for (const auto& [drawing, sizes] : IconDrawings) {
+        QSvgRenderer renderer(PathOf({drawing}));
+        for (const int size : sizes) {
+            icon.addPixmap(Rendered(renderer, QSize(size, size), 1));
+        }
+    }
+    return icon;
 }
 
 void DescribeGraphics() {

@@ -1,6 +1,7 @@
 // Pictures and pointers as the toolkit shows them.
 #pragma once
 
+#include <QIcon>
 #include <QImage>
 #include <QPixmap>
 #include <QSvgRenderer>
@@ -38,6 +39,9 @@ QImage AtOwnSize(const Picture& picture, double devicePixelRatio);
 
 /// Gives a widget a pointer of its own, or the system's.
 void SetPointer(QWidget& widget, const std::optional<PointerImage>& icon);
+
+/// The program's icon in the sizes that window frames and lists of windows show.
+QIcon WindowIcon();
 
 /// A widget that shows something drawn: for assistive technology it is a graphic.
 class GraphicWidget : public QWidget {
