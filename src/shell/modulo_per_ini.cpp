@@ -44,20 +44,21 @@ void ModuloPerIni::ScriviUtente() {
 }
 
 void ModuloPerIni::LeggiUtente() {
-    if (const auto trovato = nonSalvati_.find(Maiuscolo(stato_.FileUtente));
-        trovato != nonSalvati_.end()) {
-        static_cast<Impostazioni&>(stato_) = trovato->second;
-        return;
-    }
+    const std::string file = Maiuscolo(stato_.FileUtente);
     std::optional<std::string> testo;
-    illeggibili_.erase(Maiuscolo(stato_.FileUtente));
     if (EsisteFile(stato_.FileUtente)) {
         testo = fileSystem_.Read(stato_.FileUtente, LimiteLettura);
         if (!testo) {
-            illeggibili_.insert(Maiuscolo(stato_.FileUtente));
+            illeggibili_.insert(file);
+        } else if (illeggibili_.erase(file) > 0) {
+            // What its user once saved is back, and counts more than what stood in for it.
+            nonSalvati_.erase(file);
         }
     }
-    const std::optional<Impostazioni> lette = testo ? Leggi(*testo) : std::nullopt;
+    std::optional<Impostazioni> lette = testo ? Leggi(*testo) : std::nullopt;
+    if (const auto trovato = nonSalvati_.find(file); trovato != nonSalvati_.end()) {
+        lette = trovato->second;
+    }
     if (lette) {
         static_cast<Impostazioni&>(stato_) = *lette;
     } else {

@@ -117,10 +117,17 @@ TEST_F(ModuloPerIniTest, AFileThatCannotBeReadIsNotReplaced) {
     Modulo.ScriviUtente();
     EXPECT_EQ(File.Contenuto(FileDiAnna), diAnna);
     EXPECT_EQ(Finestre.Messaggi.size(), 1U);
-    // The record lives on in memory, and a file that can be read again counts again.
+    // The record lives on in memory, until the file can be read again.
     const Impostazioni alterate = Lette();
     Modulo.LeggiUtente();
     EXPECT_EQ(Lette(), alterate);
+
+    File.Illeggibili.clear();
+    Modulo.LeggiUtente();
+    EXPECT_EQ(Testo(Lette()), diAnna);
+    Altera();
+    Modulo.ScriviUtente();
+    EXPECT_EQ(File.Contenuto(FileDiAnna), Testo(Lette()));
 }
 
 TEST_F(ModuloPerIniTest, OnlyTheStartOfAFileIsRead) {
