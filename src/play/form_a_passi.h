@@ -15,7 +15,6 @@ protected:
 
     bool Form_KeyDown(int keyCode, int shift) override;
     void Form_KeyUp(int keyCode, int shift) override;
-    void mnuNuovo_Click() override;
     void Timer1_Timer();
     void PictureScansioneManuale_KeyUp(int keyCode);
     void PictureScansioneAutomatica_KeyUp(int keyCode);
@@ -24,6 +23,8 @@ protected:
     /// hides the cups, their tops `scartoCoppe` twips below the button's.
     void DisponiControlli(double altezza, double scartoCoppe);
     void ImpostaModoInput();
+    void Sgombra() override;
+    void AvviaTramelo() override;
 
     // Each takes the stroke of the direction before it away and offers its own.
     void LineaASinistra();

@@ -18,7 +18,7 @@ protected:
     void Form_Activate() override;
     void BottoneAvanti_Click();
     void BottoneAvanti_GotFocus();
-    virtual void mnuNuovo_Click();
+    void mnuNuovo_Click();
     void mnuRicomincia_Click();
     void mnuColora_Click();
     void mnuLinee_Click();
@@ -33,9 +33,13 @@ protected:
     virtual void Disponi() = 0;
     /// Seconds that the window is shown empty before the first maze.
     virtual double AttesaIniziale() const = 0;
-    virtual void AzzeraContatori();
+    /// The first half of a new maze: what belongs to the one before goes.
+    virtual void Sgombra();
+    void AzzeraContatori();
     /// Chooses what the walls of the next maze look like.
     virtual void ScegliMuri() {}
+    /// The end of a new maze: it is on show, and play begins. The form may be unloaded afterwards.
+    virtual void AvviaTramelo() = 0;
     /// When a changed thickness takes effect: at every restart of the maze, or only when the menu
     /// entry changes it.
     virtual bool SpessoriAllaRipartenza() const = 0;

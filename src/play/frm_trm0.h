@@ -15,18 +15,17 @@ public:
     ControlArray<PictureBox> PictureMuri{"PictureMuri"};
 
 protected:
-    void mnuNuovo_Click() override;
     void mnuLineeMuri_Click();
 
     DimensioniGriglia Griglia() const override { return {6, 9}; }
     void Disponi() override;
     double AttesaIniziale() const override { return 0.5; }
-    void AzzeraContatori() override;
     bool SpessoriAllaRipartenza() const override { return true; }
     trameli::Pareti AspettoPareti() const override;
     void InserisciArrivo() override;
     void ScegliMuri() override;
     void DisegnaTramelo() override;
+    void AvviaTramelo() override;
 
 private:
     void ScriviLineeMuri();

@@ -25,13 +25,14 @@ protected:
     void Form_KeyUp(int keyCode, int shift) override;
     void HScroll1_Change();
     void Timer1_Timer();
-    void mnuNuovo_Click() override;
     void mnuPausa_Click();
 
     DimensioniGriglia Griglia() const override { return {8, 11}; }
     void Disponi() override;
     double AttesaIniziale() const override { return 0; }
     bool SpessoriAllaRipartenza() const override { return false; }
+    void Sgombra() override;
+    void AvviaTramelo() override;
     PartenzaArrivo TrovaPartenzaArrivo() override;
     void CompletaTramelo() override;
     void ColpitoMuro() override;

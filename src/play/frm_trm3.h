@@ -12,13 +12,13 @@ public:
 
 protected:
     void Form_Activate() override;
-    void mnuNuovo_Click() override;
 
     DimensioniGriglia Griglia() const override;
     void Disponi() override;
     double AttesaIniziale() const override { return 0; }
     bool SpessoriAllaRipartenza() const override { return false; }
     void CompletaTramelo() override;
+    void AvviaTramelo() override;
 };
 
 }  // namespace trameli
