@@ -17,7 +17,6 @@ public:
 protected:
     void mnuLineeMuri_Click();
 
-    DimensioniGriglia Griglia() const override { return {6, 9}; }
     void Disponi() override;
     double AttesaIniziale() const override { return 0.5; }
     bool SpessoriAllaRipartenza() const override { return true; }

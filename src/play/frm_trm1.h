@@ -27,7 +27,6 @@ protected:
     void Timer1_Timer();
     void mnuPausa_Click();
 
-    DimensioniGriglia Griglia() const override { return {8, 11}; }
     void Disponi() override;
     double AttesaIniziale() const override { return 0; }
     bool SpessoriAllaRipartenza() const override { return false; }

@@ -3,10 +3,10 @@
 
 #include <optional>
 
+#include "base/griglie.h"
 #include "drawing/geometria.h"
 #include "drawing/spessori.h"
 #include "engine/casuale.h"
-#include "engine/ricette.h"
 #include "engine/tramelo.h"
 #include "play/disegno_traccia.h"
 #include "play/finestra_trm.h"
@@ -28,7 +28,7 @@ protected:
     FormArchivio& Archivio() const;
 
     /// Rows and columns of the form's mazes.
-    virtual DimensioniGriglia Griglia() const = 0;
+    virtual DimensioniGriglia Griglia() const;
     /// Makes room for a maze and its trace; there is none yet.
     void Alloca();
     /// Fits the grid into `pictureTramelo` as that is now.
