@@ -9,12 +9,14 @@ namespace trameli {
 /// or bars.
 class frmTrm0 : public FormAPassi {
 public:
+    /// `servizi` and `casuale` must outlive it.
     frmTrm0(trameli::Forms& forms, Servizi& servizi, Casuale& casuale);
 
     /// The bars of the walls. Element 0 is never seen: it is what the others are made like.
     ControlArray<PictureBox> PictureMuri{"PictureMuri"};
 
 protected:
+    /// The other kind of walls, and the same maze from the start.
     void mnuLineeMuri_Click();
 
     void Disponi() override;

@@ -8,6 +8,7 @@ namespace trameli {
 /// Perfect mazes, from 3 by 4 to 15 by 20 cells.
 class frmTrm3 : public FormAPassi {
 public:
+    /// `servizi` and `casuale` must outlive it.
     frmTrm3(trameli::Forms& forms, Servizi& servizi, Casuale& casuale);
 
 protected:
