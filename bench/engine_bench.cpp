@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/griglie.h"
 #include "engine/casuale.h"
 #include "engine/partenza_arrivo.h"
 #include "engine/ricette.h"

@@ -23,7 +23,8 @@ namespace trameli {
 /// that knows every form. There can be any number of programs, one after the other or at once.
 class Program {
 public:
-    /// `casuale` takes the place of the generator that `Main` seeds from the clock.
+    /// Opens and reads nothing yet. `casuale` takes the place of the generator that `Main` seeds
+    /// from the clock.
     Program(Clock& clock, Screen& screen, FileSystem& fileSystem, Dialogs& dialogs,
             Instances& instances, Sounds& sounds, std::unique_ptr<Casuale> casuale = nullptr);
 
@@ -34,7 +35,9 @@ public:
     /// Serves events until the program ends.
     void Run();
 
+    /// The windows of this run.
     trameli::Forms& Forms() { return forms_; }
+    /// Its shared variables.
     trameli::Stato& Stato() { return stato_; }
 
 private:

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "base/griglie.h"
 #include "base/rounding.h"
 
 namespace trameli {
@@ -13,7 +14,6 @@ namespace {
 using Quanti = int (*)(int m);
 
 struct Livello {
-    DimensioniGriglia Dimensioni;
     Ricetta Passi;
     Quanti DaAbbattere;
 };
@@ -22,23 +22,23 @@ constexpr int Nessuno(int /*m*/) {
     return 0;
 }
 
-constexpr std::array<Livello, 16> Livelli{{
-    {{6, 9}, Ricetta::ScatolaVuota, Nessuno},
-    {{6, 9}, Ricetta::ScavataEAllargata, [](int m) { return m - Quotient(m, 6); }},
-    {{6, 9}, Ricetta::ScavataEAllargata, [](int m) { return m - 2 * Quotient(m, 6); }},
-    {{6, 9}, Ricetta::ScavataEAllargata, [](int m) { return m - 4 * Quotient(m, 6); }},
-    {{6, 9}, Ricetta::ScavataEAllargata, [](int m) { return m - 5 * Quotient(m, 6); }},
-    {{8, 11}, Ricetta::ScatolaVuota, Nessuno},
-    {{8, 11}, Ricetta::ScavataEAllargata, [](int m) { return m - 7; }},
-    {{8, 11}, Ricetta::ScavataEAllargata, [](int m) { return Quotient(m, 2); }},
-    {{3, 4}, Ricetta::Scavata, Nessuno},
-    {{4, 5}, Ricetta::Scavata, Nessuno},
-    {{5, 6}, Ricetta::Scavata, Nessuno},
-    {{6, 7}, Ricetta::Scavata, Nessuno},
-    {{8, 10}, Ricetta::Scavata, Nessuno},
-    {{10, 15}, Ricetta::Scavata, Nessuno},
-    {{12, 18}, Ricetta::Scavata, Nessuno},
-    {{15, 20}, Ricetta::Scavata, Nessuno},
+constexpr std::array<Livello, NumeroLivelli> Livelli{{
+    {Ricetta::ScatolaVuota, Nessuno},
+    {Ricetta::ScavataEAllargata, [](int m) { return m - Quotient(m, 6); }},
+    {Ricetta::ScavataEAllargata, [](int m) { return m - 2 * Quotient(m, 6); }},
+    {Ricetta::ScavataEAllargata, [](int m) { return m - 4 * Quotient(m, 6); }},
+    {Ricetta::ScavataEAllargata, [](int m) { return m - 5 * Quotient(m, 6); }},
+    {Ricetta::ScatolaVuota, Nessuno},
+    {Ricetta::ScavataEAllargata, [](int m) { return m - 7; }},
+    {Ricetta::ScavataEAllargata, [](int m) { return Quotient(m, 2); }},
+    {Ricetta::Scavata, Nessuno},
+    {Ricetta::Scavata, Nessuno},
+    {Ricetta::Scavata, Nessuno},
+    {Ricetta::Scavata, Nessuno},
+    {Ricetta::Scavata, Nessuno},
+    {Ricetta::Scavata, Nessuno},
+    {Ricetta::Scavata, Nessuno},
+    {Ricetta::Scavata, Nessuno},
 }};
 
 const Livello& Trova(int livello) {
@@ -53,10 +53,6 @@ Ricetta RicettaDi(int livello) {
 
 std::int16_t QuantiMuriDaAbbattere(int livello, std::int16_t muriRimasti) {
     return Saturated(Trova(livello).DaAbbattere(muriRimasti));
-}
-
-DimensioniGriglia DimensioniDi(int livello) {
-    return Trova(livello).Dimensioni;
 }
 
 }  // namespace trameli

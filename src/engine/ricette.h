@@ -20,14 +20,4 @@ Ricetta RicettaDi(int livello);
 /// Tramelo::ContaMuriRimasti leaves; 0 at the levels whose recipe has no such step.
 std::int16_t QuantiMuriDaAbbattere(int livello, std::int16_t muriRimasti);
 
-/// Rows and columns of a grid.
-struct DimensioniGriglia {
-    std::int16_t Righe;
-    std::int16_t Colonne;
-    bool operator==(const DimensioniGriglia&) const = default;
-};
-
-/// The grid of a level.
-DimensioniGriglia DimensioniDi(int livello);
-
 }  // namespace trameli

@@ -53,6 +53,7 @@ public:
     /// and must outlive the maze.
     Tramelo(int righe, int colonne, Casuale& casuale);
 
+    /// The size of the grid, in cells.
     std::int16_t Righe() const { return righe_; }
     std::int16_t Colonne() const { return colonne_; }
     /// Rows times columns.

@@ -8,10 +8,12 @@ namespace trameli {
 /// A colour as one number: red + 256 x green + 65536 x blue, each from 0 to 255.
 using Colour = std::int32_t;
 
+/// The colour of these three parts, each from 0 to 255; other values are not checked.
 constexpr Colour Rgb(int red, int green, int blue) {
     return red + 256 * green + 65536 * blue;
 }
 
+/// A part of a colour, 0 to 255.
 constexpr int RedOf(Colour colour) {
     return colour & 0xFF;
 }

@@ -9,15 +9,17 @@ namespace trameli {
 /// Enter whose press it received too: one stroke of a switch is one action.
 class CommandButton : public VisualControl {
 public:
+    /// A button that can be pressed; without a caption it wants a picture and an AccessibleName.
     CommandButton(Container& container, ControlName name, const Bounds& bounds,
                   std::string caption = {});
 
     /// The text; the letter behind an "&" presses the button together with Alt.
     const std::string& Caption() const { return caption_; }
     void Caption(const std::string& caption);
-    /// Shown in its own proportions, as large as the button leaves room.
+    /// Shown in its own proportions, as large as the button leaves room; above a caption.
     void Picture(const trameli::Picture& picture);
 
+    /// The button was pressed, by mouse or keyboard. Code cannot press it.
     std::function<void()> Click;
 
 private:

@@ -27,7 +27,9 @@ struct Bounds {
 
 /// Name of a control, with its index if it is an element of a control array.
 struct ControlName {
+    /// A single control.
     ControlName(const char* name) : Name(name) {}  // NOLINT(google-explicit-constructor)
+    /// An element of a control array.
     ControlName(std::string name, int index) : Name(std::move(name)), Index(index) {}
 
     std::string Name;
@@ -45,6 +47,7 @@ public:
     const std::string& Name() const { return name_.Name; }
     /// The index in a control array; nothing for a single control.
     std::optional<int> Index() const { return name_.Index; }
+    /// The form it belongs to, whatever it lies on. The form outlives it.
     Form& OwnerForm() const { return form_; }
 
     /// Free text that goes with the control.
@@ -65,6 +68,8 @@ class VisualControl : public Control {
 public:
     ~VisualControl() override;
 
+    // Place and size in twips, relative to the container. What is set is kept as it is; on the
+    // screen each edge lies on the nearest pixel.
     double Left() const { return bounds_.Left; }
     double Top() const { return bounds_.Top; }
     double Width() const { return bounds_.Width; }
@@ -84,13 +89,16 @@ public:
     bool Enabled() const { return enabled_; }
     void Enabled(bool enabled);
 
+    /// What fills the control behind its text.
     Colour BackColor() const { return backColor_; }
     virtual void BackColor(Colour colour);
+    /// What its text is written in.
     Colour ForeColor() const { return foreColor_; }
     void ForeColor(Colour colour);
     const trameli::Font& Font() const { return font_; }
     void Font(const trameli::Font& font);
 
+    /// What is shown while the pointer rests on the control; nothing if it is empty.
     const std::string& ToolTipText() const { return toolTipText_; }
     void ToolTipText(const std::string& text);
     /// What assistive technology calls the control where its caption does not say it.
@@ -111,8 +119,11 @@ public:
     // Events. Each is a routine of the form, set when the form is made.
     /// The keyboard came here from another control of the form, not just back with the window.
     std::function<void()> GotFocus;
+    /// The pointer moved over the control and over none that lies on it, with or without a button
+    /// held down.
     std::function<void()> MouseMove;
-    /// Key code and shift bits. Comes after the form has seen the key.
+    /// A key was released that had been pressed while the control had the keyboard: KeyCode and
+    /// ShiftBit. Comes after the form has seen the key.
     std::function<void(int, int)> KeyUp;
 
     struct Native;
@@ -142,6 +153,7 @@ public:
     virtual ~Container() = default;
 
     struct Native;
+    /// The form that it is, or is part of.
     virtual Form& ContainerForm() = 0;
     /// The toolkit's side of the container; of use below `platform` only.
     virtual Native ContainerNative() = 0;

@@ -15,6 +15,7 @@ namespace trameli {
 template <typename T>
 class ControlArray {
 public:
+    /// An empty array; `name` is that of all its elements.
     explicit ControlArray(std::string name) : name_(std::move(name)) {}
 
     /// Makes the next element at design time; the arguments follow those for container and name.
@@ -39,9 +40,10 @@ public:
     /// Destroys an element, if there is one.
     void Unload(int index) { elements_.erase(index); }
 
+    /// How many elements there are. Their indices may have gaps.
     int Count() const { return static_cast<int>(elements_.size()); }
 
-    /// The element `index`, which must exist.
+    /// The element `index`; std::out_of_range if there is none.
     T& operator()(int index) { return *elements_.at(index); }
     const T& operator()(int index) const { return *elements_.at(index); }
 

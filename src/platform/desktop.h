@@ -16,11 +16,13 @@ namespace trameli {
 /// takes the arguments that belong to the window system out of the command line.
 class Desktop {
 public:
+    /// Ends the process with a message on the terminal if there is no display to connect to.
     Desktop(int& argc, char** argv);
     ~Desktop();
     Desktop(const Desktop&) = delete;
     Desktop& operator=(const Desktop&) = delete;
 
+    // The services; they live as long as this object.
     trameli::Clock& Clock() const;
     trameli::Screen& Screen() const;
     trameli::FileSystem& FileSystem() const;

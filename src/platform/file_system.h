@@ -41,7 +41,7 @@ public:
     virtual std::vector<std::string> List(const std::string& folder,
                                           const std::string& ending) const = 0;
 
-    /// Where a path lies on this machine, to be shown to a person.
+    /// Where a file lies on this machine, or would be made, to be shown to a person.
     virtual std::string OnThisMachine(const std::string& path) const = 0;
 };
 

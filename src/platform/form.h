@@ -27,6 +27,7 @@ public:
         double Height;
     };
 
+    /// Not loaded yet and not on the screen. `name` is the one it is registered under.
     Form(trameli::Forms& forms, std::string name, DesignSize size);
     ~Form() override;
     Form(const Form&) = delete;
@@ -42,12 +43,16 @@ public:
     double Width() const;
     double Height() const;
 
+    /// The text in the window's frame.
     const std::string& Caption() const { return caption_; }
     void Caption(const std::string& caption);
+    /// Free text that goes with the form.
     const std::string& Tag() const { return tag_; }
     void Tag(std::string tag) { tag_ = std::move(tag); }
+    /// The ground of the client area. Setting it clears what is drawn on `Canvas`.
     Colour BackColor() const { return backColor_; }
     void BackColor(Colour colour);
+    /// The pointer over the form and over all controls that have none of their own.
     void MouseIcon(std::optional<PointerImage> icon);
     const std::optional<PointerImage>& MouseIcon() const { return mouseIcon_; }
     /// What is drawn on the form itself, under its controls; made at the first call.
@@ -65,6 +70,7 @@ public:
 
 protected:
     // Event routines, in the order in which they arrive.
+    /// The form is there, in its design size and not on the screen yet.
     virtual void Form_Load() {}
     /// The client area has another size.
     virtual void Form_Resize() {}
@@ -77,6 +83,7 @@ protected:
     virtual void Form_KeyUp(int keyCode, int shift);
     /// The pointer moved over the form itself, not over a control.
     virtual void Form_MouseMove() {}
+    /// The form goes, by code or because its window was closed. It is still loaded.
     virtual void Form_Unload() {}
 
     /// Waits so many seconds while events are served. Ends early if the form is unloaded

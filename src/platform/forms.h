@@ -17,8 +17,10 @@ namespace trameli {
 /// class and so need not know of each other.
 class Forms {
 public:
+    /// Makes a form; called whenever it is loaded.
     using Maker = std::function<std::unique_ptr<Form>(Forms&)>;
 
+    /// Both services must outlive it. No form is known yet.
     Forms(trameli::Clock& clock, trameli::Screen& screen);
     ~Forms();
     Forms(const Forms&) = delete;
@@ -46,6 +48,7 @@ public:
 
     /// Ends the program at once: no routine of any form is started any more.
     void End();
+    /// True once the program has ended, by `End` or with its last window.
     bool Ended() const { return ended_; }
 
     /// Serves events until the program ends.

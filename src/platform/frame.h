@@ -10,6 +10,7 @@ class Frame : public VisualControl, public Container {
 public:
     Frame(Container& container, ControlName name, const Bounds& bounds, std::string caption = {});
 
+    /// The text on the border.
     const std::string& Caption() const { return caption_; }
     void Caption(const std::string& caption);
     /// Without a border there is no caption either.

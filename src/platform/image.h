@@ -12,9 +12,11 @@ public:
     Image(Container& container, ControlName name, const Bounds& bounds,
           const trameli::Picture& picture = {});
 
+    /// The picture shown; one that cannot be loaded shows nothing.
     const trameli::Picture& Picture() const { return picture_; }
     void Picture(const trameli::Picture& picture);
 
+    /// The left mouse button was pressed and released on it.
     std::function<void()> Click;
 
 private:

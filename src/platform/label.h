@@ -5,15 +5,18 @@
 
 namespace trameli {
 
+/// Which edge of a label its lines keep to.
 enum class Alignment { Left, Right, Centre };
 
 /// A text of one or more lines that the player cannot change. It wraps at its width.
 class Label : public VisualControl {
 public:
+    /// Text on an opaque ground, its lines to the left.
     Label(Container& container, ControlName name, const Bounds& bounds, std::string caption);
 
     const std::string& Caption() const { return caption_; }
     void Caption(const std::string& caption);
+    /// Lines begin at the top in any case.
     void TextAlignment(Alignment alignment);
     /// A transparent label lets what lies under it show between its letters.
     void Transparent(bool transparent);
@@ -21,6 +24,7 @@ public:
     /// Gives the letters a rim of this colour, so that they can be read on any ground.
     void Rim(Colour colour);
 
+    /// The left mouse button was pressed and released on it.
     std::function<void()> Click;
 
 private:

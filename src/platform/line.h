@@ -13,11 +13,13 @@ public:
     Line(Container& container, ControlName name, double x1, double y1, double x2, double y2,
          int borderWidth, Colour borderColor);
 
+    // The two ends, twips, relative to the container.
     double X1() const { return ends_.Left; }
     double Y1() const { return ends_.Top; }
     double X2() const { return ends_.Width; }
     double Y2() const { return ends_.Height; }
     void Ends(double x1, double y1, double x2, double y2);
+    /// Thickness in pixels, one at least.
     int BorderWidth() const { return borderWidth_; }
     void BorderWidth(int pixels);
     Colour BorderColor() const { return borderColor_; }

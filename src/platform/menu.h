@@ -20,14 +20,17 @@ public:
 
     const std::string& Caption() const { return caption_; }
     void Caption(const std::string& caption);
+    /// A disabled entry is grey and cannot be chosen, nor can those of its menu.
     bool Enabled() const { return enabled_; }
     void Enabled(bool enabled);
+    /// An invisible entry takes no room, and its shortcut does nothing.
     bool Visible() const { return visible_; }
     void Visible(bool visible);
-    /// The mark in front of the entry.
+    /// The mark in front of the entry. Choosing it changes nothing about that.
     bool Checked() const { return checked_; }
     void Checked(bool checked);
 
+    /// The entry was chosen, by mouse, keyboard or shortcut.
     std::function<void()> Click;
 
     struct Native;

@@ -16,8 +16,8 @@ struct Picture {
 /// A mouse pointer made of a picture of 32 by 32 pixels, with the place in it that points.
 struct PointerImage {
     Picture Image;
-    int HotX = 0;
-    int HotY = 0;
+    int HotX = 0;  ///< pixels from the left edge
+    int HotY = 0;  ///< pixels from the upper edge
 };
 
 }  // namespace trameli

@@ -10,6 +10,7 @@ namespace trameli {
 /// and can have the keyboard.
 class PictureBox : public VisualControl, public Container, public Surface {
 public:
+    /// A surface of the control's size, grey like a button's face and empty.
     PictureBox(Container& container, ControlName name, const Bounds& bounds);
     /// A further element of a control array at run time: like `model`, but invisible.
     PictureBox(PictureBox& model, int index);

@@ -40,6 +40,7 @@ public:
     double Width() const { return Size().Width * TwipsPerPixelX(); }
     /// Height of the screen in twips.
     double Height() const { return Size().Height * TwipsPerPixelY(); }
+    /// The same in both directions, and a whole number.
     double TwipsPerPixelX() const { return TwipsPerPixelFor(Size().Width, Size().Height); }
     double TwipsPerPixelY() const { return TwipsPerPixelX(); }
 };

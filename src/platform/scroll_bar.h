@@ -9,6 +9,8 @@ namespace trameli {
 /// keyboard, so the arrow keys stay with the form.
 class HScrollBar : public VisualControl {
 public:
+    /// Values go from `min` at the left to `max` at the right and begin at `min`; `largeChange` is
+    /// the step of a click beside the handle.
     HScrollBar(Container& container, ControlName name, const Bounds& bounds, int min, int max,
                int largeChange);
 
@@ -16,6 +18,7 @@ public:
     /// Beyond an end, the end counts. A new value fires `Change`, whoever sets it.
     void Value(int value);
 
+    /// The value is another one.
     std::function<void()> Change;
 };
 

@@ -13,6 +13,7 @@ public:
     Shape(Container& container, ControlName name, const Bounds& bounds, int borderWidth,
           Colour borderColor);
 
+    /// What the outline is drawn in.
     Colour BorderColor() const { return borderColor_; }
     void BorderColor(Colour colour);
 

@@ -16,7 +16,7 @@ public:
               std::initializer_list<const char*> texts);
 
     int PanelCount() const;
-    /// Text of a panel, counted from 1.
+    /// Text of a panel, counted from 1; std::out_of_range if there is none.
     std::string Panel(int number) const;
     void Panel(int number, const std::string& text);
 };

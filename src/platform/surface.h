@@ -20,6 +20,7 @@ public:
     Surface(const Surface&) = delete;
     Surface& operator=(const Surface&) = delete;
 
+    /// The pen of the next lines and boxes, pixels; less than one counts as one.
     int DrawWidth() const { return drawWidth_; }
     void DrawWidth(int pixels) { drawWidth_ = pixels < 1 ? 1 : pixels; }
 

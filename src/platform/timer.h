@@ -14,11 +14,13 @@ public:
     /// interval in milliseconds; starts disabled.
     Timer(Form& form, ControlName name, int interval);
 
+    /// Milliseconds from tick to tick; with 0 or less none comes.
     int Interval() const { return interval_; }
     void Interval(int milliseconds);
     bool Enabled() const { return enabled_; }
     void Enabled(bool enabled);
 
+    /// The interval has passed.
     std::function<void()> Tick;
 
 private:

@@ -45,6 +45,7 @@ struct DisegnoTrm {
 /// making.
 class FinestraTrm : public Form {
 public:
+    /// Everything is laid out as in `disegno`, and no event does anything yet.
     FinestraTrm(trameli::Forms& forms, const DisegnoTrm& disegno);
 
     MenuItem mnuTrameli;

@@ -56,9 +56,17 @@ void FormAPassi::Form_KeyUp(int keyCode, int /*shift*/) {
     }
 }
 
-void FormAPassi::mnuNuovo_Click() {
+void FormAPassi::Sgombra() {
     offerto_ = false;
-    FormTrm::mnuNuovo_Click();
+    FormTrm::Sgombra();
+}
+
+void FormAPassi::AvviaTramelo() {
+    if (stato_.ModoInput == ScansioneAutomatica) {
+        Timer1.Enabled(true);
+    } else if (stato_.ModoInput == ScansioneManuale) {
+        RidisegnaRotazione();
+    }
 }
 
 void FormAPassi::Timer1_Timer() {

@@ -15,15 +15,20 @@ protected:
 
     bool Form_KeyDown(int keyCode, int shift) override;
     void Form_KeyUp(int keyCode, int shift) override;
-    void mnuNuovo_Click() override;
+    /// With one switch, offers the next direction; with either number, fetches the keyboard.
     void Timer1_Timer();
+    // A switch was released: Space offers the next direction and Enter takes it, or Space takes
+    // what the timer has offered. The form may be unloaded afterwards.
     void PictureScansioneManuale_KeyUp(int keyCode);
     void PictureScansioneAutomatica_KeyUp(int keyCode);
 
     /// Gives `pictureTramelo` the whole width and `altezza` twips, puts the button under it and
     /// hides the cups, their tops `scartoCoppe` twips below the button's.
     void DisponiControlli(double altezza, double scartoCoppe);
+    /// Readies timer and pictures for the player's way to move.
     void ImpostaModoInput();
+    void Sgombra() override;
+    void AvviaTramelo() override;
 
     // Each takes the stroke of the direction before it away and offers its own.
     void LineaASinistra();

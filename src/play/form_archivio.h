@@ -11,6 +11,7 @@ namespace trameli {
 /// A form that is loaded and never shown: the other forms take their pictures from it.
 class FormArchivio : public Form {
 public:
+    /// Comes with all its pictures.
     explicit FormArchivio(trameli::Forms& forms);
 
     /// The pictures that can mark the finish.

@@ -8,6 +8,7 @@
 #include "platform/forms.h"
 #include "platform/keys.h"
 #include "play/sfumatura.h"
+#include "shell/fumetto.h"
 #include "shell/livelli.h"
 
 namespace trameli {
@@ -18,10 +19,6 @@ constexpr Form::DesignSize Dimensioni{9915, 7680};
 constexpr Colour Sfondo = Rgb(0, 0, 32);
 constexpr Colour Evidenza = Rgb(255, 210, 63);
 constexpr double AttesaIniziale = 1;  // seconds
-
-Font Fumetto(double punti, bool grassetto) {
-    return {"Comic Sans MS", punti, grassetto};
-}
 
 /// Half of the room that is left, in whole pixels, so that no control changes its size by one.
 double Margine(double spazio, double pixel) {
@@ -60,16 +57,16 @@ FormFinale::FormFinale(trameli::Forms& forms, Servizi& servizi, Casuale& casuale
     LabelNome.Transparent(true);
     LabelNome.TabIndex(0);
 
-    Label1.Font(Fumetto(20.25, true));
+    Label1.Font(Fumetto(20.25));
     Label1.Transparent(true);
     Label1.TabIndex(1);
-    Label2.Font(Fumetto(15.75, true));
+    Label2.Font(Fumetto(15.75));
     Label2.Transparent(true);
     Label2.TabIndex(2);
 
     int ordine = 3;
     for (CommandButton* bottone : {&Command1, &Command2}) {
-        bottone->Font(Fumetto(12, true));
+        bottone->Font(Fumetto(12));
         bottone->TabIndex(ordine++);
         bottone->Enabled(false);
         bottone->GotFocus = [this, bottone] { Evidenzia(*bottone); };

@@ -16,13 +16,14 @@ namespace trameli {
 /// meant for the maze answers nothing.
 class FormFinale : public Form {
 public:
+    /// `servizi` and `casuale` must outlive it. The one draw, for the colours, comes when it loads.
     FormFinale(trameli::Forms& forms, Servizi& servizi, Casuale& casuale);
 
     // The controls, those further back first.
-    Image Image1;     ///< the trophy
-    Label LabelNome;  ///< the player's name, on the trophy's base
-    Label Label1;
-    Label Label2;
+    Image Image1;            ///< the trophy
+    Label LabelNome;         ///< the player's name, on the trophy's base
+    Label Label1;            ///< the congratulations
+    Label Label2;            ///< the level that was solved
     CommandButton Command1;  ///< stays at the level
     CommandButton Command2;  ///< goes on
     Timer Timer1;            ///< goes from button to button for those who have one key

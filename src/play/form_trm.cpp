@@ -67,12 +67,17 @@ void FormTrm::mnuNuovo_Click() {
     if (!tramelo_) {
         return;  // chosen before the form was activated
     }
-    BottoneAvanti.Visible(false);
-    AzzeraContatori();
-    pictureTramelo.Cls();
+    Sgombra();
     ScegliMuri();
     GeneraTramelo();
     InserisciPartenza();
+    AvviaTramelo();
+}
+
+void FormTrm::Sgombra() {
+    BottoneAvanti.Visible(false);
+    AzzeraContatori();
+    pictureTramelo.Cls();
 }
 
 void FormTrm::mnuRicomincia_Click() {

@@ -38,27 +38,6 @@ void frmTrm0::Disponi() {
     ImpostaModoInput();
 }
 
-void frmTrm0::mnuNuovo_Click() {
-    FormAPassi::mnuNuovo_Click();
-    if (!HaTramelo()) {
-        return;
-    }
-    // A second draw: this picture, not the one that came with the maze, is the one that stays.
-    InserisciArrivo();
-    if (stato_.ModoInput == ScansioneAutomatica) {
-        Timer1.Enabled(true);
-    } else if (stato_.ModoInput == ScansioneManuale) {
-        RidisegnaRotazione();
-    }
-}
-
-void frmTrm0::AzzeraContatori() {
-    ContaPassi = 0;
-    ScriviPassi();
-    ContaBoing = 0;
-    ScriviBoing("boing ");
-}
-
 Pareti frmTrm0::AspettoPareti() const {
     return LineeMuri ? Pareti::Linee : Pareti::Barre;
 }
@@ -81,6 +60,12 @@ void frmTrm0::DisegnaTramelo() {
     } else {
         SistemaMuri();
     }
+}
+
+void frmTrm0::AvviaTramelo() {
+    // A second draw: this picture, not the one that came with the maze, is the one that stays.
+    InserisciArrivo();
+    FormAPassi::AvviaTramelo();
 }
 
 void frmTrm0::DisegnaConLinee() {

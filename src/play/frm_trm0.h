@@ -9,24 +9,24 @@ namespace trameli {
 /// or bars.
 class frmTrm0 : public FormAPassi {
 public:
+    /// `servizi` and `casuale` must outlive it.
     frmTrm0(trameli::Forms& forms, Servizi& servizi, Casuale& casuale);
 
     /// The bars of the walls. Element 0 is never seen: it is what the others are made like.
     ControlArray<PictureBox> PictureMuri{"PictureMuri"};
 
 protected:
-    void mnuNuovo_Click() override;
+    /// The other kind of walls, and the same maze from the start.
     void mnuLineeMuri_Click();
 
-    DimensioniGriglia Griglia() const override { return {6, 9}; }
     void Disponi() override;
     double AttesaIniziale() const override { return 0.5; }
-    void AzzeraContatori() override;
     bool SpessoriAllaRipartenza() const override { return true; }
     trameli::Pareti AspettoPareti() const override;
     void InserisciArrivo() override;
     void ScegliMuri() override;
     void DisegnaTramelo() override;
+    void AvviaTramelo() override;
 
 private:
     void ScriviLineeMuri();

@@ -101,19 +101,17 @@ void frmTrm1::Timer1_Timer() {
     Muovi(Direzione);
 }
 
-void frmTrm1::mnuNuovo_Click() {
-    Timer1.Enabled(false);
-    FormTrm::mnuNuovo_Click();
-    if (HaTramelo()) {
-        trameloNuovo_ = true;
-        AttendiEParti();
-    }
-}
-
 void frmTrm1::mnuPausa_Click() {
     const bool pausa = Timer1.Enabled();
     Timer1.Enabled(!pausa);
     mnuPausa->Caption(pausa ? "Ri&prendi" : "&Pausa");
+}
+
+void frmTrm1::Sgombra() {
+    Timer1.Enabled(false);
+    AzzeraContatori();
+    BottoneAvanti.Visible(false);
+    pictureTramelo.Cls();
 }
 
 PartenzaArrivo frmTrm1::TrovaPartenzaArrivo() {
@@ -125,6 +123,11 @@ void frmTrm1::CompletaTramelo() {
     FormTrm::CompletaTramelo();
     SoliRimasti = TuttiISoli;
     MostraSoli();
+}
+
+void frmTrm1::AvviaTramelo() {
+    trameloNuovo_ = true;
+    AttendiEParti();
 }
 
 void frmTrm1::ColpitoMuro() {

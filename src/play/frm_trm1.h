@@ -14,27 +14,33 @@ namespace trameli {
 /// from zero.
 class frmTrm1 : public FormTrm {
 public:
+    /// `servizi` and `casuale` must outlive it.
     frmTrm1(trameli::Forms& forms, Servizi& servizi, Casuale& casuale);
 
-    ControlArray<Image> ImageSole{"ImageSole"};
-    HScrollBar HScroll1;  ///< the speed
-    Label Label1;
-    Label Label2;
+    ControlArray<Image> ImageSole{"ImageSole"};  ///< the suns left; the last goes first
+    HScrollBar HScroll1;                         ///< the speed
+    Label Label1;                                ///< its slow end
+    Label Label2;                                ///< its fast end
 
 protected:
     void Form_KeyUp(int keyCode, int shift) override;
+    /// The new pace takes effect at the next tick.
     void HScroll1_Change();
+    /// One step. The form may be unloaded afterwards.
     void Timer1_Timer();
-    void mnuNuovo_Click() override;
     void mnuPausa_Click();
 
-    DimensioniGriglia Griglia() const override { return {8, 11}; }
     void Disponi() override;
     double AttesaIniziale() const override { return 0; }
     bool SpessoriAllaRipartenza() const override { return false; }
+    void Sgombra() override;
+    void AvviaTramelo() override;
     PartenzaArrivo TrovaPartenzaArrivo() override;
     void CompletaTramelo() override;
+    /// A sun less and back to the start. The form may be unloaded afterwards.
     void ColpitoMuro() override;
+    /// The suns have run out: the same maze from zero, with all of them. The form may be unloaded
+    /// afterwards.
     void Sbagliato();
 
 private:

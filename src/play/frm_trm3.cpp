@@ -41,23 +41,17 @@ void frmTrm3::Disponi() {
     ImpostaModoInput();
 }
 
-void frmTrm3::mnuNuovo_Click() {
-    FormAPassi::mnuNuovo_Click();
-    if (!HaTramelo()) {
-        return;
-    }
-    if (stato_.ModoInput == ScansioneManuale || stato_.ModoInput == ScansioneAutomatica) {
-        Timer1.Enabled(true);
-    }
-    if (stato_.ModoInput == ScansioneManuale) {
-        RidisegnaRotazione();
-    }
-}
-
 void frmTrm3::CompletaTramelo() {
     DisegnaTramelo();
     AzzeraVariabili();
     InserisciArrivo();
+}
+
+void frmTrm3::AvviaTramelo() {
+    if (stato_.ModoInput == ScansioneManuale) {
+        Timer1.Enabled(true);
+    }
+    FormAPassi::AvviaTramelo();
 }
 
 }  // namespace trameli

@@ -8,17 +8,18 @@ namespace trameli {
 /// Perfect mazes, from 3 by 4 to 15 by 20 cells.
 class frmTrm3 : public FormAPassi {
 public:
+    /// `servizi` and `casuale` must outlive it.
     frmTrm3(trameli::Forms& forms, Servizi& servizi, Casuale& casuale);
 
 protected:
     void Form_Activate() override;
-    void mnuNuovo_Click() override;
 
     DimensioniGriglia Griglia() const override;
     void Disponi() override;
     double AttesaIniziale() const override { return 0; }
     bool SpessoriAllaRipartenza() const override { return false; }
     void CompletaTramelo() override;
+    void AvviaTramelo() override;
 };
 
 }  // namespace trameli

@@ -29,6 +29,7 @@ public:
     /// start opening is a hit like any other.
     Esito Passo(Lato lato, const Tramelo& tramelo);
 
+    /// Where the player stands; outside the grid before the first step and after the last.
     Cella CellaCorrente() const { return cellaCorrente_; }
     /// The head of the trace, twips.
     Punto PuntoCorrente() const { return puntoCorrente_; }

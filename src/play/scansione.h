@@ -33,15 +33,19 @@ struct AspettoScansione {
     int PennaGomma;  ///< pixels, for taking a stroke away
     double TwipsPerPixel;
     Colour Colore;
-    Colour ColoreSfondo;
+    Colour ColoreSfondo;  ///< of what takes a stroke away
 };
 
+/// The look of strokes in cells of `dimensioneCella` twips whose walls and trace are as thick as
+/// `spessori` say.
 AspettoScansione AspettoScansioneDi(const Spessori& spessori, std::int16_t dimensioneCella,
                                     double twipsPerPixelX, Colour colore, Colour coloreSfondo);
 
 /// The place of the stroke in direction `direzione`, 0 to 3, from `testa` on.
 Segmento TrattoScansione(Punto testa, std::int16_t direzione, const AspettoScansione& aspetto);
 
+/// Draws the stroke of that direction over whatever lies there; the symbol wants to be drawn after
+/// it.
 void DisegnaTrattoScansione(Surface& superficie, Punto testa, std::int16_t direzione,
                             const AspettoScansione& aspetto);
 

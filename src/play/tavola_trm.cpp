@@ -2,6 +2,7 @@
 
 #include "base/rounding.h"
 #include "drawing/muri_a_linee.h"
+#include "engine/ricette.h"
 #include "platform/forms.h"
 #include "play/form_archivio.h"
 
@@ -13,6 +14,10 @@ TavolaTrm::TavolaTrm(trameli::Forms& forms, Servizi& servizi, Casuale& casuale,
 
 FormArchivio& TavolaTrm::Archivio() const {
     return static_cast<FormArchivio&>(Forms().Load("FormArchivio"));
+}
+
+DimensioniGriglia TavolaTrm::Griglia() const {
+    return DimensioniDi(stato_.Livello);
 }
 
 void TavolaTrm::Alloca() {

@@ -10,6 +10,7 @@ namespace trameli {
 /// Keeps the places, sizes and font sizes of a form's controls in proportion to the form.
 class EssResizer {
 public:
+    /// `form` must outlive it. Without Carica it keeps nothing in proportion.
     explicit EssResizer(Form& form) : form_(form) {}
 
     /// Records how the form was laid out. Belongs into `Form_Load`, while the client area still has

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "platform/forms.h"
+#include "shell/fumetto.h"
 #include "shell/maiuscolo.h"
 #include "shell/puntatori.h"
 
@@ -25,10 +26,6 @@ constexpr std::array<Scritta, 2> Scritte{{
     {{0, 960, 8175, 2535}, "Trameli", 72},
     {{5520, 4560, 2415, 735}, "24/02/2008", 15.75},
 }};
-
-Font Fumetto(double punti) {
-    return {"Comic Sans MS", punti, true};
-}
 
 }  // namespace
 

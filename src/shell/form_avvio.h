@@ -14,6 +14,7 @@ namespace trameli {
 /// The first window of a run. It stays until it is clicked and then opens the menu.
 class FormAvvio : public Form {
 public:
+    /// `servizi` must outlive it; it is read again at each event.
     FormAvvio(trameli::Forms& forms, Servizi& servizi);
 
     // The controls, those further back first.

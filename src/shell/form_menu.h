@@ -20,6 +20,7 @@ namespace trameli {
 /// moment after it has come up.
 class FormMenu : public Form {
 public:
+    /// `servizi` must outlive it. Entries for windows that `forms` does not know are disabled.
     FormMenu(trameli::Forms& forms, Servizi& servizi);
 
     // The menu bar.

@@ -1,26 +1,11 @@
 #include "shell/modulo_per_ini.h"
 
 #include <optional>
-#include <string_view>
 
 #include "shell/file_utente.h"
 #include "shell/maiuscolo.h"
 
 namespace trameli {
-
-namespace {
-
-/// The first path of a run ends in capitals and all later ones do not. They name one file, but on a
-/// disk that knows case the first save would decide how it is spelt for good.
-std::string ConEstensioneMinuscola(std::string percorso) {
-    const std::string_view maiuscola = ".INI";
-    if (percorso.ends_with(maiuscola)) {
-        percorso.replace(percorso.size() - maiuscola.size(), maiuscola.size(), ".ini");
-    }
-    return percorso;
-}
-
-}  // namespace
 
 ModuloPerIni::ModuloPerIni(Stato& stato, FileSystem& fileSystem, Dialogs& dialogs, Lingue& lingue)
     : stato_(stato), fileSystem_(fileSystem), dialogs_(dialogs), lingue_(lingue) {}
@@ -30,7 +15,7 @@ void ModuloPerIni::ImpostaPredefiniti() {
 }
 
 void ModuloPerIni::ScriviUtente() {
-    const std::string file = ConEstensioneMinuscola(stato_.FileUtente);
+    const std::string& file = stato_.FileUtente;
     if (!illeggibili_.contains(Maiuscolo(file)) && fileSystem_.Replace(file, Testo(stato_))) {
         nonSalvati_.erase(Maiuscolo(file));
         return;

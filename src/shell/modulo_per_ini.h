@@ -30,6 +30,7 @@ public:
     /// generous with blanks.
     static constexpr std::size_t LimiteLettura = 4096;
 
+    /// Works on `stato`. All four must outlive it; nothing is read or written yet.
     ModuloPerIni(Stato& stato, FileSystem& fileSystem, Dialogs& dialogs, Lingue& lingue);
 
     /// Gives all sixteen settings their defaults.

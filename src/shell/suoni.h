@@ -11,6 +11,7 @@ namespace trameli {
 /// What the player hears. Each routine asks the settings itself, so that its callers need not.
 class Suoni {
 public:
+    /// Both must outlive it.
     Suoni(const Stato& stato, Sounds& sounds) : stato_(stato), sounds_(sounds) {}
 
     /// The player ran into a wall.

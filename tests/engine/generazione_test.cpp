@@ -6,6 +6,7 @@
 #include <tuple>
 
 #include "aiuti.h"
+#include "base/griglie.h"
 #include "engine/partenza_arrivo.h"
 #include "engine/ricette.h"
 #include "engine/tramelo.h"

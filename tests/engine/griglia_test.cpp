@@ -5,8 +5,8 @@
 #include <stdexcept>
 
 #include "aiuti.h"
+#include "base/griglie.h"
 #include "casuale_finto.h"
-#include "engine/ricette.h"
 #include "engine/tramelo.h"
 
 namespace trameli {

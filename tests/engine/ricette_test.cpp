@@ -2,43 +2,27 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cstddef>
 #include <limits>
 #include <stdexcept>
+
+#include "base/griglie.h"
 
 namespace trameli {
 namespace {
 
-struct CasoLivello {
-    int Livello;
-    DimensioniGriglia Dimensioni;
-    Ricetta Passi;
-};
-
-class Livelli : public testing::TestWithParam<CasoLivello> {};
-
-TEST_P(Livelli, HasItsGridAndItsRecipe) {
-    const auto& [livello, dimensioni, passi] = GetParam();
-    EXPECT_EQ(DimensioniDi(livello), dimensioni);
-    EXPECT_EQ(RicettaDi(livello), passi);
+TEST(Ricette, AreOfThreeKinds) {
+    using enum Ricetta;
+    constexpr std::array<Ricetta, NumeroLivelli> attese{
+        ScatolaVuota,      ScavataEAllargata, ScavataEAllargata, ScavataEAllargata,
+        ScavataEAllargata, ScatolaVuota,      ScavataEAllargata, ScavataEAllargata,
+        Scavata,           Scavata,           Scavata,           Scavata,
+        Scavata,           Scavata,           Scavata,           Scavata};
+    for (int livello = 0; livello < NumeroLivelli; ++livello) {
+        EXPECT_EQ(RicettaDi(livello), attese.at(static_cast<std::size_t>(livello))) << livello;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Ricette, Livelli,
-                         testing::Values(CasoLivello{0, {6, 9}, Ricetta::ScatolaVuota},
-                                         CasoLivello{1, {6, 9}, Ricetta::ScavataEAllargata},
-                                         CasoLivello{2, {6, 9}, Ricetta::ScavataEAllargata},
-                                         CasoLivello{3, {6, 9}, Ricetta::ScavataEAllargata},
-                                         CasoLivello{4, {6, 9}, Ricetta::ScavataEAllargata},
-                                         CasoLivello{5, {8, 11}, Ricetta::ScatolaVuota},
-                                         CasoLivello{6, {8, 11}, Ricetta::ScavataEAllargata},
-                                         CasoLivello{7, {8, 11}, Ricetta::ScavataEAllargata},
-                                         CasoLivello{8, {3, 4}, Ricetta::Scavata},
-                                         CasoLivello{9, {4, 5}, Ricetta::Scavata},
-                                         CasoLivello{10, {5, 6}, Ricetta::Scavata},
-                                         CasoLivello{11, {6, 7}, Ricetta::Scavata},
-                                         CasoLivello{12, {8, 10}, Ricetta::Scavata},
-                                         CasoLivello{13, {10, 15}, Ricetta::Scavata},
-                                         CasoLivello{14, {12, 18}, Ricetta::Scavata},
-                                         CasoLivello{15, {15, 20}, Ricetta::Scavata}));
 
 struct CasoQuanti {
     int Livello;
@@ -69,7 +53,6 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(Ricette, OtherLevelsAreRefused) {
     for (const int livello : {-1, 16, std::numeric_limits<int>::min()}) {
-        EXPECT_THROW(DimensioniDi(livello), std::out_of_range);
         EXPECT_THROW(RicettaDi(livello), std::out_of_range);
         EXPECT_THROW(QuantiMuriDaAbbattere(livello, 40), std::out_of_range);
     }

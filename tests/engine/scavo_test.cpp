@@ -7,8 +7,8 @@
 #include <tuple>
 
 #include "aiuti.h"
+#include "base/griglie.h"
 #include "casuale_finto.h"
-#include "engine/ricette.h"
 #include "engine/tramelo.h"
 #include "modello.h"
 

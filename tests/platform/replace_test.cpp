@@ -42,6 +42,12 @@ TEST_F(ReplaceTest, KeepsTheNameAsItStands) {
     EXPECT_EQ(EntriesLeft(), 1);
 }
 
+TEST_F(ReplaceTest, GivesANewFileASmallExtension) {
+    EXPECT_EQ(Files.OnThisMachine("C:\\Maria.INI"), (Root / "Maria.ini").string());
+    EXPECT_TRUE(Files.Replace("C:\\Maria.INI", "new"));
+    EXPECT_EQ(BytesOf(Root / "Maria.ini"), "new");
+}
+
 TEST_F(ReplaceTest, ReplacesWhatALinkPointsTo) {
     fs::create_directory(Root / "elsewhere");
     Write(Root / "elsewhere" / "real.ini", "old");

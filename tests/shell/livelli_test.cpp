@@ -2,47 +2,61 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <stdexcept>
 
 namespace trameli {
 namespace {
 
 struct Caso {
-    int Livello;
     const char* Form;
-    int Righe;
-    int Colonne;
+    DimensioniGriglia Griglia;
 };
 
-void PrintTo(const Caso& caso, std::ostream* uscita) {
-    *uscita << "livello " << caso.Livello;
+constexpr std::array<Caso, NumeroLivelli> Tabella{{
+    {"frmTrm0", {6, 9}},
+    {"frmTrm0", {6, 9}},
+    {"frmTrm0", {6, 9}},
+    {"frmTrm0", {6, 9}},
+    {"frmTrm0", {6, 9}},
+    {"frmTrm1", {8, 11}},
+    {"frmTrm1", {8, 11}},
+    {"frmTrm1", {8, 11}},
+    {"frmTrm3", {3, 4}},
+    {"frmTrm3", {4, 5}},
+    {"frmTrm3", {5, 6}},
+    {"frmTrm3", {6, 7}},
+    {"frmTrm3", {8, 10}},
+    {"frmTrm3", {10, 15}},
+    {"frmTrm3", {12, 18}},
+    {"frmTrm3", {15, 20}},
+}};
+
+TEST(Livelli, HaveAFormAndAGrid) {
+    for (std::int16_t livello = 0; livello < NumeroLivelli; ++livello) {
+        SCOPED_TRACE(livello);
+        const Caso& caso = Tabella.at(static_cast<std::size_t>(livello));
+        EXPECT_STREQ(FormDelLivello(livello), caso.Form);
+        EXPECT_EQ(DimensioniDi(livello), caso.Griglia);
+
+        constexpr DimensioniGriglia prima{77, 78};
+        Stato stato;
+        stato.Livello = livello;
+        stato.RigheGriglia = prima.Righe;
+        stato.ColonneGriglia = prima.Colonne;
+        ImpostaGriglia(stato);
+        // The lower levels leave it.
+        EXPECT_EQ((DimensioniGriglia{stato.RigheGriglia, stato.ColonneGriglia}),
+                  livello < 8 ? prima : caso.Griglia);
+    }
 }
 
-constexpr int Prima = 77;  // what the grid measured before; the lower levels leave it
-
-class LivelliTest : public testing::TestWithParam<Caso> {};
-
-TEST_P(LivelliTest, FormAndGrid) {
-    const Caso& caso = GetParam();
-    EXPECT_STREQ(FormDelLivello(caso.Livello), caso.Form);
-    Stato stato;
-    stato.Livello = static_cast<std::int16_t>(caso.Livello);
-    stato.RigheGriglia = Prima;
-    stato.ColonneGriglia = Prima;
-    ImpostaGriglia(stato);
-    EXPECT_EQ(stato.RigheGriglia, caso.Righe);
-    EXPECT_EQ(stato.ColonneGriglia, caso.Colonne);
+TEST(Livelli, OthersHaveNoGrid) {
+    EXPECT_THROW(DimensioniDi(-1), std::out_of_range);
+    EXPECT_THROW(DimensioniDi(16), std::out_of_range);
 }
-
-INSTANTIATE_TEST_SUITE_P(Tabella, LivelliTest,
-                         testing::Values(Caso{0, "frmTrm0", Prima, Prima},
-                                         Caso{4, "frmTrm0", Prima, Prima},
-                                         Caso{5, "frmTrm1", Prima, Prima},
-                                         Caso{7, "frmTrm1", Prima, Prima}, Caso{8, "frmTrm3", 3, 4},
-                                         Caso{9, "frmTrm3", 4, 5}, Caso{10, "frmTrm3", 5, 6},
-                                         Caso{11, "frmTrm3", 6, 7}, Caso{12, "frmTrm3", 8, 10},
-                                         Caso{13, "frmTrm3", 10, 15}, Caso{14, "frmTrm3", 12, 18},
-                                         Caso{15, "frmTrm3", 15, 20}));
 
 }  // namespace
 }  // namespace trameli

@@ -49,19 +49,6 @@ TEST_F(ModuloPerIniTest, SavesAndReadsBack) {
     EXPECT_TRUE(Finestre.Messaggi.empty());
 }
 
-TEST_F(ModuloPerIniTest, TheFirstPathAndLaterOnesNameOneFile) {
-    Variabili.FileUtente = ModuloPerIni::PrimoFileUtente;
-    Altera();
-    Modulo.ScriviUtente();
-    EXPECT_EQ(File.List(ModuloPerIni::CartellaUtenti, ".ini"),
-              std::vector<std::string>{"_predefinito.ini"});
-    Modulo.ImpostaPredefiniti();
-    Variabili.FileUtente =
-        std::string(ModuloPerIni::CartellaUtenti) + ModuloPerIni::PrimoUtente + ".ini";
-    Modulo.LeggiUtente();
-    EXPECT_EQ(Variabili.Livello, 9);
-}
-
 TEST_F(ModuloPerIniTest, DefaultsLeaveTheOtherVariablesAlone) {
     Variabili.NomeUtente = "Anna";
     Variabili.RigheGriglia = 12;

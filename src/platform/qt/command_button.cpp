@@ -24,12 +24,9 @@ constexpr int FocusRing = 3;  // pixels
 
 /// Drawn here and not by the style: the colour has to be just the one that was set, and the focus
 /// has to be seen from across a room.
-class ButtonWidget : public QPushButton {
+class ButtonWidget : public PressedByRelease<QPushButton> {
 public:
-    explicit ButtonWidget(QWidget* parent) : QPushButton(parent) {
-        setFocusPolicy(Qt::StrongFocus);
-        setAutoDefault(false);
-    }
+    explicit ButtonWidget(QWidget* parent) : PressedByRelease(parent) { setAutoDefault(false); }
 
     ShownPicture Face;
 
@@ -63,26 +60,6 @@ protected:
         PaintCaption(painter, room);
     }
 
-    bool event(QEvent* event) override {
-        return KeyPressOnRelease::Shortcut(*event, *this) || QPushButton::event(event);
-    }
-    void keyPressEvent(QKeyEvent* event) override {
-        if (!keys_.Pressed(*event, *this)) {
-            QPushButton::keyPressEvent(event);
-        }
-    }
-    void keyReleaseEvent(QKeyEvent* event) override {
-        if (keys_.Released(*event, *this)) {
-            click();
-        } else {
-            event->accept();
-        }
-    }
-    void focusOutEvent(QFocusEvent* event) override {
-        keys_.Forget(*this);
-        QPushButton::focusOutEvent(event);
-    }
-
 private:
     /// Paints the picture at the top of `room` and leaves in it what the caption may take.
     void PaintFace(QPainter& painter, QRect& room) {
@@ -105,8 +82,6 @@ private:
                                        QPalette::WindowText));
         painter.drawText(room, Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextWordWrap, text());
     }
-
-    KeyPressOnRelease keys_;
 };
 
 }  // namespace

@@ -11,6 +11,7 @@
 
 namespace trameli {
 
+/// UTF-8 to the toolkit's text and back; bytes that are no UTF-8 become replacement characters.
 inline QString ToQt(const std::string& text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }

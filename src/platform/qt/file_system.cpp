@@ -164,6 +164,15 @@ std::optional<fs::path> LocalFileSystem::Find(const std::string& path) const {
     return place;
 }
 
+std::optional<fs::path> LocalFileSystem::FindOrName(const std::string& path) const {
+    auto place = Find(path);
+    std::error_code error;
+    if (place && fs::symlink_status(*place, error).type() == fs::file_type::not_found) {
+        place->replace_filename(WithSmallExtension(place->filename().string()));
+    }
+    return place;
+}
+
 bool LocalFileSystem::FileExists(const std::string& path) const {
     const auto place = Find(path);
     std::error_code error;
@@ -218,7 +227,7 @@ std::optional<std::string> LocalFileSystem::Read(const std::string& path, std::s
 }
 
 bool LocalFileSystem::Replace(const std::string& path, const std::string& bytes) {
-    auto place = Find(path);
+    auto place = FindOrName(path);
     if (!place || IsInProgramFolder(path)) {
         return false;
     }
@@ -230,13 +239,10 @@ bool LocalFileSystem::Replace(const std::string& path, const std::string& bytes)
             return false;
         }
     }
-    if (!fs::exists(*place, error)) {
-        *place = place->parent_path() / WithSmallExtension(place->filename().string());
-    } else {
-        // A file that somebody made read-only stays as it is.
-        if (!fs::is_regular_file(*place, error) || access(place->c_str(), W_OK) != 0) {
-            return false;
-        }
+    // A file that somebody made read-only stays as it is.
+    if (fs::exists(*place, error) &&
+        (!fs::is_regular_file(*place, error) || access(place->c_str(), W_OK) != 0)) {
+        return false;
     }
     const fs::path beside = Beside(*place);
     // Always the same name, so that what a crash left there goes, whatever it is.
@@ -271,7 +277,7 @@ std::vector<std::string> LocalFileSystem::List(const std::string& folder,
 }
 
 std::string LocalFileSystem::OnThisMachine(const std::string& path) const {
-    const auto place = Find(path);
+    const auto place = FindOrName(path);
     return place ? place->string() : path;
 }
 

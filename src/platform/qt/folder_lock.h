@@ -11,6 +11,7 @@ namespace trameli {
 /// the process, however that ends, so nothing is ever left behind to lock anyone out.
 class FolderLock final : public Instances {
 public:
+    /// Nothing is locked yet, nor made.
     explicit FolderLock(std::filesystem::path folder) : folder_(std::move(folder)) {}
     ~FolderLock() override;
     FolderLock(const FolderLock&) = delete;

@@ -9,6 +9,7 @@ namespace trameli {
 
 /// The code of a key in the layer's terms; 0 for a key that has none.
 int KeyCodeOf(const QKeyEvent& event);
+/// The ShiftBit values of the keys held down with it: Shift, Ctrl and Alt, not the keypad.
 int ShiftBitsOf(const QKeyEvent& event);
 
 /// Stands between a window and its keys. Lets a release through only if its press came here too:

@@ -7,54 +7,52 @@
 
 namespace trameli {
 
-/// Lets the release of Space or Enter press a button, and only if the press came to it as well:
-/// one stroke of a switch is never two actions.
-class KeyPressOnRelease {
+/// A button of the toolkit, of class Button, that the release of Space or Enter presses, and only
+/// if the press came to it as well: one stroke of a switch is never two actions.
+template <typename Button>
+class PressedByRelease : public Button {
 public:
-    /// True if the press was one of the two keys and is dealt with.
-    bool Pressed(const QKeyEvent& event, QAbstractButton& button) {
-        if (!IsPressKey(event)) {
-            return false;
-        }
-        if (!event.isAutoRepeat()) {
-            key_ = event.key();
-            button.setDown(true);
-        }
-        return true;
+    explicit PressedByRelease(QWidget* parent) : Button(parent) {
+        this->setFocusPolicy(Qt::StrongFocus);
     }
 
-    /// True if this release presses the button.
-    bool Released(const QKeyEvent& event, QAbstractButton& button) {
-        const bool ours = key_ != 0 && event.key() == key_ && !event.isAutoRepeat();
-        if (ours) {
-            key_ = 0;
-            button.setDown(false);
+protected:
+    /// The button's letter with Alt presses it at once. The toolkit would show it pressed for a
+    /// moment first, by a time that is not the program's, and would press it again and again while
+    /// the key is held.
+    bool event(QEvent* event) override {
+        if (event->type() == QEvent::Shortcut) {
+            const auto& shortcut = static_cast<const QShortcutEvent&>(*event);
+            if (!shortcut.isAmbiguous()) {
+                this->setShortcutAutoRepeat(shortcut.shortcutId(), false);
+                this->click();
+                return true;
+            }
         }
-        return ours;
+        return Button::event(event);
     }
 
-    /// True if this was the button's letter with Alt, which presses it at once. The toolkit would
-    /// show it pressed for a moment first, by a time that is not the program's, and would press it
-    /// again and again while the key is held.
-    static bool Shortcut(const QEvent& event, QAbstractButton& button) {
-        if (event.type() != QEvent::Shortcut) {
-            return false;
+    void keyPressEvent(QKeyEvent* event) override {
+        if (!IsPressKey(*event)) {
+            Button::keyPressEvent(event);
+        } else if (!event->isAutoRepeat()) {
+            key_ = event->key();
+            this->setDown(true);
         }
-        const auto& shortcut = static_cast<const QShortcutEvent&>(event);
-        if (shortcut.isAmbiguous()) {
-            return false;
-        }
-        button.setShortcutAutoRepeat(shortcut.shortcutId(), false);
-        button.click();
-        return true;
     }
 
-    /// The keyboard went elsewhere between press and release.
-    void Forget(QAbstractButton& button) {
-        if (key_ != 0) {
-            key_ = 0;
-            button.setDown(false);
+    void keyReleaseEvent(QKeyEvent* event) override {
+        if (key_ != 0 && event->key() == key_ && !event->isAutoRepeat()) {
+            Forget();
+            this->click();
+        } else {
+            event->accept();
         }
+    }
+
+    void focusOutEvent(QFocusEvent* event) override {
+        Forget();
+        Button::focusOutEvent(event);
     }
 
 private:
@@ -63,7 +61,15 @@ private:
                event.key() == Qt::Key_Enter;
     }
 
-    int key_ = 0;
+    /// The key that went down here is let go, or counts no more.
+    void Forget() {
+        if (key_ != 0) {
+            key_ = 0;
+            this->setDown(false);
+        }
+    }
+
+    int key_ = 0;  // the one that is down, 0 for none
 };
 
 }  // namespace trameli

@@ -28,6 +28,8 @@ private:
     /// The place on the disk; parts that exist in other letters' case are taken as they stand
     /// there. Nothing for a path that names nothing.
     std::optional<std::filesystem::path> Find(const std::string& path) const;
+    /// The same for a file, under the name that it gets if there is none yet.
+    std::optional<std::filesystem::path> FindOrName(const std::string& path) const;
 
     std::filesystem::path root_;
     std::filesystem::path program_;

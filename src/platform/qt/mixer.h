@@ -18,6 +18,7 @@ namespace trameli {
 /// be heard and given back after some silence: an open one costs processor time for nothing.
 class Mixer {
 public:
+    /// Neither library nor device is touched yet.
     Mixer(LocalFileSystem files, MixerOptions options);
     ~Mixer();
     Mixer(const Mixer&) = delete;

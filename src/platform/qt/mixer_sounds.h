@@ -17,6 +17,7 @@ class Mixer;
 /// slow, hangs or is not there holds nothing up. One at a time in a process.
 class MixerSounds final : public Sounds {
 public:
+    /// Starts nothing but the thread; the device is opened for the first sound.
     explicit MixerSounds(LocalFileSystem files, MixerOptions options = {});
     /// Ends all sounds. A thread that hangs in the sound system is left behind.
     ~MixerSounds() override;

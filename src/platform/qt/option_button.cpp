@@ -14,11 +14,9 @@ namespace trameli {
 namespace {
 
 /// Drawn here and not by the style, so that the circle grows with the font.
-class OptionWidget : public QRadioButton {
+class OptionWidget : public PressedByRelease<QRadioButton> {
 public:
-    explicit OptionWidget(QWidget* parent) : QRadioButton(parent) {
-        setFocusPolicy(Qt::StrongFocus);
-    }
+    using PressedByRelease::PressedByRelease;
 
 protected:
     bool hitButton(const QPoint& position) const override { return rect().contains(position); }
@@ -50,29 +48,6 @@ protected:
             painter.drawRect(rect().adjusted(1, 1, -1, -1));
         }
     }
-
-    bool event(QEvent* event) override {
-        return KeyPressOnRelease::Shortcut(*event, *this) || QRadioButton::event(event);
-    }
-    void keyPressEvent(QKeyEvent* event) override {
-        if (!keys_.Pressed(*event, *this)) {
-            QRadioButton::keyPressEvent(event);
-        }
-    }
-    void keyReleaseEvent(QKeyEvent* event) override {
-        if (keys_.Released(*event, *this)) {
-            click();
-        } else {
-            event->accept();
-        }
-    }
-    void focusOutEvent(QFocusEvent* event) override {
-        keys_.Forget(*this);
-        QRadioButton::focusOutEvent(event);
-    }
-
-private:
-    KeyPressOnRelease keys_;
 };
 
 }  // namespace

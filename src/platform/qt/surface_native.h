@@ -17,6 +17,7 @@ struct Surface::Native {
     /// Called with the area that has to be shown anew, in logical pixels.
     std::function<void(const QRect&)> Changed;
 
+    /// Called once, before anything else.
     void Setup(double twipsPerPixel, Colour background);
     /// Keeps what is drawn, as far as the new size has room for it.
     void Resize(const QSize& size, double devicePixelRatio);
@@ -24,6 +25,7 @@ struct Surface::Native {
     void Background(Colour colour);
     /// A picture that `Clear` puts on the background, at the upper left corner.
     void Backdrop(QImage picture);
+    /// Back to background and backdrop.
     void Clear();
 
     /// Fills the rectangle between two corners given in twips.
@@ -33,10 +35,12 @@ struct Surface::Native {
     /// A line with round ends.
     void Round(double x1, double y1, double x2, double y2, int pen, Colour colour);
 
+    /// As Surface::FillRings.
     void Rings(std::span<const Colour> colours, double radius);
 
     /// Shows what lies in `where`, in logical pixels.
     void Paint(QPainter& painter, const QRect& where);
+    /// All pixels, in the resolution of the device.
     const QImage& Image() const { return image_; }
 
 private:
