@@ -2,7 +2,7 @@
 # Installs what is missing, builds the benchmarks, runs them all, and prints how the project's
 # code compares with its yardsticks. An argument picks benchmarks by a regular expression.
 set -euo pipefail
-cd -- "$(dirname -- "${BASH_SOURCE[0]}")"
+cd -P -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")"
 # shellcheck source=scripts/packages.sh
 . scripts/packages.sh
 # shellcheck source=scripts/build.sh

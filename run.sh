@@ -4,7 +4,7 @@
 #   TRAMELI_GEOMETRY       size of the virtual display, if one is needed (1366x768)
 #   TRAMELI_SKIP_PACKAGES  if set, nothing is checked and nothing is installed
 set -euo pipefail
-cd -- "$(dirname -- "${BASH_SOURCE[0]}")"
+cd -P -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")"
 # shellcheck source=scripts/packages.sh
 . scripts/packages.sh
 # shellcheck source=scripts/build.sh

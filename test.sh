@@ -2,7 +2,7 @@
 # Installs what is missing, builds with warnings as errors, and runs all tests twice: on the
 # optimised build and under the sanitizers. An argument picks tests by name, as CTest's -R does.
 set -euo pipefail
-cd -- "$(dirname -- "${BASH_SOURCE[0]}")"
+cd -P -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")"
 # shellcheck source=scripts/packages.sh
 . scripts/packages.sh
 # shellcheck source=scripts/build.sh

@@ -15,33 +15,39 @@ void ModuloPerIni::ImpostaPredefiniti() {
 }
 
 void ModuloPerIni::ScriviUtente() {
-    const std::string& file = stato_.FileUtente;
-    if (!illeggibili_.contains(Maiuscolo(file)) && fileSystem_.Replace(file, Testo(stato_))) {
-        nonSalvati_.erase(Maiuscolo(file));
+    const std::string chiave = Maiuscolo(stato_.FileUtente);
+    const bool risparmiato = nonLetti_.contains(chiave) && EsisteFile(stato_.FileUtente);
+    if (!risparmiato && fileSystem_.Replace(stato_.FileUtente, Testo(stato_))) {
+        Conosciuto(chiave);
+        nonSalvati_.erase(chiave);
         return;
     }
-    nonSalvati_[Maiuscolo(file)] = stato_;
+    nonSalvati_[chiave] = stato_;
     if (!avvisato_) {
         avvisato_ = true;  // before the message: while it is shown, a timer can save again
         dialogs_.Critical(
-            "Impossibile salvare le impostazioni.\n" + fileSystem_.OnThisMachine(file), "Trameli");
+            "Impossibile salvare le impostazioni.\n" + fileSystem_.OnThisMachine(stato_.FileUtente),
+            "Trameli");
     }
 }
 
 void ModuloPerIni::LeggiUtente() {
-    const std::string file = Maiuscolo(stato_.FileUtente);
+    const std::string chiave = Maiuscolo(stato_.FileUtente);
     std::optional<std::string> testo;
     if (EsisteFile(stato_.FileUtente)) {
         testo = fileSystem_.Read(stato_.FileUtente, LimiteLettura);
-        if (!testo) {
-            illeggibili_.insert(file);
-        } else if (illeggibili_.erase(file) > 0) {
-            // What its user once saved is back, and counts more than what stood in for it.
-            nonSalvati_.erase(file);
-        }
+    }
+    if (!testo && !conosciuti_.contains(chiave)) {
+        nonLetti_.insert(chiave);
+    } else if (testo && nonLetti_.contains(chiave)) {
+        // What its user once saved is there after all, and counts more than what stood in for it.
+        nonSalvati_.erase(chiave);
+    }
+    if (testo) {
+        Conosciuto(chiave);
     }
     std::optional<Impostazioni> lette = testo ? Leggi(*testo) : std::nullopt;
-    if (const auto trovato = nonSalvati_.find(file); trovato != nonSalvati_.end()) {
+    if (const auto trovato = nonSalvati_.find(chiave); trovato != nonSalvati_.end()) {
         lette = trovato->second;
     }
     if (lette) {
@@ -49,6 +55,12 @@ void ModuloPerIni::LeggiUtente() {
     } else {
         ImpostaPredefiniti();
     }
+}
+
+/// From now on the run knows what is in the file.
+void ModuloPerIni::Conosciuto(const std::string& chiave) {
+    conosciuti_.insert(chiave);
+    nonLetti_.erase(chiave);
 }
 
 bool ModuloPerIni::EsisteFile(const std::string& percorso) const {

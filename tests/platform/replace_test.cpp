@@ -51,11 +51,14 @@ TEST_F(ReplaceTest, GivesANewFileASmallExtension) {
 TEST_F(ReplaceTest, ReplacesWhatALinkPointsTo) {
     fs::create_directory(Root / "elsewhere");
     Write(Root / "elsewhere" / "real.ini", "old");
-    fs::create_symlink("elsewhere/real.ini", Root / "link.ini");
-    EXPECT_TRUE(Files.Replace("C:\\link.ini", "new"));
-    EXPECT_TRUE(fs::is_symlink(Root / "link.ini"));
-    EXPECT_EQ(BytesOf(Root / "elsewhere" / "real.ini"), "new");
-    EXPECT_EQ(std::distance(fs::directory_iterator(Root / "elsewhere"), {}), 1);
+    for (const char* target : {"real.ini", "missing.ini"}) {
+        fs::remove(Root / "link.ini");
+        fs::create_symlink(fs::path("elsewhere") / target, Root / "link.ini");
+        EXPECT_TRUE(Files.Replace("C:\\link.ini", "new"));
+        EXPECT_TRUE(fs::is_symlink(Root / "link.ini"));
+        EXPECT_EQ(BytesOf(Root / "elsewhere" / target), "new");
+    }
+    EXPECT_EQ(std::distance(fs::directory_iterator(Root / "elsewhere"), {}), 2);
 }
 
 TEST_F(ReplaceTest, RefusesWhatIsNoFile) {
@@ -118,6 +121,19 @@ TEST_F(ReplaceTest, KeepsTheOldFileWhereNothingMayBeWritten) {
     fs::permissions(Root, fs::perms::all);
     fs::permissions(Root / "file.ini", fs::perms(0444));
     EXPECT_EQ(replaceAsNobody(), 0);
+    EXPECT_EQ(BytesOf(Root / "file.ini"), "old");
+    EXPECT_EQ(EntriesLeft(), 1);
+}
+
+TEST_F(ReplaceTest, TakesNoFileForMissingInAFolderThatCannotBeLookedThrough) {
+    Write(Root / "file.ini", "old");
+    fs::permissions(Root / "file.ini", fs::perms::all);
+    fs::permissions(Root, fs::perms(0333));
+    EXPECT_EQ(RunInChild([&] {
+                  return !BecomeNobody() ? 2 : Files.Replace("C:\\FILE.INI", "new") ? 1 : 0;
+              }),
+              0);
+    fs::permissions(Root, fs::perms::all);
     EXPECT_EQ(BytesOf(Root / "file.ini"), "old");
     EXPECT_EQ(EntriesLeft(), 1);
 }

@@ -117,6 +117,24 @@ TEST_F(ModuloPerIniTest, AFileThatCannotBeReadIsNotReplaced) {
     EXPECT_EQ(File.Contenuto(FileDiAnna), Testo(Lette()));
 }
 
+TEST_F(ModuloPerIniTest, AFileThatTurnsUpAfterItWasMissedIsNotReplaced) {
+    const std::string diAnna = Testo(Lette());
+    Altera();
+    Modulo.LeggiUtente();
+    EXPECT_EQ(Lette(), Impostazioni());
+    ASSERT_TRUE(File.Replace(FileDiAnna, diAnna));
+    Altera();
+    Modulo.ScriviUtente();
+    EXPECT_EQ(File.Contenuto(FileDiAnna), diAnna);
+    EXPECT_EQ(Finestre.Messaggi.size(), 1U);
+
+    Modulo.LeggiUtente();
+    EXPECT_EQ(Testo(Lette()), diAnna);
+    Altera();
+    Modulo.ScriviUtente();
+    EXPECT_EQ(File.Contenuto(FileDiAnna), Testo(Lette()));
+}
+
 TEST_F(ModuloPerIniTest, OnlyTheStartOfAFileIsRead) {
     const std::string lungo = Testo(Lette()) + std::string(1 << 20, 'x');
     ASSERT_TRUE(File.Replace(FileDiAnna, lungo));

@@ -69,10 +69,14 @@ std::optional<std::vector<std::string>> PartsOf(std::string_view path) {
     return parts;
 }
 
-/// The names in a folder that the program can name too, by their names without regard to case; of
-/// several the first in alphabetical order.
-std::map<QString, std::string> NamesIn(const fs::path& folder) {
-    std::map<QString, std::string> names;
+/// Names in a folder by themselves without regard to case.
+using Names = std::map<QString, std::string>;
+
+/// The names in a folder that the program can name too; of several that differ only in case the
+/// first in alphabetical order. A folder that is not there has none; nothing if the folder cannot
+/// be looked through.
+std::optional<Names> NamesIn(const fs::path& folder) {
+    Names names;
     std::error_code error;
     for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
          entry.increment(error)) {
@@ -85,14 +89,35 @@ std::map<QString, std::string> NamesIn(const fs::path& folder) {
             place->second = std::move(name);
         }
     }
+    if (error && error != std::errc::no_such_file_or_directory &&
+        error != std::errc::not_a_directory) {
+        return std::nullopt;
+    }
     return names;
 }
 
-/// The entry of that name in any case, else the name as it is.
-fs::path Within(const fs::path& folder, const std::string& name) {
+/// The entry of that name in any case, else the name as it is. Nothing if that cannot be told: a
+/// file in another spelling must not be taken for a missing one.
+std::optional<fs::path> Within(const fs::path& folder, const std::string& name) {
     const auto names = NamesIn(folder);
-    const auto found = names.find(Folded(name));
-    return folder / (found == names.end() ? name : found->second);
+    if (!names) {
+        return std::nullopt;
+    }
+    const auto found = names->find(Folded(name));
+    return folder / (found == names->end() ? name : found->second);
+}
+
+/// Where a chain of links ends, be there a file or not; nothing if it never does.
+std::optional<fs::path> EndOfLinks(fs::path place) {
+    constexpr int longestChain = 40;  // as long as the system itself goes along
+    std::error_code error;
+    for (int i = 0; i < longestChain; ++i) {
+        if (!fs::is_symlink(place, error)) {
+            return place;
+        }
+        place = place.parent_path() / fs::read_symlink(place, error);
+    }
+    return std::nullopt;
 }
 
 /// The extension of a new file in small letters, whatever a path literal spells.
@@ -154,10 +179,10 @@ std::optional<fs::path> LocalFileSystem::Find(const std::string& path) const {
     if (!parts) {
         return std::nullopt;
     }
-    fs::path place = inProgramFolder ? program_ : root_;
+    std::optional<fs::path> place = inProgramFolder ? program_ : root_;
     for (const std::string& part : *parts) {
-        place = Within(place, part);
-        if (place.native().size() > LongestPath) {
+        place = Within(*place, part);
+        if (!place || place->native().size() > LongestPath) {
             return std::nullopt;
         }
     }
@@ -231,14 +256,12 @@ bool LocalFileSystem::Replace(const std::string& path, const std::string& bytes)
     if (!place || IsInProgramFolder(path)) {
         return false;
     }
-    std::error_code error;
-    if (fs::is_symlink(*place, error)) {
-        // What the link points to is replaced, not the link.
-        place = fs::weakly_canonical(*place, error);
-        if (error) {
-            return false;
-        }
+    // What a link points to is replaced, not the link.
+    place = EndOfLinks(*place);
+    if (!place) {
+        return false;
     }
+    std::error_code error;
     // A file that somebody made read-only stays as it is.
     if (fs::exists(*place, error) &&
         (!fs::is_regular_file(*place, error) || access(place->c_str(), W_OK) != 0)) {
@@ -267,7 +290,7 @@ std::vector<std::string> LocalFileSystem::List(const std::string& folder,
                                                const std::string& ending) const {
     std::vector<std::string> names;
     if (const auto place = Find(folder)) {
-        for (const auto& [folded, name] : NamesIn(*place)) {
+        for (const auto& [folded, name] : NamesIn(*place).value_or(Names())) {
             if (folded.endsWith(Folded(ending))) {
                 names.push_back(name);
             }

@@ -55,9 +55,7 @@ Mixer::~Mixer() {
 }
 
 bool Mixer::Open() {
-    if (open_ && HasLostDevice()) {
-        Close();
-    }
+    CloseIfLost();
     lastSound_ = Now::now();
     if (open_) {
         return true;
@@ -66,9 +64,7 @@ bool Mixer::Open() {
         return false;
     }
     open_ = sdl_.Load() && OpenDevice();
-    if (!open_) {
-        retryAt_ = Now::now() + options_.Retry;
-    }
+    retryAt_ = Now::now() + options_.Retry;
     return open_;
 }
 
@@ -95,6 +91,7 @@ void Mixer::Close() {
     if (!open_) {
         return;
     }
+    retryAt_ = {};
     StopMusic();
     sdl_.Mix_HaltChannel(OnlyChannel);
     // The waves stay for the next time; they were decoded for a format that is always asked for.
@@ -103,16 +100,23 @@ void Mixer::Close() {
     open_ = false;
 }
 
-bool Mixer::HasLostDevice() const {
-    return sdl_.SDL_GetAudioDeviceStatus(OnlyDevice) == SDL_AUDIO_STOPPED;
+/// One that went after it had played for a while was unplugged, and another may be there at once.
+/// One that goes again and again is tried no more often than one that does not open.
+bool Mixer::CloseIfLost() {
+    if (!open_ || sdl_.SDL_GetAudioDeviceStatus(OnlyDevice) != SDL_AUDIO_STOPPED) {
+        return false;
+    }
+    const auto retryAt = retryAt_;
+    Close();
+    retryAt_ = retryAt;
+    return true;
 }
 
 void Mixer::Rest() {
     if (!open_) {
         return;
     }
-    if (HasLostDevice()) {
-        Close();
+    if (CloseIfLost()) {
         return;
     }
     const auto now = Now::now();

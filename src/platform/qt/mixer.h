@@ -48,7 +48,7 @@ private:
     bool Open();
     bool OpenDevice() const;
     void Close();
-    bool HasLostDevice() const;
+    bool CloseIfLost();
     std::filesystem::path SoundFont() const;
     Mix_Chunk* Wave(const std::string& path);
     SDL_RWops* Stream(const std::string& bytes) const;
@@ -57,7 +57,7 @@ private:
     LocalFileSystem files_;
     MixerOptions options_;
     bool open_ = false;
-    std::chrono::steady_clock::time_point retryAt_{};
+    std::chrono::steady_clock::time_point retryAt_{};  ///< no device is opened before
     std::chrono::steady_clock::time_point lastSound_{};
     /// Decoded once; what could not be is kept as nothing, so that it is not tried at every step.
     std::map<std::string, std::unique_ptr<Mix_Chunk, FreeChunk>> waves_;
