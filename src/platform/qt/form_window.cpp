@@ -146,11 +146,13 @@ bool FormWindow::eventFilter(QObject* object, QEvent* event) {
             menuHasKey_ = QApplication::activePopupWidget() != nullptr;
             break;
         case QEvent::KeyPress:
-        case QEvent::KeyRelease:
-            if (FilterKey(*static_cast<QKeyEvent*>(event))) {
+        case QEvent::KeyRelease: {
+            auto& key = *static_cast<QKeyEvent*>(event);
+            if (repeats_.Withholds(*windowHandle(), key) || FilterKey(key)) {
                 return true;
             }
             break;
+        }
         case QEvent::Expose:
             if (!activated_) {
                 // After the window has dealt with it.
