@@ -103,7 +103,9 @@ private:
 /// A program of two scripted forms, A and B, on a clock moved by hand.
 class ScriptedProgram : public testing::Test {
 protected:
-    ScriptedProgram() {
+    ScriptedProgram() : ScriptedProgram(nullptr) {}
+    /// On another screen than the one without a desktop.
+    explicit ScriptedProgram(Screen* screen) : Program(Time, screen ? *screen : Display) {
         ScriptedForm::Alive = 0;
         for (const char* name : {"A", "B"}) {
             Program.Register(name, [this, name](Forms& forms) {
@@ -129,7 +131,7 @@ protected:
     FixedScreen Display{1024, 768};
     std::map<std::string, ScriptedForm::Script> Scripts;
     Log Seen;
-    Forms Program{Time, Display};
+    Forms Program;
 };
 
 }  // namespace trameli

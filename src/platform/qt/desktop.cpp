@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QEventLoop>
 #include <QMessageBox>
+#include <QPointer>
 #include <QScreen>
 #include <QStyle>
 #include <QTimer>
@@ -81,7 +82,13 @@ void DesktopDialogs::Critical(const std::string& text, const std::string& title)
     QMessageBox box(QMessageBox::Critical, ToQt(title), ToQt(text), QMessageBox::Ok,
                     QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
+    // Where nobody manages windows, nobody else takes the keyboard to the box and back.
+    const QPointer<QWidget> before = QApplication::activeWindow();
+    QTimer::singleShot(0, &box, [&box] { box.activateWindow(); });
     box.exec();
+    if (before && before->isVisible()) {
+        before->activateWindow();
+    }
 }
 
 void PrepareToolkit() {

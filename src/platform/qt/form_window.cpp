@@ -62,7 +62,12 @@ FormWindow::FormWindow(Form& form, QSize clientSize)
     client_.resize(clientSize);
     settling_.setSingleShot(true);
     settling_.setInterval(SettlingTime);
-    connect(&settling_, &QTimer::timeout, this, [this] { Activate(); });
+    connect(&settling_, &QTimer::timeout, this, [this] {
+        // No frame came, so perhaps nobody manages windows here, and nobody else gives the keyboard
+        // to a new one. Keys would find their way all the same, but not the focus.
+        activateWindow();
+        Activate();
+    });
 }
 
 void FormWindow::Title(const QString& title) {
@@ -149,11 +154,13 @@ bool FormWindow::eventFilter(QObject* object, QEvent* event) {
             menuHasKey_ = QApplication::activePopupWidget() != nullptr;
             break;
         case QEvent::KeyPress:
-        case QEvent::KeyRelease:
-            if (FilterKey(*static_cast<QKeyEvent*>(event))) {
+        case QEvent::KeyRelease: {
+            auto& key = *static_cast<QKeyEvent*>(event);
+            if (repeats_.Withholds(*windowHandle(), key) || FilterKey(key)) {
                 return true;
             }
             break;
+        }
         case QEvent::Expose:
             if (!activated_) {
                 // After the window has dealt with it.

@@ -7,6 +7,7 @@
 
 #include "platform/form.h"
 #include "platform/qt/key_gate.h"
+#include "platform/qt/key_repeats.h"
 
 namespace trameli {
 
@@ -59,6 +60,7 @@ private:
 
     Form& form_;
     ClientArea& client_;
+    KeyRepeats repeats_;
     KeyGate keys_;
     bool answersPress_ = false;
     QSet<int> kept_;           // keys held down that the form keeps from its controls

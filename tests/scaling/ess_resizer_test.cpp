@@ -1,0 +1,118 @@
+// Controls that keep their proportions when their window gets another size.
+#include "scaling/ess_resizer.h"
+
+#include <algorithm>
+
+#include "platform/bare_program.h"
+#include "platform/command_button.h"
+#include "platform/frame.h"
+#include "platform/label.h"
+#include "platform/line.h"
+#include "platform/option_button.h"
+#include "platform/qt/form_window.h"
+
+namespace trameli {
+namespace {
+
+struct Disegno {
+    VisualControl* Controllo;
+    Bounds Posto;
+    double Punti;
+};
+
+class EssResizerTest : public BareProgram {
+protected:
+    EssResizerTest() {
+        Fuori.Font({"Arial", 72, true});
+        Dentro.Font({"Arial", 14.25, false});
+        TheForm.WhenResized = [this] { Resizer.Ridimensiona(); };
+        Resizer.Carica();
+    }
+
+    void Ridimensiona(QSize pixel) {
+        WindowOf(TheForm).resize(pixel);
+        Pump();
+        ASSERT_EQ(WindowOf(TheForm).size(), pixel);
+    }
+
+    /// Every control in proportion to the form's size just now.
+    void TuttoInProporzione() const {
+        const double x = TheForm.Width() / Larghezza;
+        const double y = TheForm.Height() / Altezza;
+        for (const Disegno& disegno : Disegni) {
+            const VisualControl& controllo = *disegno.Controllo;
+            SCOPED_TRACE(controllo.Name());
+            EXPECT_DOUBLE_EQ(controllo.Left(), disegno.Posto.Left * x);
+            EXPECT_DOUBLE_EQ(controllo.Top(), disegno.Posto.Top * y);
+            EXPECT_DOUBLE_EQ(controllo.Width(), disegno.Posto.Width * x);
+            EXPECT_DOUBLE_EQ(controllo.Height(), disegno.Posto.Height * y);
+            // Letters grow as far as both directions allow, or they would not fit any more.
+            EXPECT_DOUBLE_EQ(controllo.Font().Points, disegno.Punti * std::min(x, y));
+        }
+    }
+
+    static constexpr double Larghezza = 6000;
+    static constexpr double Altezza = 4500;
+
+    Label Fuori{TheForm, "Fuori", {0, 60, 5990, 1500}, "Trameli"};
+    Frame Cornice{TheForm, "Cornice", {120, 1600, 5700, 1400}, "Livello"};
+    OptionButton Dentro{Cornice, "Dentro", {240, 480, 1000, 375}, "1"};
+    OptionButton Accanto{Cornice, "Accanto", {1240, 480, 1000, 375}, "2"};
+    CommandButton Bottone{TheForm, "Bottone", {3360, 3080, 2315, 1095}, "&Avvio"};
+    Line Linea{TheForm, "Linea", 0, 4400, 3000, 4400, 1, Black};
+    EssResizer Resizer{TheForm};
+
+    const double Normale = Font{}.Points;
+    std::vector<Disegno> Disegni{{&Fuori, Fuori.Place(), 72},
+                                 {&Cornice, Cornice.Place(), Normale},
+                                 {&Dentro, Dentro.Place(), 14.25},
+                                 {&Accanto, Accanto.Place(), Normale},
+                                 {&Bottone, Bottone.Place(), Normale}};
+};
+
+TEST_F(EssResizerTest, KeepsPlacesSizesAndFontsInProportionAtEverySize) {
+    Bring();
+    // Wide, upright, tiny, huge, and the design's own size at the end: nothing adds up.
+    for (const QSize pixel :
+         {QSize(800, 600), QSize(1366, 768), QSize(300, 1900), QSize(7, 5), QSize(1, 1),
+          QSize(401, 299), QSize(7680, 4320), QSize(403, 307), QSize(400, 300)}) {
+        SCOPED_TRACE(std::to_string(pixel.width()) + "x" + std::to_string(pixel.height()));
+        ASSERT_NO_FATAL_FAILURE(Ridimensiona(pixel));
+        TuttoInProporzione();
+        // Also in whole pixels: inside stays inside, and what touches goes on touching.
+        const QRect dentro = WidgetOf(Dentro).geometry();
+        EXPECT_TRUE(dentro.isEmpty() || WidgetOf(Cornice).rect().contains(dentro));
+        EXPECT_EQ(dentro.right() + 1, WidgetOf(Accanto).geometry().left());
+        const QFont lettere = WidgetOf(Fuori).font();
+        EXPECT_NEAR(lettere.pixelSize(), std::max(1.0, Fuori.Font().Points * 20 / 15), 0.5);
+    }
+    EXPECT_EQ(Fuori.Left(), 0);
+    EXPECT_EQ(Fuori.Width(), 5990);
+    EXPECT_EQ(Fuori.Font().Points, 72);
+    EXPECT_TRUE(Fuori.Font().Bold);
+}
+
+TEST_F(EssResizerTest, LeavesAloneWhatItDidNotRecord) {
+    CommandButton tardi(TheForm, "Tardi", {100, 3300, 900, 600});
+    // A line has ends instead of a place.
+    const QRect linea = WidgetOf(Linea).geometry();
+    Bring();
+    EXPECT_EQ(tardi.Left(), 100);
+    EXPECT_EQ(tardi.Height(), 600);
+    EXPECT_EQ(WidgetOf(Linea).geometry(), linea);
+}
+
+TEST_F(EssResizerTest, TakesForTheDesignWhatItRecordedLast) {
+    EssResizer altro(TheForm);
+    TheForm.WhenResized = [&] { altro.Ridimensiona(); };
+    Bring();
+    EXPECT_EQ(Fuori.Width(), 5990) << "nothing was recorded yet";
+    altro.Carica();
+    ASSERT_NO_FATAL_FAILURE(Ridimensiona({1600, 600}));
+    EXPECT_EQ(Fuori.Width(), 2 * 5990);
+    EXPECT_EQ(Fuori.Height(), 1500);
+    EXPECT_EQ(Fuori.Font().Points, 72);
+}
+
+}  // namespace
+}  // namespace trameli

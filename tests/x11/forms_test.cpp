@@ -1,0 +1,209 @@
+// Forms on a real X server: their size when they are activated, and keys that the server repeats.
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QKeyEvent>
+#include <QProcess>
+#include <QScreen>
+#include <QTest>
+#include <QTimer>
+#include <QWindow>
+
+#include "platform/qt/desktop_services.h"
+#include "platform/qt/form_window.h"
+#include "platform/scripted_form.h"
+
+namespace trameli {
+namespace {
+
+/// Milliseconds after which a case is hopeless; nothing is expected to take that long.
+constexpr int Deadline = 20000;
+
+/// Serves events until `condition` holds. False if it never does.
+bool Until(const std::function<bool()>& condition) {
+    return QTest::qWaitFor(condition, Deadline);
+}
+
+/// Presses, holds and releases keys as a keyboard at the server would.
+void Keyboard(const QStringList& what) {
+    ASSERT_EQ(QProcess::execute(QStringLiteral("xdotool"), what), 0);
+}
+
+/// A key that the server repeats as long as this lives.
+class HeldKey {
+public:
+    explicit HeldKey(QString key) : key_(std::move(key)) { Keyboard({"keydown", key_}); }
+    ~HeldKey() { Keyboard({"keyup", key_}); }
+    HeldKey(const HeldKey&) = delete;
+    HeldKey& operator=(const HeldKey&) = delete;
+
+private:
+    QString key_;
+};
+
+/// Counts the presses that the server made up.
+class RepeatCounter : public QObject {
+public:
+    int Repeats = 0;
+
+    RepeatCounter() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* object, QEvent* event) override {
+        if (object->isWindowType() && event->type() == QEvent::KeyPress) {
+            Repeats += static_cast<QKeyEvent*>(event)->isAutoRepeat();
+        }
+        return false;
+    }
+};
+
+/// Enough for the server's pairs of release and press to come apart now and then.
+constexpr int ManyRepeats = 150;
+
+class FormsOnX11 : public ScriptedProgram {
+protected:
+    FormsOnX11() : ScriptedProgram(&RealScreen()) {}
+
+    void SetUp() override {
+        ASSERT_EQ(QGuiApplication::platformName(), "xcb") << "see on_display.sh";
+    }
+
+    static Screen& RealScreen() {
+        static DesktopScreen screen;
+        return screen;
+    }
+
+    /// The window with its frame, if the window manager gave it one, takes the whole screen.
+    bool FillsTheScreen(const std::string& name) {
+        const QWindow& window = *WindowOf(Get(name)).windowHandle();
+        return window.isExposed() && window.frameGeometry() == window.screen()->availableGeometry();
+    }
+    /// Waits until a form that was shown is activated and has the whole screen.
+    void AwaitFront(const std::string& name) {
+        ASSERT_TRUE(Until([&] {
+            return Program.Find(name) && Times(name + " Activate") > 0 && FillsTheScreen(name) &&
+                   WindowOf(Get(name)).isActiveWindow();
+        })) << name;
+    }
+    /// Types a key that nobody else uses, and returns what was noted before it arrived.
+    Log SeenUpToNow(const std::string& name) {
+        const std::string mark = name + " KeyUp 112";
+        Keyboard({"key", "F1"});
+        EXPECT_TRUE(Until([&] { return Times(mark) > 0; }));
+        return {Seen.begin(), std::find(Seen.begin(), Seen.end(), mark)};
+    }
+
+    RepeatCounter Counter;
+};
+
+TEST_F(FormsOnX11, AreActivatedOnceAndAtTheirFinalSize) {
+    struct Size {
+        double Width;
+        double Height;
+    };
+    std::map<std::string, Size> activated;
+    for (const char* name : {"A", "B"}) {
+        Scripts[name].Activate = [&, name](ScriptedForm& form) {
+            activated[name] = {form.Width(), form.Height()};
+        };
+        // As the game's forms hand over to each other.
+        Scripts[name].KeyUp = [&, name](ScriptedForm& form, int) {
+            form.Forms().Show(*name == 'A' ? "B" : "A");
+            form.Forms().Unload(form);
+        };
+    }
+    Program.Show("A");
+    for (const std::string name : {"A", "B", "A", "B"}) {
+        SCOPED_TRACE(name);
+        ASSERT_NO_FATAL_FAILURE(AwaitFront(name));
+        const Size size{Get(name).Width(), Get(name).Height()};
+        EXPECT_EQ(activated[name].Width, size.Width);
+        EXPECT_EQ(activated[name].Height, size.Height);
+        EXPECT_EQ(Times(name + " Load"), 1);
+        EXPECT_EQ(Times(name + " Activate"), 1);
+        EXPECT_GE(Times(name + " Resize"), 1);
+        const Log seen = SeenUpToNow(name);
+        const auto activate = std::find(seen.begin(), seen.end(), name + " Activate");
+        EXPECT_EQ(std::find(activate, seen.end(), name + " Resize"), seen.end());
+        std::erase_if(Seen, [&](const auto& line) { return line.starts_with(name); });
+    }
+}
+
+TEST_F(FormsOnX11, SeeAHeldKeyAsOneStroke) {
+    Program.Show("A");
+    ASSERT_NO_FATAL_FAILURE(AwaitFront("A"));
+    struct Row {
+        const char* Key;
+        std::function<void(ScriptedForm&)> Prepare;
+        Log Expected;
+    };
+    const Row rows[] = {
+        {"Right", [](ScriptedForm& form) { form.Board.SetFocus(); }, {"A KeyUp 39"}},
+        {"space",
+         [](ScriptedForm& form) { form.First.SetFocus(); },
+         {"A KeyUp 32", "A First_KeyUp 32", "A First_Click"}},
+        {"Return",
+         [](ScriptedForm& form) { form.First.SetFocus(); },
+         {"A KeyUp 13", "A First_KeyUp 13", "A First_Click"}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.Key);
+        row.Prepare(Get("A"));
+        Pump();
+        Seen.clear();
+        Counter.Repeats = 0;
+        {
+            const HeldKey held(row.Key);
+            ASSERT_TRUE(Until([&] { return Counter.Repeats >= ManyRepeats; }));
+            EXPECT_EQ(Seen, Log{});
+        }
+        EXPECT_EQ(SeenUpToNow("A"), row.Expected);
+    }
+}
+
+TEST_F(FormsOnX11, SeeNothingOfAKeyThatIsStillHeldFromTheFormBefore) {
+    Scripts["A"].KeyDown = [](ScriptedForm& form, int) {
+        form.Forms().Show("B");
+        form.Forms().Unload(form);
+        return false;
+    };
+    Program.Show("A");
+    ASSERT_NO_FATAL_FAILURE(AwaitFront("A"));
+    {
+        const HeldKey held("space");
+        ASSERT_NO_FATAL_FAILURE(AwaitFront("B"));
+        Get("B").First.SetFocus();
+        Seen.clear();
+        Counter.Repeats = 0;
+        ASSERT_TRUE(Until([&] { return Counter.Repeats >= ManyRepeats; }));
+    }
+    EXPECT_EQ(SeenUpToNow("B"), Log{});
+}
+
+TEST_F(FormsOnX11, GiveTheKeyboardToAMessageBoxAndGetItBack) {
+    Program.Show("A");
+    ASSERT_NO_FATAL_FAILURE(AwaitFront("A"));
+    Get("A").Second.SetFocus();
+    // The pointer must not help.
+    Keyboard({"mousemove", "5", "760"});
+    QElapsedTimer age;
+    age.start();
+    QTimer eye;
+    bool typed = false;
+    QObject::connect(&eye, &QTimer::timeout, [&] {
+        QWidget* const box = QApplication::activeModalWidget();
+        if (box && box->isActiveWindow() && !typed) {
+            typed = true;
+            Keyboard({"key", "Return"});
+        } else if (box && age.elapsed() > Deadline) {
+            box->close();
+            ADD_FAILURE() << (typed ? "the key did not reach the box" : "no keyboard for the box");
+        }
+    });
+    eye.start(10);
+    DesktopDialogs().Critical("text", "title");
+    eye.stop();
+    EXPECT_TRUE(Until([&] { return WindowOf(Get("A")).isActiveWindow(); }));
+    EXPECT_TRUE(WidgetOf(Get("A").Second).hasFocus());
+}
+
+}  // namespace
+}  // namespace trameli
