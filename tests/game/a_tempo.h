@@ -9,11 +9,8 @@
 
 #include "game/partita.h"
 #include "platform/command_button.h"
-#include "platform/frame.h"
-#include "platform/image.h"
 #include "platform/menu.h"
 #include "platform/scroll_bar.h"
-#include "platform/status_bar.h"
 #include "platform/timer.h"
 
 namespace trameli {
@@ -48,14 +45,7 @@ protected:
 
     Form& Gioco() { return partita_.Finestra("frmTrm1"); }
     bool Aperto() { return partita_.Aperta("frmTrm1"); }
-    Tavolo IlTavolo() {
-        Tavolo tavolo(Gioco(), {8, 11});
-        const double sotto = Trova<Frame>(Gioco(), "FrameSotto").Height() +
-                             2 * Trova<StatusBar>(Gioco(), "StatusBar1").Height();
-        tavolo.Pianta_ = Pianta::Su(Gioco().Width(), Gioco().Height() - sotto, 8, 11,
-                                    Gioco().Forms().Screen().TwipsPerPixelX());
-        return tavolo;
-    }
+    Tavolo IlTavolo() { return Tavolo(Gioco(), {8, 11}); }
     QImage Immagine() { return IlTavolo().Guarda().Immagine(); }
     int Passi() { return IlTavolo().Passi(); }
     int Urti() { return IlTavolo().Urti(); }
@@ -66,18 +56,8 @@ protected:
     MenuItem& Pausa() { return Trova<MenuItem>(Gioco(), "mnuPausa"); }
     CommandButton& Avanti() { return Trova<CommandButton>(Gioco(), "BottoneAvanti"); }
 
-    /// How many pictures of an array are seen; those seen come first.
-    int Visibili(const char* nome, int quante) {
-        int visibili = 0;
-        for (int i = 0; i < quante; ++i) {
-            const bool visibile = WidgetOf(Trova<Image>(Gioco(), nome, i)).isVisible();
-            EXPECT_TRUE(!visibile || visibili == i) << nome << " " << i;
-            visibili += visibile ? 1 : 0;
-        }
-        return visibili;
-    }
-    int Soli() { return Visibili("ImageSole", 5); }
-    int Coppe() { return Visibili("Image1", 4); }
+    int Soli() { return Visibili(Gioco(), "ImageSole", 5); }
+    int Coppe() { return IlTavolo().Coppe(); }
 
     void Tasto(int verso) { Tap(Gioco(), Frecce.at(static_cast<std::size_t>(verso))); }
     void CtrlN() { Tap(Gioco(), Qt::Key_N, Qt::ControlModifier); }

@@ -4,8 +4,11 @@
 #include <QLabel>
 
 #include "game/a_tempo.h"
+#include "platform/frame.h"
+#include "platform/image.h"
 #include "platform/label.h"
 #include "platform/picture_box.h"
+#include "platform/status_bar.h"
 
 namespace trameli {
 namespace {

@@ -308,43 +308,6 @@ TEST_F(ATempo, ComingBackToTheWindowChangesNothing) {
     EXPECT_EQ(Passi(), 3);
 }
 
-class Livelli : public ATempo, public testing::WithParamInterface<int> {};
-
-TEST_P(Livelli, AreFiveMazesLong) {
-    Apri(GetParam());
-    for (int coppe = 1; coppe <= 4; ++coppe) {
-        const auto passi = IlTavolo().Soluzione();
-        Guida(passi);
-        EXPECT_EQ(Passi(), static_cast<int>(passi.size()));
-        EXPECT_EQ(Coppe(), coppe);
-        EXPECT_EQ(Soli(), 5);
-        EXPECT_TRUE(WidgetOf(Avanti()).hasFocus());
-        EXPECT_FALSE(Orologio().Enabled());
-        const QImage prima = Immagine();
-        for (const int verso : {Su, AllaDestra, Giu, AllaSinistra}) {
-            Tasto(verso);
-            partita_.Tempo.Advance(5);
-        }
-        EXPECT_TRUE(WidgetOf(Avanti()).hasFocus());
-        EXPECT_EQ(Immagine(), prima);
-        if (coppe % 2 == 0) {
-            ClickOn(Avanti());
-        } else {
-            Tap(Gioco(), Qt::Key_Space);
-        }
-        EXPECT_FALSE(IlTavolo().Risolto());
-        EXPECT_EQ(Passi(), 0);
-        EXPECT_TRUE(Orologio().Enabled());
-    }
-    Guida(IlTavolo().Soluzione());
-    EXPECT_FALSE(Aperto());
-    EXPECT_EQ(partita_.Aperte(), std::vector<std::string>{"FormFinale"});
-    partita_.Tempo.Advance(10);
-}
-
-INSTANTIATE_TEST_SUITE_P(Tutti, Livelli, testing::Values(5, 6, 7),
-                         [](const auto& voce) { return "Level" + std::to_string(voce.param); });
-
 TEST_F(ATempo, TickAfterTheFinishChangesNothing) {
     Apri();
     Guida(IlTavolo().Soluzione());

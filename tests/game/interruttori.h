@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <string>
 #include <vector>
 
@@ -136,8 +137,9 @@ struct Caso {
 };
 
 inline std::string NomeCaso(const testing::TestParamInfo<Caso>& voce) {
+    constexpr std::array modi{"Keyboard", "TwoKeys", "OneKey"};
     return "Level" + std::to_string(voce.param.Livello) +
-           (voce.param.Modo == Manuale ? "TwoKeys" : "OneKey");
+           modi.at(static_cast<std::size_t>(voce.param.Modo));
 }
 
 }  // namespace trameli

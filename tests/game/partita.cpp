@@ -1,5 +1,7 @@
 #include "game/partita.h"
 
+#include <gtest/gtest.h>
+
 #include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
@@ -7,6 +9,7 @@
 #include <algorithm>
 
 #include "platform/command_button.h"
+#include "platform/image.h"
 #include "platform/menu.h"
 #include "platform/option_button.h"
 #include "platform/picture_box.h"
@@ -42,6 +45,16 @@ void CliccaVoce(Lista& lista, QAction* voce) {
 }
 
 }  // namespace
+
+int Visibili(const Form& form, const char* nome, int quante) {
+    int visibili = 0;
+    for (int i = 0; i < quante; ++i) {
+        const bool visibile = WidgetOf(Trova<Image>(form, nome, i)).isVisible();
+        EXPECT_TRUE(!visibile || visibili == i) << nome << " " << i;
+        visibili += visibile ? 1 : 0;
+    }
+    return visibili;
+}
 
 Partita::Partita(const Disco& disco, PixelSize schermo, std::uint64_t seme)
     : Partita(disco, schermo, std::make_unique<CasualeConSeme>(seme)) {}
@@ -128,9 +141,12 @@ void Partita::Chiudi(Form& form) {
 
 Tavolo::Tavolo(Form& form, Misura misura, const FileUtente& file) : Form_(form), file_(file) {
     const double twips = form.Forms().Screen().TwipsPerPixelX();
-    const double barra = Trova<StatusBar>(form, "StatusBar1").Height();
-    // What lies under the maze: the button and twice the bar, or twice the button.
-    const double sotto = form.Name() == "frmTrm0" ? 660 + 2 * barra : 2 * 780.0;
+    const double barre = 2 * Trova<StatusBar>(form, "StatusBar1").Height();
+    // What lies under the maze: the button and twice the bar, the band and the same, or twice the
+    // button.
+    const double sotto = form.Name() == "frmTrm0"   ? 660 + barre
+                         : form.Name() == "frmTrm1" ? 1455 + barre
+                                                    : 2 * 780.0;
     Pianta_ = Pianta::Su(form.Width(), form.Height() - sotto, misura.Righe, misura.Colonne, twips);
 }
 
@@ -143,32 +159,34 @@ MuriVisti Tavolo::Muri() const {
 }
 
 Posto Tavolo::Partenza() const {
-    const Vista vista = Guarda();
-    for (const Posto& posto : MuriVisti(vista, Colore(RigaPareti)).Aperture()) {
-        if (vista.Muro(posto) == Colore(RigaSimbolo)) {
-            return posto;
-        }
-    }
-    throw std::runtime_error("no symbol in an opening");
+    return Aperture(Guarda()).front();
 }
 
 Posto Tavolo::Arrivo() const {
-    const Posto partenza = Partenza();
-    for (const Posto& posto : Muri().Aperture()) {
-        if (posto != partenza) {
-            return posto;
-        }
-    }
-    throw std::runtime_error("no second opening");
+    return Aperture(Guarda()).back();
 }
 
 std::vector<int> Tavolo::Soluzione() const {
-    const Posto partenza = Partenza();
-    const Posto arrivo = Arrivo();
-    std::vector<int> passi = Muri().Strada(partenza, arrivo);
+    const Vista vista = Guarda();
+    const std::vector<Posto> aperture = Aperture(vista);
+    const Posto& partenza = aperture.front();
+    const Posto& arrivo = aperture.back();
+    std::vector<int> passi = MuriVisti(vista, Colore(RigaPareti)).Strada(partenza, arrivo);
     passi.insert(passi.begin(), Contrario(partenza.Lato));
     passi.push_back(arrivo.Lato);
     return passi;
+}
+
+std::vector<Posto> Tavolo::Aperture(const Vista& vista) const {
+    std::vector<Posto> aperture = MuriVisti(vista, Colore(RigaPareti)).Aperture();
+    const auto simbolo = std::find_if(aperture.begin(), aperture.end(), [&](const Posto& posto) {
+        return vista.Muro(posto) == Colore(RigaSimbolo);
+    });
+    if (aperture.size() != 2 || simbolo == aperture.end()) {
+        throw std::runtime_error("no two openings with the symbol in one of them");
+    }
+    std::iter_swap(aperture.begin(), simbolo);
+    return aperture;
 }
 
 void Tavolo::Passo(int verso, const std::array<int, 4>& tasti) const {

@@ -54,6 +54,9 @@ T& Trova(const Form& form, const std::string& nome, std::optional<int> indice = 
     throw std::runtime_error(form.Name() + " has no " + nome);
 }
 
+/// How many pictures of an array are seen. Those that are seen come first, or else a failure tells.
+int Visibili(const Form& form, const char* nome, int quante);
+
 /// A colour of the settings as a pixel.
 constexpr QRgb Pixel(Colour colour) {
     return qRgb(RedOf(colour), GreenOf(colour), BlueOf(colour));
@@ -124,11 +127,15 @@ public:
     int Urti() const { return NumeroPannello(3); }
     int Passi() const { return NumeroPannello(4); }
     bool Risolto() const;
+    int Coppe() const { return Visibili(Form_, "Image1", 4); }
 
     /// A colour of the player's settings.
     QRgb Colore(Riga riga) const;
 
 private:
+    /// Start and finish.
+    std::vector<Posto> Aperture(const Vista& vista) const;
+
     FileUtente file_;
 };
 

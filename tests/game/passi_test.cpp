@@ -3,7 +3,6 @@
 
 #include "game/partita.h"
 #include "platform/command_button.h"
-#include "platform/image.h"
 
 namespace trameli {
 namespace {
@@ -19,16 +18,6 @@ protected:
         return Tavolo(form, MisureLivelli.at(static_cast<std::size_t>(livello)), file);
     }
 
-    static int Coppe(const Tavolo& tavolo) {
-        int coppe = 0;
-        for (int i = 0; i < 4; ++i) {
-            const bool visibile = WidgetOf(Trova<Image>(tavolo.Form_, "Image1", i)).isVisible();
-            EXPECT_TRUE(visibile || coppe <= i);
-            coppe += visibile ? 1 : 0;
-            EXPECT_TRUE(!visibile || coppe == i + 1) << "cup " << i << " came too early";
-        }
-        return coppe;
-    }
     static CommandButton& Avanti(const Tavolo& tavolo) {
         return Trova<CommandButton>(tavolo.Form_, "BottoneAvanti");
     }
@@ -36,47 +25,6 @@ protected:
     Disco disco_;
     Partita partita_{disco_, {800, 600}, 7};
 };
-
-struct Via {
-    int Livello;
-    const std::array<int, 4>* Tasti;
-};
-
-class DallInizioAllaFine : public AlTavolo, public testing::WithParamInterface<Via> {};
-
-TEST_P(DallInizioAllaFine, EveryStepCountsAndOnlyTheLastOneSolves) {
-    const Tavolo tavolo = Apri(GetParam().Livello);
-    const auto passi = tavolo.Soluzione();
-    ASSERT_GE(passi.size(), 3U);
-    EXPECT_EQ(tavolo.Pannello(3), "boing 0");
-    EXPECT_EQ(tavolo.NumeroPannello(2), GetParam().Livello + 1);
-    EXPECT_EQ(tavolo.Passi(), 0);
-    Posto qui = tavolo.Partenza();
-    for (std::size_t i = 0; i < passi.size(); ++i) {
-        EXPECT_FALSE(tavolo.Risolto());
-        tavolo.Passo(passi[i], *GetParam().Tasti);
-        EXPECT_EQ(tavolo.Passi(), static_cast<int>(i) + 1);
-        // The first step leads into the start cell, the others one cell on.
-        qui = i > 0 ? qui.Dopo({passi[i]}) : qui;
-        // At the end it is behind the finish picture.
-        if (i + 1 < passi.size()) {
-            EXPECT_EQ(tavolo.Guarda().Centro(qui.Riga, qui.Colonna), tavolo.Colore(RigaSimbolo))
-                << "step " << i;
-        }
-    }
-    EXPECT_TRUE(tavolo.Risolto());
-    EXPECT_EQ(tavolo.Urti(), 0);
-    EXPECT_EQ(Coppe(tavolo), 1);
-    EXPECT_TRUE(WidgetOf(Avanti(tavolo)).hasFocus());
-}
-
-INSTANTIATE_TEST_SUITE_P(Livelli, DallInizioAllaFine,
-                         testing::Values(Via{0, &Frecce}, Via{1, &Tastierino}, Via{2, &Frecce},
-                                         Via{3, &Tastierino}, Via{4, &Frecce}, Via{8, &Tastierino},
-                                         Via{11, &Frecce}, Via{13, &Tastierino}, Via{15, &Frecce}),
-                         [](const auto& voce) {
-                             return "Level" + std::to_string(voce.param.Livello);
-                         });
 
 class OgniForm : public AlTavolo, public testing::WithParamInterface<int> {};
 
@@ -176,52 +124,12 @@ TEST_P(OgniForm, SolvedMazeWaitsForTheButton) {
     EXPECT_EQ(tavolo.Passi(), passi);
 }
 
-/// Ways to press the button.
-struct Pressione {
-    const char* Nome;
-    void (*Azione)(Form&);
-};
-
-class Proseguire : public AlTavolo, public testing::WithParamInterface<Pressione> {};
-
-TEST_P(Proseguire, LeadsToTheNextMazeAndItsCup) {
-    const Tavolo tavolo = Apri(9);
-    const MuriVisti primo = tavolo.Muri();
-    for (int coppe = 1; coppe <= 4; ++coppe) {
-        tavolo.Passo(tavolo.Partenza().Lato);  // a hit, so that there is something to clear
-        tavolo.Risolvi();
-        EXPECT_EQ(Coppe(tavolo), coppe);
-        GetParam().Azione(tavolo.Form_);
-        EXPECT_FALSE(tavolo.Risolto());
-        EXPECT_EQ(Coppe(tavolo), coppe);
-        EXPECT_EQ(tavolo.Passi(), 0);
-        EXPECT_EQ(tavolo.Pannello(3), "boing 0");
-    }
-    EXPECT_FALSE(tavolo.Muri() == primo);
-    // The fifth maze has no cup: it ends the game of this level.
-    Form& form = tavolo.Form_;
-    const auto passi = tavolo.Soluzione();
-    Forms& forms = form.Forms();
-    tavolo.Cammina(passi);
-    EXPECT_EQ(forms.Find("frmTrm3"), nullptr);
-    EXPECT_EQ(partita_.Aperte().size(), 1U);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Modi, Proseguire,
-    testing::Values(Pressione{"Space", [](Form& form) { Tap(form, Qt::Key_Space); }},
-                    Pressione{"Enter", [](Form& form) { Tap(form, Qt::Key_Return); }},
-                    Pressione{
-                        "Mouse",
-                        [](Form& form) { ClickOn(Trova<CommandButton>(form, "BottoneAvanti")); }}),
-    [](const auto& voce) { return std::string(voce.param.Nome); });
-
 TEST_P(OgniForm, NewMazeCostsNothing) {
     const Tavolo tavolo = Apri(GetParam());
     tavolo.Risolvi();
     Tap(tavolo.Form_, Qt::Key_N, Qt::ControlModifier);  // instead of the button
     EXPECT_FALSE(tavolo.Risolto());
-    EXPECT_EQ(Coppe(tavolo), 1);
+    EXPECT_EQ(tavolo.Coppe(), 1);
     tavolo.Passo(tavolo.Partenza().Lato);
     tavolo.Passo(Contrario(tavolo.Partenza().Lato));
     EXPECT_EQ(tavolo.Passi(), 1);
@@ -230,10 +138,10 @@ TEST_P(OgniForm, NewMazeCostsNothing) {
     Partita::Scegli(tavolo.Form_, "mnuNuovo");
     EXPECT_EQ(tavolo.Passi(), 0);
     EXPECT_EQ(tavolo.Pannello(3), "boing 0");
-    EXPECT_EQ(Coppe(tavolo), 1);
+    EXPECT_EQ(tavolo.Coppe(), 1);
     EXPECT_FALSE(tavolo.Muri() == prima);
     tavolo.Risolvi();
-    EXPECT_EQ(Coppe(tavolo), 2);
+    EXPECT_EQ(tavolo.Coppe(), 2);
 }
 
 TEST_P(OgniForm, RestartKeepsWallsAndCounters) {
@@ -257,15 +165,15 @@ TEST_P(OgniForm, LeavingDoesNotCountTheMaze) {
     {
         const Tavolo tavolo = Apri(GetParam());
         tavolo.Risolvi();
-        EXPECT_EQ(Coppe(tavolo), 1);
+        EXPECT_EQ(tavolo.Coppe(), 1);
         Partita::Scegli(tavolo.Form_, "mnuEsci");
     }
     EXPECT_EQ(partita_.Aperte(), Nomi{"FormMenu"});
     const Tavolo tavolo = Apri(GetParam());
-    EXPECT_EQ(Coppe(tavolo), 0);
+    EXPECT_EQ(tavolo.Coppe(), 0);
     EXPECT_EQ(tavolo.Pannello(1), "_predefinito");
     tavolo.Risolvi();
-    EXPECT_EQ(Coppe(tavolo), 1);
+    EXPECT_EQ(tavolo.Coppe(), 1);
 }
 
 TEST_P(OgniForm, ArrowsDoNothingForThoseWhoScan) {

@@ -1,44 +1,10 @@
-// Playing with one key or two: whole levels, and the strokes on the way.
+// Playing with one key or two: the strokes, and what the keys come to.
 #include <gtest/gtest.h>
 
 #include "game/interruttori.h"
 
 namespace trameli {
 namespace {
-
-class LivelloIntero : public ConInterruttori, public testing::WithParamInterface<Caso> {};
-
-INSTANTIATE_TEST_SUITE_P(Livelli, LivelloIntero,
-                         testing::Values(Caso{0, Manuale}, Caso{0, Automatica}, Caso{3, Manuale},
-                                         Caso{3, Automatica}, Caso{8, Manuale}, Caso{8, Automatica},
-                                         Caso{12, Manuale}, Caso{12, Automatica}),
-                         NomeCaso);
-
-TEST_P(LivelloIntero, FiveMazesAndBothAnswersWithTheSwitchesAlone) {
-    const auto [livello, modo] = GetParam();
-    const std::string nome = Apri(livello, modo).Form_.Name();
-    for (const bool resta : {true, false}) {
-        const Tavolo tavolo = AlTavolo(partita_.Finestra(nome), livello);
-        int offerta = 0;
-        for (int labirinto = 0; labirinto < 5; ++labirinto) {
-            ASSERT_FALSE(tavolo.Risolto());
-            Risolvi(tavolo, offerta);
-            if (labirinto < 4) {
-                ASSERT_TRUE(tavolo.Risolto()) << "maze " << labirinto;
-                EXPECT_EQ(tavolo.Urti(), 0);
-                Spazio(tavolo.Form_);
-            }
-        }
-        ASSERT_EQ(partita_.Aperte(), std::vector<std::string>{"FormFinale"});
-        Form& finale = partita_.Finestra("FormFinale");
-        if (!resta) {
-            Prossima(finale);
-        }
-        Conferma(finale);
-        ASSERT_EQ(partita_.Aperte(), std::vector<std::string>{nome});
-        EXPECT_EQ(partita_.Gioco.Stato().Livello, resta ? livello : livello + 1);
-    }
-}
 
 class OgniModo : public ConInterruttori, public testing::WithParamInterface<Caso> {};
 

@@ -1,27 +1,67 @@
-// A wild player: keys, clicks and menu entries in random order, through all windows.
+// A wild player: keys, clicks and menu entries in random order, through all windows, for ten
+// thousand mazes.
 #include <gtest/gtest.h>
 
 #include <QAction>
 #include <QApplication>
 #include <QMenu>
+#include <QPixmapCache>
 #include <random>
 
 #include "game/partita.h"
+#include "platform/combo_box.h"
+#include "platform/command_button.h"
+#include "platform/option_button.h"
+#include "support/live_memory.h"
 
 namespace trameli {
 namespace {
+
+constexpr int LabirintiInTutto = 10000;
+constexpr int Giocatori = 4;
+
+/// The game's chance, and whether it was asked for anything lately.
+class CasualeSpiato final : public Casuale {
+public:
+    CasualeSpiato(std::uint64_t seme, bool& chiesto) : casuale_(seme), chiesto_(chiesto) {}
+    float Estrai() override {
+        chiesto_ = true;
+        return casuale_.Estrai();
+    }
+
+private:
+    CasualeConSeme casuale_;
+    bool& chiesto_;
+};
 
 class Selvaggio {
 public:
     Selvaggio(const Disco& disco, unsigned seme) : disco_(disco), caso_(seme) { Ricomincia(); }
 
-    void Gioca(int eventi) {
-        for (int i = 0; i < eventi; ++i) {
+    /// Plays until so many mazes more have come up.
+    void Gioca(int labirinti) {
+        for (const int fine = labirinti_ + labirinti; labirinti_ < fine;) {
             if (partita_->Gioco.Forms().Ended() || partita_->Aperte().empty()) {
                 Ricomincia();
             }
+            chiesto_ = false;
             UnGesto();
+            // Nothing draws but mazes and the congratulations.
+            const bool finale = partita_->Aperta("FormFinale");
+            labirinti_ += chiesto_ && !finale ? 1 : 0;
+            finali_ += chiesto_ && finale ? 1 : 0;
         }
+    }
+
+    /// Memory in use while no game is.
+    std::int64_t Memoria() {
+        ChiudiMenuAperti();
+        partita_.reset();
+        Pump();
+        QPixmapCache::clear();
+        const std::int64_t byte = LiveBytes();
+        Ricomincia();
+        return byte;
     }
 
     /// To the menu, on whatever way is left.
@@ -34,7 +74,7 @@ public:
     }
 
     int Partite() const { return partite_; }
-    int Labirinti() const { return labirinti_; }
+    int Finali() const { return finali_; }
 
 private:
     int Fino(int n) { return std::uniform_int_distribution<int>(0, n - 1)(caso_); }
@@ -46,7 +86,8 @@ private:
     void Ricomincia() {
         ChiudiMenuAperti();
         partita_.reset();
-        partita_ = std::make_unique<Partita>(disco_, PixelSize{800, 600}, caso_());
+        partita_ = std::make_unique<Partita>(disco_, PixelSize{800, 600},
+                                             std::make_unique<CasualeSpiato>(caso_(), chiesto_));
         partita_->ApriMenu(Fino(2) == 0);
         ++partite_;
     }
@@ -60,27 +101,39 @@ private:
 
     void UnGesto() {
         Form& form = partita_->Finestra(Uno(partita_->Aperte()));
+        if (form.Name() == "FormMenu" && Fino(4) == 0) {
+            // Wild, but there to play; as somebody else now and then.
+            auto& utenti = Trova<ComboBox>(form, "Combo1");
+            if (utenti.ListCount() > 0 && Fino(3) == 0) {
+                utenti.ListIndex(Fino(utenti.ListCount()));
+            }
+            ClickOn(Trova<OptionButton>(form, "Option1", Fino(NumeroLivelliGioco)));
+            ClickOn(Trova<CommandButton>(form, "Command1", 0));
+            return;
+        }
         const int dado = Fino(100);
-        if (dado < 55) {
+        if (dado < 46) {
             UnTasto(form);
-        } else if (dado < 65) {
+        } else if (dado < 54) {
+            Tap(form, Qt::Key_N, Qt::ControlModifier);
+        } else if (dado < 62) {
             UnaVoce(form);
-        } else if (dado < 75) {
+        } else if (dado < 71) {
             UnClic(form);
-        } else if (dado < 82) {
+        } else if (dado < 78) {
             partita_->Tempo.Advance(Fino(5) * 0.1);
-        } else if (dado < 86) {
+        } else if (dado < 82) {
             Partita::ViaERitorno(form);
-        } else if (dado < 90) {
+        } else if (dado < 86) {
             // In the middle of some wait to come, or of none.
             partita_->Tempo.In(Fino(8) * 0.1, [this] {
                 if (!partita_->Aperte().empty() && !partita_->Gioco.Forms().Ended()) {
                     UnaVoce(partita_->Finestra(Uno(partita_->Aperte())));
                 }
             });
-        } else if (dado < 97) {
+        } else if (dado < 95) {
             Risolve(form);
-        } else if (dado == 99 && Fino(10) == 0) {
+        } else if (dado == 99 && Fino(5) == 0) {
             Partita::Chiudi(form);
         }
     }
@@ -90,8 +143,8 @@ private:
             Qt::Key_Up,   Qt::Key_Down,   Qt::Key_Left,    Qt::Key_Right, Qt::Key_Up,
             Qt::Key_Down, Qt::Key_Left,   Qt::Key_Right,   Qt::Key_Space, Qt::Key_Return,
             Qt::Key_Tab,  Qt::Key_Escape, Qt::Key_Backtab, Qt::Key_A,     Qt::Key_F10};
-        static const std::vector<int> comandi{Qt::Key_N, Qt::Key_R, Qt::Key_C,
-                                              Qt::Key_M, Qt::Key_L, Qt::Key_S};
+        static const std::vector<int> comandi{Qt::Key_R, Qt::Key_C, Qt::Key_M, Qt::Key_L,
+                                              Qt::Key_S};
         switch (Fino(8)) {
             case 0:
                 Tap(form, Uno(comandi), Qt::ControlModifier);
@@ -155,7 +208,6 @@ private:
         if (tavolo.Risolto() || tavolo.Muri().Aperture().size() != 2) {
             return;
         }
-        ++labirinti_;
         for (const int verso : tavolo.Soluzione()) {
             if (partita_->Gioco.Forms().Find(nome) != &form) {
                 return;
@@ -167,47 +219,59 @@ private:
     const Disco& disco_;
     std::mt19937 caso_;
     std::unique_ptr<Partita> partita_;
+    bool chiesto_ = false;
     int partite_ = 0;
-    int labirinti_ = 0;
+    int labirinti_ = 0;  ///< that came up; two with one gesture count as one
+    int finali_ = 0;
 };
 
 class GiocatoreSelvaggio : public testing::TestWithParam<unsigned> {};
 
 TEST_P(GiocatoreSelvaggio, BreaksNothingAndLeavesNothing) {
+    constexpr int Labirinti = LabirintiInTutto / Giocatori;
+    constexpr int Riscaldamento = Labirinti / 4;  // fonts and other caches of the toolkit fill
+    constexpr int Tolleranza = 64 * 1024;         // bytes: less than 40 for a maze
     const Disco disco;
-    disco.Scrivi("Anna", FileUtente().Con(RigaMaiuscolo, "True").Con(RigaLivello, 8));
-    disco.Scrivi("Bruno", FileUtente().Con(RigaModoInput, static_cast<int>(GetParam() % 3)));
+    disco.Scrivi("Anna", FileUtente().Con(RigaMaiuscolo, "True").Con(RigaLinee, "False"));
+    disco.Scrivi("Bruno", FileUtente().Con(RigaModoInput, 1 + static_cast<int>(GetParam() % 2)));
     disco.Scrivi("_predefinito");
-    const auto prima = QApplication::allWidgets().size();
-    {
-        Selvaggio giocatore(disco, GetParam());
-        giocatore.Gioca(5000);
-        EXPECT_GT(giocatore.Labirinti(), 10);
-        EXPECT_GT(giocatore.Partite(), 3);
-        // And after all that the game is still the game.
-        const Tavolo tavolo(giocatore.Torna().ApriLivello(8), {3, 4});
-        EXPECT_EQ(tavolo.Muri().Aperture().size(), 2U);
-    }
-    // One the toolkit makes at some time and keeps for itself.
-    EXPECT_LE(QApplication::allWidgets().size(), prima + 1);
+    Selvaggio giocatore(disco, GetParam());
+    giocatore.Gioca(Riscaldamento);
+    const std::int64_t prima = giocatore.Memoria();
+    giocatore.Gioca(Labirinti - Riscaldamento);
+    const std::int64_t dopo = giocatore.Memoria();
+    RecordProperty("grown", std::to_string(dopo - prima));
+    EXPECT_LT(dopo - prima, Tolleranza);
+    EXPECT_GT(giocatore.Partite(), 10);
+    EXPECT_GT(giocatore.Finali(), 10);
+    // And after all that the game is still the game.
+    const Tavolo tavolo(giocatore.Torna().ApriLivello(8), {3, 4});
+    EXPECT_EQ(tavolo.Muri().Aperture().size(), 2U);
 }
 
-INSTANTIATE_TEST_SUITE_P(Semi, GiocatoreSelvaggio, testing::Values(1U, 2U, 3U, 4U));
+INSTANTIATE_TEST_SUITE_P(Semi, GiocatoreSelvaggio, testing::Range(1U, 1U + Giocatori));
 
-TEST(MolteVisite, LeaveNoWidgetsBehind) {
+TEST(MolteVisite, LeaveNothingBehind) {
     const Disco disco;
     Partita partita(disco, {800, 600});
-    qsizetype prima = 0;
-    for (int visita = 0; visita < 12; ++visita) {
-        for (const int livello : {2, 9}) {
-            Form& form = partita.ApriLivello(livello);
-            Tap(form, Qt::Key_N, Qt::ControlModifier);
-            Partita::Scegli(form, "mnuEsci");
+    const auto visita = [&](int volte) {
+        for (int i = 0; i < volte; ++i) {
+            for (const int livello : {2, 6, 9}) {
+                Form& form = partita.ApriLivello(livello);
+                Tap(form, Qt::Key_N, Qt::ControlModifier);
+                Partita::Scegli(form, "mnuEsci");
+            }
+            partita.Tempo.Advance(0.3);
+            partita.Suoni.Asked.clear();
         }
-        partita.Tempo.Advance(0.3);
-        prima = visita == 1 ? QApplication::allWidgets().size() : prima;
-    }
-    EXPECT_EQ(QApplication::allWidgets().size(), prima);
+        QPixmapCache::clear();
+    };
+    visita(20);
+    const auto finestre = QApplication::allWidgets().size();
+    const std::int64_t prima = LiveBytes();
+    visita(40);
+    EXPECT_LT(LiveBytes() - prima, 16 * 1024);
+    EXPECT_EQ(QApplication::allWidgets().size(), finestre);
     EXPECT_EQ(partita.Tempo.TimersRunning(), 0);
 }
 

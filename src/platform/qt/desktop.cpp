@@ -5,7 +5,6 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QScreen>
-#include <QStyle>
 #include <QTimer>
 #include <chrono>
 
@@ -15,6 +14,7 @@
 #include "platform/qt/graphics.h"
 #include "platform/qt/local_file_system.h"
 #include "platform/qt/mixer_sounds.h"
+#include "platform/qt/style.h"
 
 /// The pictures lie in a static library, where nothing else makes the linker keep them. Outside
 /// every namespace, as the toolkit wants it.
@@ -94,7 +94,7 @@ void DesktopDialogs::Critical(const std::string& text, const std::string& title)
 void PrepareToolkit() {
     // The forms bring their own colours; with a desktop's dark or coloured theme the texts in
     // between could not be read.
-    QApplication::setStyle(QStringLiteral("fusion"));
+    QApplication::setStyle(new SharedPicturesStyle);  // the application owns it
     QPalette palette(QColor(240, 240, 240), QColor(240, 240, 240));
     palette.setColor(QPalette::Base, Qt::white);
     QApplication::setPalette(palette);

@@ -38,6 +38,17 @@ QPixmap Rendered(QSvgRenderer& renderer, const QSize& size, double devicePixelRa
     return pixmap;
 }
 
+/// What `draw` draws, or drew the last time that this key was asked for.
+template <typename Draw>
+QPixmap Kept(const QString& key, Draw draw) {
+    QPixmap pixmap;
+    if (!QPixmapCache::find(key, &pixmap)) {
+        pixmap = draw();
+        QPixmapCache::insert(key, pixmap);
+    }
+    return pixmap;
+}
+
 }  // namespace
 
 void ShownPicture::Set(const Picture& picture) {
@@ -71,23 +82,21 @@ QSvgRenderer& ShownPicture::Renderer() {
 
 QImage AtOwnSize(const Picture& picture, double devicePixelRatio) {
     // Sixty bars of a wall show one picture, which takes as long to draw as one frame.
-    const QString key = QStringLiteral("%1 x %2").arg(PathOf(picture)).arg(devicePixelRatio);
-    QPixmap pixmap;
-    if (!QPixmapCache::find(key, &pixmap)) {
-        ShownPicture shown;
-        shown.Set(picture);
-        const QSize size = (QSizeF(shown.OwnSize()) * devicePixelRatio).toSize();
-        if (size.isEmpty()) {
-            return {};
-        }
-        pixmap = QPixmap(size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        shown.Paint(painter, QRect(QPoint(0, 0), size), 1);
-        painter.end();
-        QPixmapCache::insert(key, pixmap);
-    }
-    return pixmap.toImage();
+    return Kept(QStringLiteral("%1 x %2").arg(PathOf(picture)).arg(devicePixelRatio),
+                [&] {
+                    ShownPicture shown;
+                    shown.Set(picture);
+                    const QSize size = (QSizeF(shown.OwnSize()) * devicePixelRatio).toSize();
+                    if (size.isEmpty()) {
+                        return QPixmap();
+                    }
+                    QPixmap pixmap(size);
+                    pixmap.fill(Qt::transparent);
+                    QPainter painter(&pixmap);
+                    shown.Paint(painter, QRect(QPoint(0, 0), size), 1);
+                    return pixmap;
+                })
+        .toImage();
 }
 
 void SetPointer(QWidget& widget, const std::optional<PointerImage>& icon) {
@@ -95,9 +104,13 @@ void SetPointer(QWidget& widget, const std::optional<PointerImage>& icon) {
         widget.unsetCursor();
         return;
     }
-    QSvgRenderer renderer(PathOf(icon->Image));
-    const QPixmap image =
-        Rendered(renderer, QSize(PointerSize, PointerSize), widget.devicePixelRatioF());
+    // The menu gives its pointer to twenty controls, some of them several times before it is ready.
+    const QString path = PathOf(icon->Image);
+    const double ratio = widget.devicePixelRatioF();
+    const QPixmap image = Kept(QStringLiteral("pointer %1 x %2").arg(path).arg(ratio), [&] {
+        QSvgRenderer renderer(path);
+        return Rendered(renderer, QSize(PointerSize, PointerSize), ratio);
+    });
     widget.setCursor(QCursor(image, icon->HotX, icon->HotY));
 }
 
