@@ -82,9 +82,9 @@ void DesktopDialogs::Critical(const std::string& text, const std::string& title)
     QMessageBox box(QMessageBox::Critical, ToQt(title), ToQt(text), QMessageBox::Ok,
                     QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
-    // Where nobody manages windows, nobody else takes the keyboard to the box and back.
+    // The box takes the keyboard by itself. Where nobody manages windows, nobody else gives it
+    // back.
     const QPointer<QWidget> before = QApplication::activeWindow();
-    QTimer::singleShot(0, &box, [&box] { box.activateWindow(); });
     box.exec();
     if (before && before->isVisible()) {
         before->activateWindow();
