@@ -171,32 +171,6 @@ TEST_F(FormFinaleTest, StaysAtTheLevel) {
     }
 }
 
-TEST_F(FormFinaleTest, GoesToTheNextLevelWithItsGrid) {
-    struct {
-        const char* Form;
-        std::int16_t Righe, Colonne;
-    } const prossimi[] = {{"frmTrm0", 33, 44}, {"frmTrm0", 33, 44}, {"frmTrm0", 33, 44},
-                          {"frmTrm0", 33, 44}, {"frmTrm1", 33, 44}, {"frmTrm1", 33, 44},
-                          {"frmTrm1", 33, 44}, {"frmTrm3", 3, 4},   {"frmTrm3", 4, 5},
-                          {"frmTrm3", 5, 6},   {"frmTrm3", 6, 7},   {"frmTrm3", 8, 10},
-                          {"frmTrm3", 10, 15}, {"frmTrm3", 12, 18}, {"frmTrm3", 15, 20}};
-    std::int16_t livello = 0;
-    for (const auto& prossimo : prossimi) {
-        Stato.Livello = livello++;
-        Stato.RigheGriglia = 33;
-        Stato.ColonneGriglia = 44;
-        Stato.TrameloDisegnato = true;
-        Avvia();
-        ClickOn(Mostra().Command2);
-        EXPECT_EQ(Stato.Livello, livello);
-        EXPECT_TRUE(Aperto(prossimo.Form)) << livello;
-        EXPECT_FALSE(Aperto("FormFinale"));
-        EXPECT_EQ(Stato.RigheGriglia, prossimo.Righe);
-        EXPECT_EQ(Stato.ColonneGriglia, prossimo.Colonne);
-        EXPECT_FALSE(Stato.TrameloDisegnato);
-    }
-}
-
 TEST_F(FormFinaleTest, OffersNothingAfterTheLastLevel) {
     Stato.Livello = 15;
     Avvia();
@@ -279,18 +253,6 @@ TEST_F(FormFinaleTest, SpaceThatMovesNeverReachesTheButton) {
     EXPECT_EQ(viste, 1);
 }
 
-TEST_F(FormFinaleTest, WithTwoSwitchesTheLastLevelStillEnds) {
-    Stato.ModoInput = 1;
-    Stato.Livello = 15;
-    Avvia();
-    FormFinale& form = Mostra();
-    Tap(form, Qt::Key_Space);
-    Tap(form, Qt::Key_Space);
-    EXPECT_EQ(Evidenziato(), 1);
-    Tap(form, Qt::Key_Return);
-    EXPECT_TRUE(Aperto("frmTrm3"));
-}
-
 TEST_F(FormFinaleTest, WithOneSwitchTheFocusMovesAndSpacePresses) {
     Stato.ModoInput = 2;
     for (const int velocita : {2, 4, 60}) {
@@ -342,17 +304,6 @@ TEST_F(FormFinaleTest, GoesOnOfferingAfterAStrokeThatWasLost) {
     Tempo.Advance(1);
     EXPECT_EQ(Evidenziato(), 2);
     EXPECT_EQ(Stato.Livello, 3);
-}
-
-TEST_F(FormFinaleTest, WithOneSwitchTheLastLevelStillEnds) {
-    Stato.ModoInput = 2;
-    Stato.Livello = 15;
-    Avvia();
-    FormFinale& form = Mostra();
-    Tempo.Advance(7.3);
-    EXPECT_EQ(Evidenziato(), 1);
-    Tap(form, Qt::Key_Space);
-    EXPECT_TRUE(Aperto("frmTrm3"));
 }
 
 }  // namespace
