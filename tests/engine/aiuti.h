@@ -93,20 +93,6 @@ inline int CelleRaggiunte(const Tramelo& tramelo) {
     return raggiunte;
 }
 
-inline void AttendiFacceUguali(const Tramelo& tramelo) {
-    PerOgniFaccia(tramelo, [&](Cella cella, Lato lato) {
-        const Cella vicina = Vicina(cella, lato);
-        if (!Dentro(tramelo, vicina)) {
-            return;
-        }
-        EXPECT_EQ(Muro(tramelo, cella, lato), Muro(tramelo, vicina, Opposto(lato)))
-            << cella.Riga << ", " << cella.Colonna << ", " << static_cast<int>(lato);
-        EXPECT_EQ(tramelo.MuriProtetti(cella.Riga, cella.Colonna, lato),
-                  tramelo.MuriProtetti(vicina.Riga, vicina.Colonna, Opposto(lato)))
-            << cella.Riga << ", " << cella.Colonna << ", " << static_cast<int>(lato);
-    });
-}
-
 /// Row 0 and column 0 are there, but nothing is ever written to them.
 inline void AttendiBordoIntatto(const Tramelo& tramelo) {
     const auto attendi = [&](int r, int c) {

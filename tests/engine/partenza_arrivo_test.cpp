@@ -52,10 +52,6 @@ void AttendiCaso(const PartenzaArrivo& scelta, const Caso& caso) {
 
 class Configurazioni : public testing::TestWithParam<Caso> {};
 
-TEST_P(Configurazioni, HasItsCellsAndPlaces) {
-    AttendiCaso(Configurazione(GetParam().K, 6, 9, Dispari), GetParam());
-}
-
 TEST_P(Configurazioni, IsChosenByOneDrawAndOpensTwoWalls) {
     const Caso& caso = GetParam();
     // The first and the last draw that mean this configuration.
@@ -172,23 +168,6 @@ TEST(TrovaPartenzaArrivoATempo, AlwaysLeadsDownWithoutADraw) {
     EXPECT_EQ(MuriEsterni(tramelo), 36);
     EXPECT_EQ(MuriInterni(tramelo), MuriInterniPieni(tramelo));
     EXPECT_TRUE(tramelo.MuriProtetti(1, 1, Lato::Alto));
-}
-
-TEST(TrovaPartenzaArrivo, AllEightAreDrawnAlike) {
-    constexpr int perConfigurazione = 2000;
-    CasualeConSeme casuale(17);
-    Tramelo tramelo(6, 9, casuale);
-    std::array<int, 8> volte{};
-    for (int i = 0; i < 8 * perConfigurazione; ++i) {
-        const PartenzaArrivo scelta = TrovaPartenzaArrivo(tramelo, casuale, Dispari);
-        for (const Caso& caso : Casi) {
-            volte[static_cast<std::size_t>(caso.K)] +=
-                scelta.CellaPartenza == caso.Partenza && scelta.LatoPartenza == caso.LatoPartenza;
-        }
-    }
-    for (const int quante : volte) {
-        EXPECT_NEAR(quante, perConfigurazione, 210);  // five standard deviations
-    }
 }
 
 TEST(IndiceImmagineArrivo, IsOneDrawOverAllPictures) {

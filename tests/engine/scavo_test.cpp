@@ -3,8 +3,6 @@
 
 #include <array>
 #include <limits>
-#include <map>
-#include <tuple>
 
 #include "aiuti.h"
 #include "base/griglie.h"
@@ -66,51 +64,12 @@ TEST_F(Scavo, DrawsRowThenColumnThenSide) {
     EXPECT_EQ(MuriInterni(Maze), 16);
 }
 
-TEST_F(Scavo, TheSmallerLabelSurvivesFromEitherSide) {
-    Copione(1, 2, Lato::Destra);
-    Seleziona();
-    AttendiMuro(1, 2, Lato::Destra, false, true);
-    AttendiEtichette({1, 2, 2, 4, 5, 6, 7, 8, 9, 10, 11, 12});
-    EXPECT_EQ(Maze.RegioniRimaste(), 11);
-    Copione(3, 3, Lato::Sinistra);
-    Seleziona();
-    AttendiMuro(3, 3, Lato::Sinistra, false, true);
-    AttendiEtichette({1, 2, 2, 4, 5, 6, 7, 8, 9, 10, 10, 12});
-    EXPECT_EQ(Maze.RegioniRimaste(), 10);
-    AttendiMuro(2, 2, Lato::Alto, true, false);
-    EXPECT_EQ(MuriEsterni(Maze), 14);
-}
-
-TEST_F(Scavo, OutsideWallsAreDrawnPast) {
-    Copione(1, 4, Lato::Alto);
-    Copione(2, 4, Lato::Destra);
-    Copione(3, 1, Lato::Basso);
-    Copione(2, 1, Lato::Sinistra);
-    Copione(2, 1, Lato::Destra);
-    Seleziona();
-    EXPECT_EQ(Estrazioni.Estratti(), 15U);
-    AttendiMuro(2, 1, Lato::Destra, false, true);
-    EXPECT_EQ(MuriEsterni(Maze), 14);
-    EXPECT_EQ(MuriInterni(Maze), 16);
-}
-
 TEST_F(Scavo, AnOpenedOutsideWallStaysOutOfReach) {
     Maze.Apri(CellaA(1, 1), Lato::Alto);
     Copione(1, 1, Lato::Alto);
     Copione(1, 1, Lato::Basso);
     Seleziona();
     AttendiMuro(1, 1, Lato::Basso, false, true);
-}
-
-TEST_F(Scavo, ExaminedWallsAreDrawnPastFromBothFaces) {
-    Copione(1, 1, Lato::Destra);
-    Seleziona();
-    Copione(1, 1, Lato::Destra);
-    Copione(1, 2, Lato::Sinistra);
-    Copione(1, 1, Lato::Basso);
-    Seleziona();
-    AttendiEtichette({1, 1, 3, 4, 1, 6, 7, 8, 9, 10, 11, 12});
-    EXPECT_EQ(Maze.RegioniRimaste(), 10);
 }
 
 TEST_F(Scavo, AWallWithinARegionStaysAndTheCallDrawsOn) {
@@ -179,21 +138,6 @@ TEST_F(Scavo, FurtherWallsFallWhateverLiesBehindThem) {
     // Only the carve joins regions.
     AttendiEtichette({1, 1, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12});
     EXPECT_EQ(Maze.RegioniRimaste(), 11);
-}
-
-TEST_F(Scavo, ExaminedWallsCanFallLater) {
-    Copione(1, 1, Lato::Destra);
-    Seleziona();
-    Copione(1, 1, Lato::Basso);
-    Seleziona();
-    Copione(2, 1, Lato::Destra);
-    Seleziona();
-    Copione(1, 2, Lato::Basso);
-    Copione(3, 1, Lato::Destra);
-    Seleziona();
-    Copione(1, 2, Lato::Basso);
-    Abbatti(1);
-    AttendiMuro(1, 2, Lato::Basso, false, true);
 }
 
 TEST_F(Scavo, NoneAskedForDrawsNothing) {
@@ -288,37 +232,6 @@ TEST_P(AnyLevel, EveryStepIsThatOfThePlainForm) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Livelli, AnyLevel, testing::Range(0, 16));
-
-// A full grid gives each of its 17 walls, and each face of a wall, the same chance.
-TEST(Statistics, EveryWallIsTakenAsOftenAsAnyOther) {
-    constexpr int perMuro = 1000;
-    CasualeConSeme casuale(99);
-    Tramelo tramelo(3, 4, casuale);
-    std::map<std::tuple<int, int, int>, int> scavati;
-    std::map<std::tuple<int, int, int>, int> abbattuti;
-    const auto conta = [&](auto& caduti) {
-        PerOgniFaccia(tramelo, [&](Cella cella, Lato lato) {
-            if ((lato == Lato::Destra || lato == Lato::Basso) && !Muro(tramelo, cella, lato)) {
-                ++caduti[{cella.Riga, cella.Colonna, static_cast<int>(lato)}];
-            }
-        });
-    };
-    for (int i = 0; i < 17 * perMuro; ++i) {
-        tramelo.CreaNuovaGriglia();
-        tramelo.NonEliminareMuriEsterni();
-        tramelo.SelezionaMuroDaAbbattere();
-        conta(scavati);
-        tramelo.CreaNuovaGriglia();
-        tramelo.AbbattiAltriMuri(1);
-        conta(abbattuti);
-    }
-    for (const auto& caduti : {scavati, abbattuti}) {
-        EXPECT_EQ(caduti.size(), 17U);
-        for (const auto& [muro, volte] : caduti) {
-            EXPECT_NEAR(volte, perMuro, 155);  // five standard deviations
-        }
-    }
-}
 
 }  // namespace
 }  // namespace trameli
