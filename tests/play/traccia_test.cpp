@@ -23,19 +23,13 @@ void Riempi(Traccia& traccia, int n) {
 
 }  // namespace
 
-TEST(Traccia, BeginsEmptyAtItsFirstPoint) {
-    Traccia traccia;
-    traccia.Alloca(6, 9);
-    traccia.Comincia({100, 200});
-    EXPECT_EQ(traccia.ContaPunti(), 0);
-    EXPECT_EQ(traccia.Testa(), (Punto{100, 200}));
-    traccia.Comincia({100, 200});
-    EXPECT_EQ(traccia.ContaPunti(), 0);
-}
-
 TEST(Traccia, KeepsPointsAndColoursInTheOrderWalked) {
     Traccia traccia;
-    traccia.Comincia({100, 200});
+    for (int volta = 0; volta < 2; ++volta) {
+        traccia.Comincia({100, 200});
+        EXPECT_EQ(traccia.ContaPunti(), 0);
+        EXPECT_EQ(traccia.Testa(), (Punto{100, 200}));
+    }
     traccia.Aggiungi({100, 575}, Avanti);
     traccia.Aggiungi({850, 575}, Ritorno);
     EXPECT_EQ(traccia.ContaPunti(), 2);
@@ -72,51 +66,34 @@ TEST(Traccia, AzzeraForgetsPointsAndPassages) {
     EXPECT_FALSE(traccia.Passaggi(3, 4, 1));
 }
 
-TEST(TracciaPiena, HasRoomForAThousandPoints) {
+TEST(Traccia, IsFullWithAThousandPointsAndThenLosesTheOldest) {
     Traccia traccia;
-    Riempi(traccia, Traccia::MassimoPunti);
-    EXPECT_EQ(traccia.ContaPunti(), 1000);
-    EXPECT_EQ(traccia.PercorsoX(0), 0);
-    EXPECT_EQ(traccia.PercorsoX(1000), 1000);
+    for (const int persi : {0, 2}) {
+        Riempi(traccia, Traccia::MassimoPunti + persi);
+        EXPECT_EQ(traccia.ContaPunti(), 1000);
+        EXPECT_EQ(traccia.PercorsoX(0), persi);
+        EXPECT_EQ(traccia.PercorsoY(0), -persi);
+        EXPECT_EQ(traccia.PercorsoColore(1), persi + 1);
+        EXPECT_EQ(traccia.PercorsoColore(1000), persi + 1000);
+        EXPECT_EQ(traccia.Testa(), PuntoNumero(persi + 1000));
+    }
 }
 
-TEST(TracciaPiena, OldestPointGivesWayToTheNewest) {
-    Traccia traccia;
-    Riempi(traccia, Traccia::MassimoPunti + 2);
-    EXPECT_EQ(traccia.ContaPunti(), 1000);
-    EXPECT_EQ(traccia.PercorsoX(0), 2);
-    EXPECT_EQ(traccia.PercorsoY(0), -2);
-    EXPECT_EQ(traccia.PercorsoColore(1), 3);
-    EXPECT_EQ(traccia.Tratto(1, 0), (Segmento{{2, -2}, {3, -3}}));
-    EXPECT_EQ(traccia.Testa(), PuntoNumero(1002));
-    EXPECT_EQ(traccia.PercorsoColore(1000), 1002);
-}
-
-TEST(Passaggi, CountsWalksOddAndEven) {
+TEST(Passaggi, AreToldApartAndCountWalksOddAndEven) {
     Traccia traccia;
     traccia.Alloca(6, 9);
     const Passaggio passaggio{2, 3, 0};
-    EXPECT_TRUE(traccia.Attraversa(passaggio));
-    EXPECT_TRUE(traccia.Passaggi(2, 3, 0));
-    EXPECT_FALSE(traccia.Attraversa(passaggio));
-    EXPECT_FALSE(traccia.Passaggi(2, 3, 0));
-    EXPECT_TRUE(traccia.Attraversa(passaggio));
-}
-
-TEST(Passaggi, AreToldApart) {
-    Traccia traccia;
-    traccia.Alloca(6, 9);
-    traccia.Attraversa({2, 3, 0});
-    int vere = 0;
-    for (int r = 0; r <= 6; ++r) {
-        for (int c = 0; c <= 9; ++c) {
-            for (int verso = 0; verso <= 1; ++verso) {
-                vere += traccia.Passaggi(r, c, verso) ? 1 : 0;
+    for (const bool dispari : {true, false, true}) {
+        EXPECT_EQ(traccia.Attraversa(passaggio), dispari);
+        for (int r = 0; r <= 6; ++r) {
+            for (int c = 0; c <= 9; ++c) {
+                for (int verso = 0; verso <= 1; ++verso) {
+                    const bool questo = r == 2 && c == 3 && verso == 0;
+                    EXPECT_EQ(traccia.Passaggi(r, c, verso), dispari && questo);
+                }
             }
         }
     }
-    EXPECT_EQ(vere, 1);
-    EXPECT_TRUE(traccia.Passaggi(2, 3, 0));
 }
 
 TEST(Passaggi, AreTheSameFromBothCells) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -40,59 +41,50 @@ protected:
 TEST_F(ModuloPerIniTest, SavesAndReadsBack) {
     Altera();
     const Impostazioni salvate = Lette();
+    Variabili.RigheGriglia = 12;
     Modulo.ScriviUtente();
     EXPECT_EQ(File.Contenuto(FileDiAnna), Testo(salvate));
     Modulo.ImpostaPredefiniti();
     EXPECT_EQ(Lette(), Impostazioni());
+    EXPECT_EQ(Variabili.RigheGriglia, 12) << "no setting";
+    EXPECT_EQ(Variabili.FileUtente, FileDiAnna);
     Modulo.LeggiUtente();
     EXPECT_EQ(Lette(), salvate);
     EXPECT_TRUE(Finestre.Messaggi.empty());
 }
 
-TEST_F(ModuloPerIniTest, DefaultsLeaveTheOtherVariablesAlone) {
-    Variabili.NomeUtente = "Anna";
-    Variabili.RigheGriglia = 12;
-    Modulo.ImpostaPredefiniti();
-    EXPECT_EQ(Variabili.NomeUtente, "Anna");
-    EXPECT_EQ(Variabili.FileUtente, FileDiAnna);
-    EXPECT_EQ(Variabili.RigheGriglia, 12);
-}
-
-TEST_F(ModuloPerIniTest, MissingFileGivesDefaultsAndIsNotMade) {
-    Altera();
-    Modulo.LeggiUtente();
-    EXPECT_EQ(Lette(), Impostazioni());
-    EXPECT_FALSE(File.FileExists(FileDiAnna));
-    EXPECT_TRUE(Finestre.Messaggi.empty());
-}
-
-TEST_F(ModuloPerIniTest, DamagedFileGivesDefaultsAndStays) {
+TEST_F(ModuloPerIniTest, WhatCannotBeReadGivesDefaultsAndStays) {
     Impostazioni salvate;
     salvate.Livello = 11;
-    std::string quindici = Testo(salvate);
-    quindici.resize(quindici.rfind(" 4 "));
-    for (const std::string& byte : {quindici, std::string(), std::string("parole\r\n")}) {
-        ASSERT_TRUE(File.Replace(FileDiAnna, byte));
+    const std::string intero = Testo(salvate);
+    struct {
+        const char* Nome;
+        std::optional<std::string> Byte;  // none: there is no file
+        bool Illeggibile;
+    } const casi[] = {
+        {"assente.ini", std::nullopt, false},
+        {"quindici.ini", intero.substr(0, intero.rfind(" 4 ")), false},
+        {"vuoto.ini", "", false},
+        {"parole.ini", "parole\r\n", false},
+        {"chiuso.ini", intero, true},
+        {"cartella.ini", std::nullopt, false},
+    };
+    ASSERT_TRUE(File.CreateFolder(std::string(ModuloPerIni::CartellaUtenti) + "cartella.ini"));
+    for (const auto& [nome, byte, illeggibile] : casi) {
+        Variabili.FileUtente = ModuloPerIni::CartellaUtenti + std::string(nome);
+        if (byte) {
+            ASSERT_TRUE(File.Replace(Variabili.FileUtente, *byte));
+        }
+        if (illeggibile) {
+            File.Illeggibili.insert(Maiuscolo(Variabili.FileUtente));
+        }
         Altera();
         Modulo.LeggiUtente();
-        EXPECT_EQ(Lette(), Impostazioni());
-        EXPECT_EQ(File.Contenuto(FileDiAnna), byte);
+        EXPECT_EQ(Lette(), Impostazioni()) << nome;
+        EXPECT_EQ(File.FileExists(Variabili.FileUtente), byte.has_value()) << nome;
+        EXPECT_EQ(File.Contenuto(Variabili.FileUtente), byte.value_or("")) << nome;
     }
     EXPECT_TRUE(Finestre.Messaggi.empty());
-}
-
-TEST_F(ModuloPerIniTest, UnreadableFileOrFolderOfTheNameGivesDefaults) {
-    ASSERT_TRUE(File.Replace(FileDiAnna, Testo(Lette())));
-    File.Illeggibili.insert(Maiuscolo(FileDiAnna));
-    Altera();
-    Modulo.LeggiUtente();
-    EXPECT_EQ(Lette(), Impostazioni());
-
-    Variabili.FileUtente = std::string(ModuloPerIni::CartellaUtenti) + "cartella.ini";
-    ASSERT_TRUE(File.CreateFolder(Variabili.FileUtente));
-    Altera();
-    Modulo.LeggiUtente();
-    EXPECT_EQ(Lette(), Impostazioni());
 }
 
 TEST_F(ModuloPerIniTest, AFileThatCannotBeReadIsNotReplaced) {
