@@ -36,7 +36,7 @@ protected:
     }
 
     /// Starts the program on a screen of that size, with stand-ins for the forms of the levels.
-    void Avvia(int larghezza = 1024, int altezza = 768, bool conGiochi = true) {
+    void Avvia(int larghezza = 1024, int altezza = 768) {
         programma_.reset();
         schermo_ = std::make_unique<FixedScreen>(larghezza, altezza);
         programma_ = std::make_unique<Forms>(Tempo, *schermo_);
@@ -44,14 +44,17 @@ protected:
             return std::make_unique<FormFinale>(forms, Servizi_, Draws);
         });
         for (const char* nome : {"frmTrm0", "frmTrm1", "frmTrm3", "Altro"}) {
-            if (conGiochi || std::string(nome) == "Altro") {
-                programma_->Register(nome, [nome](Forms& forms) {
-                    return std::make_unique<Form>(forms, nome, Form::DesignSize{3000, 2000});
-                });
-            }
+            programma_->Register(nome, [nome](Forms& forms) {
+                return std::make_unique<Form>(forms, nome, Form::DesignSize{3000, 2000});
+            });
         }
     }
 
+    /// Starts the program, shows the window and lets its first second pass.
+    FormFinale& AvviaEMostra() {
+        Avvia();
+        return Mostra();
+    }
     /// Shows the window and lets its first second pass.
     FormFinale& Mostra() {
         programma_->Show("FormFinale");

@@ -4,6 +4,7 @@
 #include <QTest>
 #include <QWindow>
 
+#include "base/griglie.h"
 #include "base/rounding.h"
 #include "play_forms/finale.h"
 
@@ -17,8 +18,7 @@ const Richieste MusicaAvviata = {"close", "open P:\\suoni\\coppa.mid", "play"};
 class FormFinaleTest : public FinaleTest {};
 
 TEST_F(FormFinaleTest, TellsThePlayerAndTheLevel) {
-    Avvia();
-    FormFinale& form = Mostra();
+    FormFinale& form = AvviaEMostra();
     EXPECT_EQ(form.LabelNome.Caption(), "Giulia");
     EXPECT_EQ(form.Label1.Caption(), "Complimenti!");
     EXPECT_EQ(form.Label2.Caption(), "4\r\n");
@@ -148,74 +148,59 @@ TEST_F(FormFinaleTest, ComingBackToTheFrontStartsNothingAnew) {
 
 // Where the buttons lead.
 
-TEST_F(FormFinaleTest, StaysAtTheLevel) {
-    struct {
-        std::int16_t Livello;
-        const char* Form;
-    } const casi[] = {{0, "frmTrm0"}, {4, "frmTrm0"}, {5, "frmTrm1"},
-                      {7, "frmTrm1"}, {8, "frmTrm3"}, {15, "frmTrm3"}};
-    for (const auto& caso : casi) {
-        Stato.Livello = caso.Livello;
-        Stato.RigheGriglia = 33;
-        Stato.ColonneGriglia = 44;
-        Avvia();
-        Uditi.Asked.clear();
-        ClickOn(Mostra().Command1);
-        EXPECT_TRUE(Aperto(caso.Form)) << caso.Livello;
-        EXPECT_FALSE(Aperto("FormFinale"));
-        EXPECT_EQ(Stato.Livello, caso.Livello);
-        EXPECT_EQ(Stato.RigheGriglia, 33);
-        EXPECT_EQ(Stato.ColonneGriglia, 44);
-        EXPECT_EQ(Uditi.Asked.back(), "close");
-        EXPECT_EQ(Uditi.Asked.size(), MusicaAvviata.size() + 1);
+TEST_F(FormFinaleTest, StaysAtTheLevelOrGoesToTheNextWithItsGrid) {
+    constexpr DimensioniGriglia prima{33, 44};
+    for (std::int16_t livello = 0; livello < NumeroLivelli; ++livello) {
+        for (const bool avanti : {false, true}) {
+            if (avanti && livello == NumeroLivelli - 1) {
+                continue;
+            }
+            SCOPED_TRACE(testing::Message() << livello << (avanti ? ", on" : ", stay"));
+            Stato.Livello = livello;
+            Stato.RigheGriglia = prima.Righe;
+            Stato.ColonneGriglia = prima.Colonne;
+            Stato.TrameloDisegnato = true;
+            Uditi.Asked.clear();
+            FormFinale& form = AvviaEMostra();
+            ClickOn(avanti ? form.Command2 : form.Command1);
+            EXPECT_FALSE(Aperto("FormFinale"));
+            EXPECT_EQ(Uditi.Asked.size(), MusicaAvviata.size() + 1);
+            EXPECT_EQ(Uditi.Asked.back(), "close");
+
+            const int dopo = livello + (avanti ? 1 : 0);
+            EXPECT_EQ(Stato.Livello, dopo);
+            EXPECT_TRUE(Aperto(dopo < 5 ? "frmTrm0" : dopo < 8 ? "frmTrm1" : "frmTrm3"));
+            EXPECT_EQ(Stato.TrameloDisegnato, !avanti);
+            EXPECT_EQ((DimensioniGriglia{Stato.RigheGriglia, Stato.ColonneGriglia}),
+                      avanti && dopo >= 8 ? DimensioniDi(dopo) : prima);
+        }
     }
 }
 
-TEST_F(FormFinaleTest, GoesToTheNextLevelWithItsGrid) {
-    struct {
-        const char* Form;
-        std::int16_t Righe, Colonne;
-    } const prossimi[] = {{"frmTrm0", 33, 44}, {"frmTrm0", 33, 44}, {"frmTrm0", 33, 44},
-                          {"frmTrm0", 33, 44}, {"frmTrm1", 33, 44}, {"frmTrm1", 33, 44},
-                          {"frmTrm1", 33, 44}, {"frmTrm3", 3, 4},   {"frmTrm3", 4, 5},
-                          {"frmTrm3", 5, 6},   {"frmTrm3", 6, 7},   {"frmTrm3", 8, 10},
-                          {"frmTrm3", 10, 15}, {"frmTrm3", 12, 18}, {"frmTrm3", 15, 20}};
-    std::int16_t livello = 0;
-    for (const auto& prossimo : prossimi) {
-        Stato.Livello = livello++;
-        Stato.RigheGriglia = 33;
-        Stato.ColonneGriglia = 44;
-        Stato.TrameloDisegnato = true;
+TEST_F(FormFinaleTest, OffersNothingAfterTheLastLevelAndStillEnds) {
+    for (const int modo : {0, 1, 2}) {
+        Stato.ModoInput = Saturated(modo);
+        Stato.Livello = 15;
         Avvia();
-        ClickOn(Mostra().Command2);
-        EXPECT_EQ(Stato.Livello, livello);
-        EXPECT_TRUE(Aperto(prossimo.Form)) << livello;
-        EXPECT_FALSE(Aperto("FormFinale"));
-        EXPECT_EQ(Stato.RigheGriglia, prossimo.Righe);
-        EXPECT_EQ(Stato.ColonneGriglia, prossimo.Colonne);
-        EXPECT_FALSE(Stato.TrameloDisegnato);
+        Tempo.In(0.5, [&] { EXPECT_TRUE(Finale().Command2.Visible()); });
+        FormFinale& form = Mostra();
+        EXPECT_FALSE(form.Command2.Visible());
+        Tab();
+        Tempo.Advance(7.3);
+        if (modo == 1) {
+            Tap(form, Qt::Key_Space);
+        }
+        EXPECT_EQ(Evidenziato(), 1) << modo;
+        Tap(form, Qt::Key_Return);
+        EXPECT_TRUE(Aperto("frmTrm3")) << modo;
+        EXPECT_EQ(Stato.Livello, 15);
     }
-}
-
-TEST_F(FormFinaleTest, OffersNothingAfterTheLastLevel) {
-    Stato.Livello = 15;
-    Avvia();
-    Tempo.In(0.5, [&] { EXPECT_TRUE(Finale().Command2.Visible()); });
-    FormFinale& form = Mostra();
-    EXPECT_FALSE(form.Command2.Visible());
-    EXPECT_EQ(Evidenziato(), 1);
-    Tab();
-    EXPECT_EQ(Evidenziato(), 1);
-    Tap(form, Qt::Key_Space);
-    EXPECT_TRUE(Aperto("frmTrm3"));
-    EXPECT_EQ(Stato.Livello, 15);
 }
 
 // Keyboard and switches.
 
 TEST_F(FormFinaleTest, WithTheKeyboardNothingMovesByItself) {
-    Avvia();
-    FormFinale& form = Mostra();
+    FormFinale& form = AvviaEMostra();
     EXPECT_EQ(Tempo.TimersRunning(), 0);
     Tempo.Advance(60);
     EXPECT_EQ(Evidenziato(), 1);
@@ -229,8 +214,7 @@ TEST_F(FormFinaleTest, WithTwoSwitchesSpaceMovesAndEnterPresses) {
     Stato.ModoInput = 1;
     for (int colpi = 0; colpi < 5; ++colpi) {
         Stato.Livello = 2;
-        Avvia();
-        FormFinale& form = Mostra();
+        FormFinale& form = AvviaEMostra();
         EXPECT_EQ(Tempo.TimersRunning(), 0);
         for (int colpo = 0; colpo < colpi; ++colpo) {
             EXPECT_EQ(Evidenziato(), 1 + colpo % 2);
@@ -245,50 +229,27 @@ TEST_F(FormFinaleTest, WithTwoSwitchesSpaceMovesAndEnterPresses) {
     }
 }
 
-TEST_F(FormFinaleTest, SpaceHeldDownMovesOnce) {
+TEST_F(FormFinaleTest, SpaceThatMovesNeverReachesTheButtonAndMovesOnceHoweverLong) {
     Stato.ModoInput = 1;
-    Avvia();
-    FormFinale& form = Mostra();
-    QWindow* finestra = WindowOf(form).windowHandle();
-    Press(form, Qt::Key_Space);
-    for (int i = 0; i < 20; ++i) {
-        for (const QEvent::Type tipo : {QEvent::KeyRelease, QEvent::KeyPress}) {
-            QKeyEvent ripetuto(tipo, Qt::Key_Space, Qt::NoModifier, " ", true);
-            QCoreApplication::sendEvent(static_cast<QObject*>(finestra), &ripetuto);
-        }
-    }
-    EXPECT_EQ(Evidenziato(), 1);
-    Release(form, Qt::Key_Space);
-    EXPECT_EQ(Evidenziato(), 2);
-    Tap(form, Qt::Key_Space);
-    EXPECT_EQ(Evidenziato(), 1);
-}
-
-TEST_F(FormFinaleTest, SpaceThatMovesNeverReachesTheButton) {
-    Stato.ModoInput = 1;
-    Avvia();
-    FormFinale& form = Mostra();
+    FormFinale& form = AvviaEMostra();
     int viste = 0;
     form.Command1.KeyUp = [&](int, int) { ++viste; };
     form.Command2.KeyUp = form.Command1.KeyUp;
     Press(form, Qt::Key_Space);
+    for (int i = 0; i < 20; ++i) {
+        for (const QEvent::Type tipo : {QEvent::KeyRelease, QEvent::KeyPress}) {
+            QKeyEvent ripetuto(tipo, Qt::Key_Space, Qt::NoModifier, " ", true);
+            QCoreApplication::sendEvent(static_cast<QObject*>(WindowOf(form).windowHandle()),
+                                        &ripetuto);
+        }
+    }
+    EXPECT_EQ(Evidenziato(), 1);
     EXPECT_FALSE(dynamic_cast<QAbstractButton&>(WidgetOf(form.Command1)).isDown());
     Release(form, Qt::Key_Space);
+    EXPECT_EQ(Evidenziato(), 2);
     EXPECT_EQ(viste, 0);
     Tap(form, Qt::Key_A);
     EXPECT_EQ(viste, 1);
-}
-
-TEST_F(FormFinaleTest, WithTwoSwitchesTheLastLevelStillEnds) {
-    Stato.ModoInput = 1;
-    Stato.Livello = 15;
-    Avvia();
-    FormFinale& form = Mostra();
-    Tap(form, Qt::Key_Space);
-    Tap(form, Qt::Key_Space);
-    EXPECT_EQ(Evidenziato(), 1);
-    Tap(form, Qt::Key_Return);
-    EXPECT_TRUE(Aperto("frmTrm3"));
 }
 
 TEST_F(FormFinaleTest, WithOneSwitchTheFocusMovesAndSpacePresses) {
@@ -298,8 +259,7 @@ TEST_F(FormFinaleTest, WithOneSwitchTheFocusMovesAndSpacePresses) {
         const double passo = velocita * 0.25;
         for (int passi = 0; passi < 4; ++passi) {
             Stato.Livello = 2;
-            Avvia();
-            FormFinale& form = Mostra();
+            FormFinale& form = AvviaEMostra();
             for (int i = 0; i < passi; ++i) {
                 EXPECT_EQ(Evidenziato(), 1 + i % 2);
                 Tempo.Advance(passo - 0.01);
@@ -317,8 +277,7 @@ TEST_F(FormFinaleTest, WithOneSwitchTheFocusMovesAndSpacePresses) {
 
 TEST_F(FormFinaleTest, PressesWhatWasOfferedWhenTheSwitchWentDown) {
     Stato.ModoInput = 2;
-    Avvia();
-    FormFinale& form = Mostra();
+    FormFinale& form = AvviaEMostra();
     Tempo.Advance(1);
     ASSERT_EQ(Evidenziato(), 2);
     Press(form, Qt::Key_Space);
@@ -330,8 +289,7 @@ TEST_F(FormFinaleTest, PressesWhatWasOfferedWhenTheSwitchWentDown) {
 
 TEST_F(FormFinaleTest, GoesOnOfferingAfterAStrokeThatWasLost) {
     Stato.ModoInput = 2;
-    Avvia();
-    FormFinale& form = Mostra();
+    FormFinale& form = AvviaEMostra();
     Press(form, Qt::Key_Space);
     Programma().Show("Altro");
     Pump();
@@ -342,17 +300,6 @@ TEST_F(FormFinaleTest, GoesOnOfferingAfterAStrokeThatWasLost) {
     Tempo.Advance(1);
     EXPECT_EQ(Evidenziato(), 2);
     EXPECT_EQ(Stato.Livello, 3);
-}
-
-TEST_F(FormFinaleTest, WithOneSwitchTheLastLevelStillEnds) {
-    Stato.ModoInput = 2;
-    Stato.Livello = 15;
-    Avvia();
-    FormFinale& form = Mostra();
-    Tempo.Advance(7.3);
-    EXPECT_EQ(Evidenziato(), 1);
-    Tap(form, Qt::Key_Space);
-    EXPECT_TRUE(Aperto("frmTrm3"));
 }
 
 }  // namespace
