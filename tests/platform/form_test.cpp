@@ -10,7 +10,21 @@
 namespace trameli {
 namespace {
 
-class FormTest : public ScriptedProgram {};
+class FormTest : public ScriptedProgram {
+protected:
+    /// Shows A in a further program, which has no other form.
+    ScriptedForm& BringIn(Forms& program) {
+        program.Register("A", [this](Forms& forms) {
+            return std::make_unique<ScriptedForm>(forms, "A", Scripts["A"], Seen);
+        });
+        program.Show("A");
+        Pump();
+        auto& form = dynamic_cast<ScriptedForm&>(*program.Find("A"));
+        form.First.SetFocus();
+        Seen.clear();
+        return form;
+    }
+};
 
 TEST_F(FormTest, IsLoadedThenSizedThenActivatedOnce) {
     double width = 0;
@@ -113,20 +127,6 @@ TEST_F(FormTest, UnloadedInItsOwnLoadNeverShows) {
     EXPECT_EQ(Program.Find("B"), nullptr);
     EXPECT_EQ(ScriptedForm::Alive, 1);
     EXPECT_FALSE(Program.Ended());
-}
-
-TEST_F(FormTest, UnloadedInItsOwnActivateIsGone) {
-    Bring("A");
-    Scripts["B"].Activate = [](ScriptedForm& form) {
-        form.Forms().Unload(form);
-        EXPECT_FALSE(form.Loaded());
-        EXPECT_FALSE(form.Wait(1)) << "a wait of an unloaded form is over at once";
-    };
-    Program.Show("B");
-    Pump();
-    EXPECT_EQ(Times("B Activate"), 1);
-    EXPECT_EQ(ScriptedForm::Alive, 1);
-    EXPECT_EQ(Seen.back(), "A Activate");
 }
 
 TEST_F(FormTest, RunsItsUnloadOnceWhateverHappensInIt) {
@@ -246,14 +246,7 @@ TEST_F(FormTest, EndStartsNoFurtherRoutine) {
     for (const Case& one : cases) {
         SCOPED_TRACE(one.Where);
         Forms program{Time, Display};
-        program.Register("A", [this](Forms& forms) {
-            return std::make_unique<ScriptedForm>(forms, "A", Scripts["A"], Seen);
-        });
-        program.Show("A");
-        Pump();
-        auto& form = dynamic_cast<ScriptedForm&>(*program.Find("A"));
-        form.First.SetFocus();
-        Seen.clear();
+        ScriptedForm& form = BringIn(program);
         one.Reach(form);
         EXPECT_TRUE(program.Ended());
         EXPECT_FALSE(form.Loaded());
@@ -288,15 +281,7 @@ TEST_F(FormTest, EndInLoadKeepsTheFormFromTheScreen) {
 TEST_F(FormTest, GoesWithItsProgramWithoutAnyRoutine) {
     {
         Forms program{Time, Display};
-        program.Register("A", [this](Forms& forms) {
-            return std::make_unique<ScriptedForm>(forms, "A", Scripts["A"], Seen);
-        });
-        program.Show("A");
-        Pump();
-        auto& form = dynamic_cast<ScriptedForm&>(*program.Find("A"));
-        form.First.SetFocus();
-        form.Ticker.Enabled(true);
-        Seen.clear();
+        BringIn(program).Ticker.Enabled(true);
     }
     Pump();
     Time.Advance(1);

@@ -61,17 +61,18 @@ private:
 };
 
 TEST(InstancesTest, AreThoseOnTheSameFolder) {
-    const TemporaryFolder here;
-    const TemporaryFolder there;
-    Copy first(here.Path());
+    const TemporaryFolder folder;
+    const fs::path here = folder.Path() / "data" / "trameli";  // made by the first that needs it
+    Copy first(here);
     EXPECT_FALSE(first.FoundAnother());
-    Copy second(here.Path());
+    EXPECT_TRUE(fs::is_directory(here));
+    Copy second(here);
     EXPECT_TRUE(second.FoundAnother());
-    Copy elsewhere(there.Path());
+    Copy elsewhere(folder.Path() / "data" / "other");
     EXPECT_FALSE(elsewhere.FoundAnother());
 
     first.End();
-    Copy third(here.Path());
+    Copy third(here);
     EXPECT_FALSE(third.FoundAnother()) << "the second did not count as running";
 }
 
@@ -97,16 +98,6 @@ TEST(InstancesTest, AreToldTheSameHoweverOftenAsked) {
     EXPECT_FALSE(lock.AnotherRuns());
     Copy next(folder.Path());
     EXPECT_TRUE(next.FoundAnother());
-}
-
-TEST(InstancesTest, MakeTheirFolder) {
-    const TemporaryFolder folder;
-    const fs::path inner = folder.Path() / "data" / "trameli";
-    Copy first(inner);
-    EXPECT_FALSE(first.FoundAnother());
-    EXPECT_TRUE(fs::is_directory(inner));
-    Copy second(inner);
-    EXPECT_TRUE(second.FoundAnother());
 }
 
 TEST(InstancesTest, AreKnownInAReadOnlyFolder) {

@@ -118,16 +118,6 @@ TEST_F(KeysTest, AreThemselvesWhateverNumLockDoesMeanwhile) {
     EXPECT_EQ(Seen.size(), 1U);
 }
 
-TEST_F(KeysTest, SeveralAtOnceAreReleasedEachOnItsOwn) {
-    ScriptedForm& form = Bring("A");
-    form.Board.SetFocus();
-    Press(form, Qt::Key_Left);
-    Press(form, Qt::Key_Up);
-    Release(form, Qt::Key_Left);
-    Release(form, Qt::Key_Up);
-    EXPECT_EQ(Seen, (Log{"A KeyUp 37", "A KeyUp 38"}));
-}
-
 TEST_F(KeysTest, GoToTheFormBeforeItsControl) {
     ScriptedForm& form = Bring("A");
     form.First.SetFocus();
@@ -190,19 +180,58 @@ TEST_F(KeysTest, PressedInAnotherFormAreNotReleasedInThisOne) {
     EXPECT_EQ(Seen, Log{"B KeyUp 39"});
 }
 
-TEST_F(KeysTest, ThatChooseAMenuEntryAreTheMenus) {
+TEST_F(KeysTest, BelongToWhomTheyWerePressedFor) {
+    using Keys = std::vector<std::pair<char, QKeyCombination>>;  // press, release or tap
+    const QKeyCombination menu = Qt::ALT | Qt::Key_M;
+    struct Row {
+        const char* What;
+        Keys Strokes;
+        Log Events;
+    };
+    const Row rows[] = {
+        {"several at once are released each on its own",
+         {{'p', Qt::Key_Left}, {'p', Qt::Key_Up}, {'r', Qt::Key_Left}, {'r', Qt::Key_Up}},
+         {"A KeyUp 37", "A KeyUp 38"}},
+        {"one that chooses a menu entry is the menu's",
+         {{'p', menu},
+          {'r', menu},
+          {'t', Qt::Key_Down},
+          {'p', Qt::Key_Return},
+          {'r', Qt::Key_Return}},
+         {"A Other_Click"}},
+        {"that of the numeric pad too",
+         {{'p', menu},
+          {'r', menu},
+          {'t', Qt::Key_Down},
+          {'p', Qt::Key_Enter},
+          {'r', Qt::Key_Enter}},
+         {"A Other_Click"}},
+        {"one that opened the menu is the menu's too",
+         {{'p', menu}, {'t', Qt::Key_E}, {'r', menu}},
+         {"A Entry_Click"}},
+        {"one held when a menu opens belongs to nobody after it",
+         {{'p', Qt::Key_Down},
+          {'p', menu},
+          {'r', Qt::Key_Down},
+          {'p', Qt::Key_Down},
+          {'p', Qt::Key_Return},
+          {'r', Qt::Key_Return},
+          {'r', Qt::Key_Down}},
+         {"A Other_Click"}},
+        {"a shortcut is the menu's, but Ctrl itself is the form's",
+         {{'p', Qt::CTRL | Qt::Key_E}, {'r', Qt::CTRL | Qt::Key_E}},
+         {"A Entry_Click", "A KeyUp 17"}},
+    };
     ScriptedForm& form = Bring("A");
-    form.Board.SetFocus();
-    for (const int key : {int{Qt::Key_Return}, int{Qt::Key_Enter}}) {
+    for (const Row& row : rows) {
+        form.Board.SetFocus();
         Seen.clear();
-        Press(form, Qt::Key_M, Qt::AltModifier);
-        ASSERT_NE(QApplication::activePopupWidget(), nullptr);
-        Release(form, Qt::Key_M, Qt::AltModifier);
-        Tap(form, Qt::Key_Down);
-        Press(form, key);
-        EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
-        Release(form, key);
-        EXPECT_EQ(Seen, Log{"A Other_Click"}) << "key " << key;
+        for (const auto& [how, key] : row.Strokes) {
+            const auto stroke = how == 'p' ? Press : how == 'r' ? Release : Tap;
+            stroke(form, key.key(), key.keyboardModifiers());
+        }
+        EXPECT_EQ(Seen, row.Events) << row.What;
+        EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << row.What;
     }
 }
 
@@ -234,39 +263,6 @@ TEST_F(KeysTest, OfTheMenuBarGoToAControlThatTheFormFetchesThemFor) {
     };
     Tap(form, Qt::Key_Space);
     EXPECT_EQ(Seen, (Log{"A KeyUp 32", "A First_KeyUp 32", "A First_Click"}));
-}
-
-TEST_F(KeysTest, ThatOpenedTheMenuAreTheMenusToo) {
-    ScriptedForm& form = Bring("A");
-    form.Board.SetFocus();
-    Press(form, Qt::Key_M, Qt::AltModifier);
-    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
-    Tap(form, Qt::Key_E);
-    Release(form, Qt::Key_M, Qt::AltModifier);
-    EXPECT_EQ(Seen, Log{"A Entry_Click"});
-}
-
-TEST_F(KeysTest, HeldWhenAMenuOpensBelongToNobodyAfterIt) {
-    ScriptedForm& form = Bring("A");
-    form.Board.SetFocus();
-    Press(form, Qt::Key_Down);
-    Press(form, Qt::Key_M, Qt::AltModifier);
-    Release(form, Qt::Key_Down);
-    Press(form, Qt::Key_Down);
-    Press(form, Qt::Key_Return);
-    ASSERT_EQ(QApplication::activePopupWidget(), nullptr);
-    Release(form, Qt::Key_Return);
-    Release(form, Qt::Key_Down);
-    EXPECT_EQ(Seen, Log{"A Other_Click"});
-}
-
-TEST_F(KeysTest, OfAShortcutAreTheMenus) {
-    ScriptedForm& form = Bring("A");
-    form.Board.SetFocus();
-    Press(form, Qt::Key_E, Qt::ControlModifier);
-    EXPECT_EQ(Seen, Log{"A Entry_Click"});
-    Release(form, Qt::Key_E, Qt::ControlModifier);
-    EXPECT_EQ(Seen, (Log{"A Entry_Click", "A KeyUp 17"})) << "Ctrl itself is the form's";
 }
 
 TEST_F(KeysTest, HeldThroughAMenuEntryAreNoPressOfTheForm) {

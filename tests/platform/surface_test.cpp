@@ -105,34 +105,26 @@ void DrawEverything(Surface& surface, double size, Colour colour, bool backwards
 
 TEST(SurfaceTest, BackgroundColourTakesAwayEveryPixelAtEveryWidthAndScale) {
     constexpr int size = 67;
-    for (const double ratio : Ratios) {
-        for (int width = 1; width <= 60; ++width) {
-            Sheet sheet(QSize(size, size), ratio);
-            for (const int thicker : {0, 1, 7}) {
-                const bool backwards = (width + thicker) % 2 == 0;
-                sheet.DrawWidth(width);
-                DrawEverything(sheet, size * Twips, Ink);
-                ASSERT_FALSE(sheet.IsBlank());
-                sheet.DrawWidth(width + thicker);
-                DrawEverything(sheet, size * Twips, Back, backwards);
-                ASSERT_TRUE(sheet.IsBlank())
-                    << "width " << width << " + " << thicker << " at scale " << ratio
-                    << (backwards ? ", drawn from the other end" : "");
-            }
-        }
-    }
-}
-
-TEST(SurfaceTest, ErasingHoldsForEveryTwipsPerPixel) {
-    constexpr int size = 97;
-    for (const double twips : {1.0, 4.0, 8.0, 14.0}) {
-        for (const int width : {1, 2, 3, 8, 21}) {
-            Sheet sheet(QSize(size, size), 1.25, twips);
+    const auto eraseAll = [](double ratio, double twips, int width) {
+        Sheet sheet(QSize(size, size), ratio, twips);
+        for (const int thicker : {0, 1, 7}) {
+            const bool backwards = (width + thicker) % 2 == 0;
             sheet.DrawWidth(width);
             DrawEverything(sheet, size * twips, Ink);
             ASSERT_FALSE(sheet.IsBlank());
-            DrawEverything(sheet, size * twips, Back, true);
-            ASSERT_TRUE(sheet.IsBlank()) << "width " << width << ", twips per pixel " << twips;
+            sheet.DrawWidth(width + thicker);
+            DrawEverything(sheet, size * twips, Back, backwards);
+            ASSERT_TRUE(sheet.IsBlank())
+                << "width " << width << " + " << thicker << " at scale " << ratio
+                << ", twips per pixel " << twips << (backwards ? ", drawn from the other end" : "");
+        }
+    };
+    for (int width = 1; width <= 60; ++width) {
+        for (const double ratio : Ratios) {
+            ASSERT_NO_FATAL_FAILURE(eraseAll(ratio, Twips, width));
+        }
+        for (const double twips : {1.0, 4.0, 8.0, 14.0}) {
+            ASSERT_NO_FATAL_FAILURE(eraseAll(1.25, twips, width));
         }
     }
 }

@@ -132,6 +132,7 @@ protected:
             EXPECT_EQ(Times("A Unload"), 1);
             Seen.clear();
             SendLateEvents(form);
+            Program.Unload(form);
             Time.Wait(10, [] { return false; });
             EXPECT_EQ(Times("A Activate") + Times("A Resize") + Times("A First_Click") +
                           Times("A Second_GotFocus") + Times("A KeyUp 32") +
@@ -277,23 +278,6 @@ TEST_F(UnloadTest, ByTheKeyThatTheControlWouldSeeNext) {
     Release(form, Qt::Key_Space);
     EXPECT_EQ(Seen, (Log{"A KeyUp 32", "A Unload", "B Activate"}));
     EXPECT_EQ(ScriptedForm::Alive, 1);
-}
-
-TEST_F(UnloadTest, FromBothButtonsAtOnce) {
-    // The same form unloaded twice from routines that are inside each other.
-    Bring("B");
-    ScriptedForm& form = Bring("A");
-    form.Second.Click = [&] { Program.Unload(form); };
-    form.First.Click = [&] {
-        Time.In(1, [&] { ClickOn(form.Second); });
-        EXPECT_FALSE(form.Wait(5));
-        Program.Unload(form);
-    };
-    ClickOn(form.First);
-    EXPECT_EQ(Times("A Unload"), 1);
-    Pump();
-    EXPECT_EQ(ScriptedForm::Alive, 1);
-    EXPECT_FALSE(Program.Ended());
 }
 
 }  // namespace
