@@ -39,6 +39,16 @@ protected:
         }
     }
 
+    /// As much as nobody could play, in no time.
+    void AskForEverything() {
+        for (int i = 0; i < 1000; ++i) {
+            Sounds->PlayWave("P:\\a.wav");
+            Sounds->OpenMusic("P:\\ab.mid");
+            Sounds->PlayMusic();
+            Sounds->CloseMusic();
+        }
+    }
+
     /// A device that takes what is played only while somebody reads: a sound server that hangs.
     void Hang() {
         ASSERT_EQ(mkfifo(Pipe.c_str(), 0600), 0);
@@ -118,12 +128,7 @@ TEST_F(Devices, WithNoneNothingHappens) {
         testing::internal::CaptureStderr();
         const auto begin = Now::now();
         Play();
-        for (int i = 0; i < 1000; ++i) {
-            Sounds->PlayWave("P:\\a.wav");
-            Sounds->OpenMusic("P:\\ab.mid");
-            Sounds->PlayMusic();
-            Sounds->CloseMusic();
-        }
+        AskForEverything();
         Sounds.reset();
         EXPECT_LT(Now::now() - begin, Long);
         EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
@@ -172,11 +177,7 @@ TEST_F(Devices, OneThatHangsWhenOpenedHoldsUpNeitherCallsNorTheEnd) {
     const long threads = Threads();
     const auto begin = Now::now();
     Play();
-    for (int i = 0; i < 1000; ++i) {
-        Sounds->PlayWave("P:\\a.wav");
-        Sounds->OpenMusic("P:\\ab.mid");
-        Sounds->PlayMusic();
-    }
+    AskForEverything();
     usleep(300'000);  // what hangs there cannot be seen from here
     Sounds.reset();
     EXPECT_LT(Now::now() - begin, Long);
@@ -196,12 +197,7 @@ TEST_F(Devices, OneThatHangsInTheMiddleHoldsUpNeitherCallsNorTheEnd) {
         return waiting >= 65536;  // more goes into no pipe
     }));
     const auto begin = Now::now();
-    for (int i = 0; i < 1000; ++i) {
-        Sounds->PlayWave("P:\\a.wav");
-        Sounds->OpenMusic("P:\\ab.mid");
-        Sounds->PlayMusic();
-        Sounds->CloseMusic();
-    }
+    AskForEverything();
     Sounds.reset();
     EXPECT_LT(Now::now() - begin, Long);
     LetGo(reader, threads);
