@@ -53,6 +53,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(Ricette, OtherLevelsAreRefused) {
     for (const int livello : {-1, 16, std::numeric_limits<int>::min()}) {
+        EXPECT_THROW(DimensioniDi(livello), std::out_of_range);
         EXPECT_THROW(RicettaDi(livello), std::out_of_range);
         EXPECT_THROW(QuantiMuriDaAbbattere(livello, 40), std::out_of_range);
     }
