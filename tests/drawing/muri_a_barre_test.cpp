@@ -17,37 +17,29 @@ constexpr Misure Usuali{750, 1625, 740, 7};
 constexpr Misure Dispari{761, 100, 200, 7};
 
 struct Barra {
-    const char* Nome;
     Misure Come;
     Cella Dove;
     trameli::Lato Lato;
     Bounds Posto;
 };
 
-class MuriABarre : public testing::TestWithParam<Barra> {};
+constexpr Barra Barre[] = {
+    {Usuali, {1, 1}, Lato::Basso, {1500, 1365, 1000, 250}},
+    {Usuali, {1, 4}, Lato::Alto, {3750, 615, 1000, 250}},
+    {Usuali, {3, 1}, Lato::Sinistra, {1500, 2115, 250, 1000}},
+    {Usuali, {3, 2}, Lato::Destra, {3000, 2115, 250, 1000}},
+    {Dispari, {2, 3}, Lato::Basso, {1496, 1596, 1014, 253}},
+    {Dispari, {2, 3}, Lato::Destra, {2257, 835, 253, 1014}},
+};
 
-INSTANTIATE_TEST_SUITE_P(
-    Tabella, MuriABarre,
-    testing::Values(Barra{"Below", Usuali, {1, 1}, Lato::Basso, {1500, 1365, 1000, 250}},
-                    Barra{"Above", Usuali, {1, 4}, Lato::Alto, {3750, 615, 1000, 250}},
-                    Barra{"Left", Usuali, {3, 1}, Lato::Sinistra, {1500, 2115, 250, 1000}},
-                    Barra{"Right", Usuali, {3, 2}, Lato::Destra, {3000, 2115, 250, 1000}},
-                    Barra{"OddBelow", Dispari, {2, 3}, Lato::Basso, {1496, 1596, 1014, 253}},
-                    Barra{"OddRight", Dispari, {2, 3}, Lato::Destra, {2257, 835, 253, 1014}}),
-    [](const auto& voce) { return voce.param.Nome; });
-
-TEST_P(MuriABarre, LieCentredOnTheirWalls) {
-    const Barra& riga = GetParam();
-    EXPECT_EQ(PostoBarra(riga.Dove, riga.Lato, riga.Come), riga.Posto);
+TEST(MuriABarre, LieCentredOnTheirWallsForBothCells) {
+    for (const auto& [come, dove, lato, posto] : Barre) {
+        EXPECT_EQ(PostoBarra(dove, lato, come), posto);
+        EXPECT_EQ(PostoBarra(Vicina(dove, lato), Opposto(lato), come), posto);
+    }
 }
 
-TEST(BarreDelTramelo, ABarLiesAtTheSamePlaceForBothItsCells) {
-    EXPECT_EQ(PostoBarra({3, 4}, Lato::Destra, Dispari),
-              PostoBarra({3, 5}, Lato::Sinistra, Dispari));
-    EXPECT_EQ(PostoBarra({3, 4}, Lato::Basso, Dispari), PostoBarra({4, 4}, Lato::Alto, Dispari));
-}
-
-TEST(BarreDelTramelo, OneForEachWallInFourPasses) {
+TEST(MuriABarre, OneForEachWallInFourPasses) {
     CasualeConSeme casuale(1);
     Tramelo tramelo(2, 2, casuale);
     tramelo.CreaNuovaGriglia();

@@ -5,25 +5,25 @@
 namespace trameli {
 
 TEST(Segmento, GrowsAlongItselfAtEachEnd) {
-    EXPECT_EQ(Allunga({{1000, 1000}, {1750, 1000}}, 52, 7), (Segmento{{948, 1000}, {1757, 1000}}));
-    EXPECT_EQ(Allunga({{1750, 1000}, {1000, 1000}}, 52, 7), (Segmento{{1802, 1000}, {993, 1000}}));
-    EXPECT_EQ(Allunga({{1000, 1000}, {1000, 1750}}, 52, 7), (Segmento{{1000, 948}, {1000, 1757}}));
-    EXPECT_EQ(Allunga({{1000, 1750}, {1000, 1000}}, 52, 7), (Segmento{{1000, 1802}, {1000, 993}}));
-}
-
-TEST(Segmento, ShrinksToo) {
-    EXPECT_EQ(Allunga({{1000, 1000}, {1750, 1000}}, -52, -52),
-              (Segmento{{1052, 1000}, {1698, 1000}}));
-}
-
-TEST(Segmento, APointHasNoDirection) {
-    EXPECT_EQ(Allunga({{1000, 1000}, {1000, 1000}}, 52, 52),
-              (Segmento{{1000, 1000}, {1000, 1000}}));
-}
-
-TEST(Segmento, StopsAtSixteenBits) {
-    EXPECT_EQ(Allunga({{-32700, 0}, {32700, 0}}, 323, 323), (Segmento{{-32768, 0}, {32767, 0}}));
-    EXPECT_EQ(Allunga({{0, 32700}, {0, -32700}}, 323, 323), (Segmento{{0, 32767}, {0, -32768}}));
+    struct {
+        Segmento Prima;
+        int Indietro, Avanti;
+        Segmento Dopo;
+    } const casi[] = {
+        {{{1000, 1000}, {1750, 1000}}, 52, 7, {{948, 1000}, {1757, 1000}}},
+        {{{1750, 1000}, {1000, 1000}}, 52, 7, {{1802, 1000}, {993, 1000}}},
+        {{{1000, 1000}, {1000, 1750}}, 52, 7, {{1000, 948}, {1000, 1757}}},
+        {{{1000, 1750}, {1000, 1000}}, 52, 7, {{1000, 1802}, {1000, 993}}},
+        {{{1000, 1000}, {1750, 1000}}, -52, -52, {{1052, 1000}, {1698, 1000}}},
+        // A point has no direction.
+        {{{1000, 1000}, {1000, 1000}}, 52, 52, {{1000, 1000}, {1000, 1000}}},
+        {{{-32700, 0}, {32700, 0}}, 323, 323, {{-32768, 0}, {32767, 0}}},
+        {{{0, 32700}, {0, -32700}}, 323, 323, {{0, 32767}, {0, -32768}}},
+    };
+    for (const auto& [prima, indietro, avanti, dopo] : casi) {
+        EXPECT_EQ(Allunga(prima, indietro, avanti), dopo)
+            << "from " << prima.Da.X << ", " << prima.Da.Y << " by " << indietro;
+    }
 }
 
 TEST(MetaPenna, IsRoundedBeforeItIsHalved) {

@@ -3,59 +3,48 @@
 #include <gtest/gtest.h>
 
 #include <stdexcept>
-#include <string>
 
 namespace trameli {
-
 namespace {
 
 struct Caso {
     int SpessoreLinee;
-    Spessori Atteso;
+    std::int16_t DimensioneCella;
+    double TwipsPerPixel;
+    Pareti Muri;
+    Spessori Attesi;
 };
 
-class OgniCombinazione : public testing::TestWithParam<Caso> {};
-
-}  // namespace
-
-TEST_P(OgniCombinazione, FollowsTheCellOfFiftyPixels) {
-    const auto& [combinazione, atteso] = GetParam();
-    EXPECT_EQ(CalcolaSpessori(combinazione, 750, 15, Pareti::Linee), atteso);
-}
-
-INSTANTIATE_TEST_SUITE_P(Spessori, OgniCombinazione,
-                         testing::Values(Caso{0, {5, 5, 45}}, Caso{1, {10, 10, 40}},
-                                         Caso{2, {16, 16, 34}}, Caso{3, {16, 7, 43}},
-                                         Caso{4, {10, 5, 45}}, Caso{5, {7, 16, 34}},
-                                         Caso{6, {5, 10, 40}}),
-                         [](const auto& caso) {
-                             return "Combinazione" + std::to_string(caso.param.SpessoreLinee);
-                         });
-
-TEST(Spessori, CorridorBetweenBarsIsTwoThirdsOfACell) {
-    // 50 \ 3 is 16; the walls' own thickness has no part in it.
-    EXPECT_EQ(CalcolaSpessori(0, 750, 15, Pareti::Barre), (Spessori{5, 5, 34}));
-    EXPECT_EQ(CalcolaSpessori(5, 750, 15, Pareti::Barre), (Spessori{7, 16, 34}));
-}
-
-TEST(Spessori, CellIsFlooredToWholePixelsFirst) {
-    // 764 / 15 is 50.9: one pixel more would make the walls 17 pixels thick.
-    EXPECT_EQ(CalcolaSpessori(2, 764, 15, Pareti::Linee), (Spessori{16, 16, 34}));
-    EXPECT_EQ(CalcolaSpessori(2, 765, 15, Pareti::Linee), (Spessori{17, 17, 34}));
-}
-
-TEST(Spessori, FinerScreenHasMorePixelsInACell) {
+constexpr Caso Casi[] = {
+    // A cell of 50 pixels.
+    {0, 750, 15, Pareti::Linee, {5, 5, 45}},
+    {1, 750, 15, Pareti::Linee, {10, 10, 40}},
+    {2, 750, 15, Pareti::Linee, {16, 16, 34}},
+    {3, 750, 15, Pareti::Linee, {16, 7, 43}},
+    {4, 750, 15, Pareti::Linee, {10, 5, 45}},
+    {5, 750, 15, Pareti::Linee, {7, 16, 34}},
+    {6, 750, 15, Pareti::Linee, {5, 10, 40}},
+    // Between bars two thirds: 50 \ 3 is 16, and the walls' own thickness has no part in it.
+    {0, 750, 15, Pareti::Barre, {5, 5, 34}},
+    {5, 750, 15, Pareti::Barre, {7, 16, 34}},
+    // Whole pixels first: 764 / 15 is 50.9, and 51 would make the walls 17 pixels thick.
+    {2, 764, 15, Pareti::Linee, {16, 16, 34}},
+    {2, 765, 15, Pareti::Linee, {17, 17, 34}},
     // 750 / 8 is 93.75: 93 pixels, 93 / 7 is 13.3 and 93 / 3 is 31.
-    EXPECT_EQ(CalcolaSpessori(5, 750, 8, Pareti::Linee), (Spessori{13, 31, 62}));
-}
+    {5, 750, 8, Pareti::Linee, {13, 31, 62}},
+    // The smallest and the largest.
+    {0, 149, 15, Pareti::Linee, {0, 0, 9}},
+    {0, 0, 15, Pareti::Linee, {0, 0, 0}},
+    {0, 32767, 1, Pareti::Linee, {3276, 3276, 29491}},
+};
 
-TEST(Spessori, TinyCellsHaveThicknessZero) {
-    EXPECT_EQ(CalcolaSpessori(0, 149, 15, Pareti::Linee), (Spessori{0, 0, 9}));
-    EXPECT_EQ(CalcolaSpessori(0, 0, 15, Pareti::Linee), (Spessori{0, 0, 0}));
-}
-
-TEST(Spessori, LargestCellFits) {
-    EXPECT_EQ(CalcolaSpessori(0, 32767, 1, Pareti::Linee), (Spessori{3276, 3276, 29491}));
+TEST(Spessori, ArePartsOfTheCellInWholePixels) {
+    for (const auto& [combinazione, cella, twips, muri, attesi] : Casi) {
+        const Spessori spessori = CalcolaSpessori(combinazione, cella, twips, muri);
+        EXPECT_EQ(spessori, attesi)
+            << combinazione << " in " << cella << ": " << spessori.SpessoreTraccia << ", "
+            << spessori.SpessoreMuri << ", " << spessori.LarghezzaCorridoio;
+    }
 }
 
 TEST(Spessori, ThereIsNoEighthCombination) {
@@ -63,4 +52,5 @@ TEST(Spessori, ThereIsNoEighthCombination) {
     EXPECT_THROW(CalcolaSpessori(-1, 750, 15, Pareti::Linee), std::out_of_range);
 }
 
+}  // namespace
 }  // namespace trameli
