@@ -232,22 +232,26 @@ TEST_F(Devices, AWaveAskedForInAHangIsNotHeardAfterIt) {
 
 TEST_F(Devices, TheProgramEndsInTheMiddleOfEverything) {
     testing::GTEST_FLAG(death_test_style) = "threadsafe";
-    const auto playAndEnd = [this] {
+    // Nothing is destroyed on this way out, so the folder goes by hand.
+    const auto end = [this] {
+        Sounds.reset();
+        std::filesystem::remove_all(PathOf(""));
+        std::exit(0);
+    };
+    const auto playAndEnd = [this, end] {
         Play();
         Sounds->OpenMusic("P:\\ab.mid");
         Sounds->PlayMusic();
         Sounds->PlayWave("P:\\long.wav");
         Soon([&] { return Story().starts_with("A"); });
-        Sounds.reset();
-        std::exit(0);
+        end();
     };
-    const auto hangAndEnd = [this] {
+    const auto hangAndEnd = [this, end] {
         Hang();
         Play();
         Sounds->PlayWave("P:\\long.wav");
         usleep(300'000);
-        Sounds.reset();
-        std::exit(0);
+        end();
     };
     const auto begin = Now::now();
     EXPECT_EXIT(playAndEnd(), testing::ExitedWithCode(0), "");
