@@ -23,7 +23,7 @@ if [[ -z ${DISPLAY:-} ]]; then
     server=$!
     while [[ ! -s $scratch/display ]]; do sleep 0.1; done
     export DISPLAY=:$(<"$scratch/display")
-    openbox 2>/dev/null &
+    openbox >/dev/null 2>&1 &
     sleep 1
 fi
 export QT_QPA_PLATFORM=xcb
