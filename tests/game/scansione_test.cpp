@@ -56,6 +56,26 @@ TEST_P(OgniModo, AWalkLooksAsWithTheKeyboard) {
     }
 }
 
+TEST_F(ConInterruttori, TheOfferMovesAtThePaceOfThePlayer) {
+    for (const int velocita : {2, 60}) {
+        modo_ = Automatica;
+        file_ = Utente(Automatica, Blu).Con(RigaVelocita, velocita);
+        disco_.Scrivi("_predefinito", file_);
+        Partita partita(disco_, {800, 600}, 11);
+        const Tavolo tavolo = AlTavolo(partita.ApriLivello(9), 9);
+        partenza_ = tavolo.Partenza();
+        const double giro = velocita * 0.25;
+        partita.Tempo.Advance(giro - 0.01);
+        EXPECT_EQ(TrattiAllInizio(tavolo), std::vector<int>{}) << velocita;
+        for (const int offerta : {1, 2, 3}) {
+            partita.Tempo.Advance(0.02);
+            EXPECT_EQ(TrattiAllInizio(tavolo), std::vector{offerta}) << velocita;
+            partita.Tempo.Advance(giro - 0.02);
+            EXPECT_EQ(TrattiAllInizio(tavolo), std::vector{offerta}) << velocita;
+        }
+    }
+}
+
 class OgniSpessore : public ConInterruttori, public testing::WithParamInterface<int> {};
 
 INSTANTIATE_TEST_SUITE_P(Spessori, OgniSpessore, testing::Range(0, 7));
