@@ -136,6 +136,10 @@ struct Caso {
     int Modo;
 };
 
+/// A level of each window in which switches play, in both ways.
+inline constexpr std::array CasiDiScansione{Caso{1, Manuale}, Caso{1, Automatica}, Caso{9, Manuale},
+                                            Caso{9, Automatica}};
+
 inline std::string NomeCaso(const testing::TestParamInfo<Caso>& voce) {
     constexpr std::array modi{"Keyboard", "TwoKeys", "OneKey"};
     return "Level" + std::to_string(voce.param.Livello) +

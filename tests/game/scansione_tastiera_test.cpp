@@ -18,10 +18,7 @@ namespace {
 
 class OgniTastiera : public ConInterruttori, public testing::WithParamInterface<Caso> {};
 
-INSTANTIATE_TEST_SUITE_P(Casi, OgniTastiera,
-                         testing::Values(Caso{1, Manuale}, Caso{1, Automatica}, Caso{9, Manuale},
-                                         Caso{9, Automatica}),
-                         NomeCaso);
+INSTANTIATE_TEST_SUITE_P(Casi, OgniTastiera, testing::ValuesIn(CasiDiScansione), NomeCaso);
 
 TEST_P(OgniTastiera, AHeldSwitchIsOneStroke) {
     const auto [livello, modo] = GetParam();

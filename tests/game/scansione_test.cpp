@@ -8,10 +8,7 @@ namespace {
 
 class OgniModo : public ConInterruttori, public testing::WithParamInterface<Caso> {};
 
-INSTANTIATE_TEST_SUITE_P(Casi, OgniModo,
-                         testing::Values(Caso{1, Manuale}, Caso{1, Automatica}, Caso{9, Manuale},
-                                         Caso{9, Automatica}),
-                         NomeCaso);
+INSTANTIATE_TEST_SUITE_P(Casi, OgniModo, testing::ValuesIn(CasiDiScansione), NomeCaso);
 
 TEST_P(OgniModo, OffersGoRoundClockwiseOneAtATime) {
     const auto [livello, modo] = GetParam();

@@ -91,7 +91,6 @@ void Mixer::Close() {
     if (!open_) {
         return;
     }
-    retryAt_ = {};
     StopMusic();
     sdl_.Mix_HaltChannel(OnlyChannel);
     // The waves stay for the next time; they were decoded for a format that is always asked for.
@@ -106,9 +105,7 @@ bool Mixer::CloseIfLost() {
     if (!open_ || sdl_.SDL_GetAudioDeviceStatus(OnlyDevice) != SDL_AUDIO_STOPPED) {
         return false;
     }
-    const auto retryAt = retryAt_;
     Close();
-    retryAt_ = retryAt;
     return true;
 }
 
@@ -124,6 +121,7 @@ void Mixer::Rest() {
         lastSound_ = now;
     } else if (now - lastSound_ >= options_.Silence) {
         Close();
+        retryAt_ = {};  // nothing was wrong with it
     }
 }
 
