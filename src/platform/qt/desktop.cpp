@@ -11,6 +11,7 @@
 #include "platform/qt/convert.h"
 #include "platform/qt/desktop_services.h"
 #include "platform/qt/folder_lock.h"
+#include "platform/qt/font_search.h"
 #include "platform/qt/graphics.h"
 #include "platform/qt/local_file_system.h"
 #include "platform/qt/mixer_sounds.h"
@@ -111,6 +112,7 @@ struct Desktop::Services {
           Lock(UserDataFolder()),
           Sounds(Files) {}
 
+    FontSearch Fonts;  // before the toolkit, which takes about as long to start
     QApplication Application;
     DesktopClock Clock;
     DesktopScreen Screen;

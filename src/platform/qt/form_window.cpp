@@ -99,7 +99,16 @@ void FormWindow::Present() {
     // picture is there sooner.
     setUpdatesEnabled(false);
     show();
+    LookUpFonts();
     Settle();
+}
+
+/// Has the toolkit look for the system's fonts, which it does when it first needs one. Now the
+/// desktop is putting its frame round the window; later nothing but the search would be going on.
+void FormWindow::LookUpFonts() {
+    if (const QWidget* first = focusWidget()) {
+        first->fontMetrics().height();
+    }
 }
 
 bool FormWindow::FocusMovedTo(const Control& control) {

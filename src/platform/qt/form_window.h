@@ -57,6 +57,7 @@ private:
     void Activate();
     std::vector<const VisualControl*> OrderTabs();
     void FocusFirst();
+    void LookUpFonts();
 
     Form& form_;
     ClientArea& client_;
