@@ -1,5 +1,7 @@
 #include "platform/desktop.h"
 
+#include <fontconfig/fontconfig.h>
+
 #include <QApplication>
 #include <QEventLoop>
 #include <QMessageBox>
@@ -7,11 +9,11 @@
 #include <QScreen>
 #include <QTimer>
 #include <chrono>
+#include <thread>
 
 #include "platform/qt/convert.h"
 #include "platform/qt/desktop_services.h"
 #include "platform/qt/folder_lock.h"
-#include "platform/qt/font_search.h"
 #include "platform/qt/graphics.h"
 #include "platform/qt/local_file_system.h"
 #include "platform/qt/mixer_sounds.h"
@@ -112,7 +114,6 @@ struct Desktop::Services {
           Lock(UserDataFolder()),
           Sounds(Files) {}
 
-    FontSearch Fonts;  // before the toolkit, which takes about as long to start
     QApplication Application;
     DesktopClock Clock;
     DesktopScreen Screen;
@@ -123,6 +124,9 @@ struct Desktop::Services {
 };
 
 Desktop::Desktop(int& argc, char** argv) {
+    // The toolkit asks for the system's fonts when it needs the first one. Reading which there are
+    // takes as long as starting the toolkit, which mostly waits for the screen, so it goes beside.
+    const std::jthread fonts([] { FcInit(); });
     QApplication::setApplicationName(QStringLiteral("trameli"));
     QApplication::setDesktopFileName(QStringLiteral("trameli"));
     services_ = std::make_unique<Services>(argc, argv);
