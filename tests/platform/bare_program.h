@@ -19,15 +19,12 @@ class BareForm : public Form {
 public:
     BareForm(trameli::Forms& forms, const std::string& name) : Form(forms, name, {6000, 4500}) {}
 
-    bool Wait(double seconds) { return Attesa(seconds); }
     int MovesOverIt = 0;
-    int Resizes = 0;
     std::function<void()> WhenResized;
 
 protected:
     void Form_MouseMove() override { ++MovesOverIt; }
     void Form_Resize() override {
-        ++Resizes;
         if (WhenResized) {
             WhenResized();
         }

