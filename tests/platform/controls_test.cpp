@@ -35,10 +35,11 @@ TEST_F(ControlsTest, ListFiresClickWhenTheChoiceChanges) {
         combo.AddItem(entry);
     }
     EXPECT_EQ(combo.ListIndex(), -1) << "nothing is chosen by itself";
-    for (const int index : {1, 1, -2, 3, 99, -1, -1}) {
+    for (const int index : {1, 1, -2, 3, 99, 0, -1, -1}) {
         combo.ListIndex(index);
     }
-    EXPECT_EQ(Seen, (Names{"1one", "-1"})) << "once for each that changes to what there is";
+    EXPECT_EQ(Seen, (Names{"1one", "0zero", "-1"}))
+        << "once for each that changes to what there is";
     combo.List(1, "uno");
     EXPECT_EQ(combo.List(1), "uno");
     EXPECT_EQ(combo.List(3), "");

@@ -175,6 +175,18 @@ TEST_F(KeysTest, BelongToWhomTheyWerePressedFor) {
     }
 }
 
+TEST_F(KeysTest, OfTheMenuBarGoToAControlThatTheFormFetchesThemFor) {
+    Tap(A, Qt::Key_Alt);
+    ASSERT_FALSE(WidgetOf(A.First).hasFocus());
+    Seen.clear();
+    Scripts["A"].KeyDown = [](ScriptedForm& self, int) {
+        self.First.SetFocus();
+        return false;
+    };
+    Tap(A, Qt::Key_Space);
+    EXPECT_EQ(Seen, (Log{"A KeyUp 32", "A First_KeyUp 32", "A First_Click"}));
+}
+
 TEST_F(KeysTest, HeldThroughAMenuEntryAreNoPressOfTheForm) {
     A.First.SetFocus();
     Tap(A, Qt::Key_M, Qt::AltModifier);

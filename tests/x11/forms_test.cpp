@@ -95,10 +95,7 @@ protected:
 };
 
 TEST_F(FormsOnX11, AreActivatedOnceAndAtTheirFinalSize) {
-    struct Size {
-        double Width;
-        double Height;
-    };
+    using Size = std::pair<double, double>;
     std::map<std::string, Size> activated;
     for (const char* name : {"A", "B"}) {
         Scripts[name].Activate = [&, name](ScriptedForm& form) {
@@ -114,9 +111,7 @@ TEST_F(FormsOnX11, AreActivatedOnceAndAtTheirFinalSize) {
     for (const std::string name : {"A", "B", "A", "B"}) {
         SCOPED_TRACE(name);
         ASSERT_NO_FATAL_FAILURE(AwaitFront(name));
-        const Size size{Get(name).Width(), Get(name).Height()};
-        EXPECT_EQ(activated[name].Width, size.Width);
-        EXPECT_EQ(activated[name].Height, size.Height);
+        EXPECT_EQ(activated[name], Size(Get(name).Width(), Get(name).Height()));
         EXPECT_EQ(Times(name + " Load"), 1);
         EXPECT_EQ(Times(name + " Activate"), 1);
         EXPECT_GE(Times(name + " Resize"), 1);
@@ -132,21 +127,18 @@ TEST_F(FormsOnX11, SeeAHeldKeyAsOneStroke) {
     ASSERT_NO_FATAL_FAILURE(AwaitFront("A"));
     struct Row {
         const char* Key;
-        std::function<void(ScriptedForm&)> Prepare;
+        VisualControl& On;
         Log Expected;
     };
+    ScriptedForm& form = Get("A");
     const Row rows[] = {
-        {"Right", [](ScriptedForm& form) { form.Board.SetFocus(); }, {"A KeyUp 39"}},
-        {"space",
-         [](ScriptedForm& form) { form.First.SetFocus(); },
-         {"A KeyUp 32", "A First_KeyUp 32", "A First_Click"}},
-        {"Return",
-         [](ScriptedForm& form) { form.First.SetFocus(); },
-         {"A KeyUp 13", "A First_KeyUp 13", "A First_Click"}},
+        {"Right", form.Board, {"A KeyUp 39"}},
+        {"space", form.First, {"A KeyUp 32", "A First_KeyUp 32", "A First_Click"}},
+        {"Return", form.First, {"A KeyUp 13", "A First_KeyUp 13", "A First_Click"}},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.Key);
-        row.Prepare(Get("A"));
+        row.On.SetFocus();
         Pump();
         Seen.clear();
         Counter.Repeats = 0;
