@@ -25,6 +25,7 @@ protected:
             routine(Ticker);
         };
         Time.Advance(seconds);
+        Ticker.Tick = nullptr;
         return moments;
     }
 
