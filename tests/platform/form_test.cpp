@@ -137,14 +137,6 @@ TEST_F(FormTest, EndStartsNoFurtherRoutine) {
              form.First.Click = [&] { end(form); };
              ClickOn(form.First);
          }},
-        {"wait",
-         [&](ScriptedForm& form) {
-             form.First.Click = [&] { EXPECT_FALSE(form.Wait(10)); };
-             const double before = Time.Now();
-             Time.In(2, [&] { end(form); });
-             ClickOn(form.First);
-             EXPECT_EQ(Time.Now(), before + 2);
-         }},
         {"key",
          [&](ScriptedForm& form) {
              Scripts["A"].KeyUp = [&](ScriptedForm& self, int) { end(self); };

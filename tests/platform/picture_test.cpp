@@ -124,20 +124,6 @@ TEST_F(PictureTest, ImageIsStretchedAndItsTransparentPartsShowTheDrawing) {
     EXPECT_EQ(Differences(Look(image), wide), 0);
 }
 
-TEST_F(PictureTest, ButtonShowsItsPictureInItsOwnProportions) {
-    Bring();
-    CommandButton button(TheForm, "Button", {300, 300, 4500, 1500});
-    const QImage bare = Look(button);
-    button.Picture({"sole.svg"});
-    const QImage face = Look(button);
-    EXPECT_GT(Differences(face, bare), 1000);
-    // A square picture on a broad button leaves its sides alone.
-    EXPECT_EQ(Differences(face.copy(0, 0, 100, 100), bare.copy(0, 0, 100, 100)), 0);
-    EXPECT_EQ(Differences(face.copy(200, 0, 100, 100), bare.copy(200, 0, 100, 100)), 0);
-    button.Caption("Caption");
-    EXPECT_GT(Differences(Look(button), face), 200);
-}
-
 TEST_F(PictureTest, ShapesAndLinesLieUnderTheControls) {
     Bring();
     Label label(TheForm, "Label", {600, 600, 900, 900}, "");

@@ -46,17 +46,6 @@ TEST_F(TimerTest, TicksOnlyWhileItIsEnabledAndHasAnInterval) {
     EXPECT_EQ(TicksIn(1), Moments{});
 }
 
-TEST_F(TimerTest, StartsItsIntervalAnewOnlyWhenSomethingChanges) {
-    Ticker.Enabled(true);
-    Time.Advance(0.06);
-    Ticker.Enabled(true);
-    Ticker.Interval(100);
-    EXPECT_EQ(TicksIn(0.1), Moments{40});
-    Ticker.Enabled(false);
-    Ticker.Enabled(true);
-    EXPECT_EQ(TicksIn(0.15), Moments{100});
-}
-
 TEST_F(TimerTest, MayBeChangedOrWaitInItsOwnRoutine) {
     struct Row {
         const char* What;

@@ -94,6 +94,7 @@ protected:
             Seen.clear();
             SendLateEvents(form);
             Program.Unload(form);
+            EXPECT_EQ(Time.TimersRunning(), 0);
             Time.Wait(10, [] { return false; });
             EXPECT_TRUE(std::none_of(Seen.begin(), Seen.end(), [](const std::string& line) {
                 return line.starts_with("A ");
@@ -105,7 +106,6 @@ protected:
         EXPECT_TRUE(returned);
         Pump();
         EXPECT_EQ(ScriptedForm::Alive, others);
-        EXPECT_EQ(Time.TimersRunning(), 0);
     }
 };
 
