@@ -59,6 +59,25 @@ TEST_F(ControlsTest, ListFiresClickWhenTheChoiceChanges) {
     EXPECT_EQ(Seen.size(), 1U);
 }
 
+TEST_F(ControlsTest, OneOptionOfAContainerIsChosen) {
+    Frame frame(TheForm, "Frame", {0, 0, 3000, 3000});
+    OptionButton one(frame, "one", {150, 300, 2500, 400}, "1");
+    OptionButton two(frame, "two", {150, 900, 2500, 400}, "2");
+    OptionButton apart(TheForm, "apart", {3300, 300, 2500, 400}, "3");
+    for (OptionButton* option : {&one, &two, &apart}) {
+        option->Click = Noting(option->Name());
+    }
+    apart.Value(true);
+    one.Value(true);
+    Bring();
+    ClickOn(two);
+    ClickOn(two);
+    EXPECT_TRUE(two.Value() && !one.Value() && apart.Value());
+    two.Value(false);
+    EXPECT_FALSE(two.Value()) << "code can give up the chosen one";
+    EXPECT_EQ(Seen, (Names{"apart", "one", "two"}));
+}
+
 TEST_F(ControlsTest, MouseClicksWhatIsEnabledAndOnlyInside) {
     Frame frame(TheForm, "Frame", {0, 0, 9000, 6000});
     CommandButton button(frame, "Button", {300, 300, 1500, 600}, "Button");

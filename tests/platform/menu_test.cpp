@@ -98,8 +98,6 @@ TEST_F(MenuTest, MarkIsTheProgramsToSet) {
     entry.Click = [&] { entry.Checked(!entry.Checked()); };
     Choose(0);
     EXPECT_EQ(Entries(), Texts{"*Entry"});
-    Choose(0);
-    EXPECT_EQ(Entries(), Texts{"Entry"});
 }
 
 TEST_F(MenuTest, EntriesComeAndGo) {
