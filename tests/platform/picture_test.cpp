@@ -9,6 +9,7 @@
 #include "platform/line.h"
 #include "platform/option_button.h"
 #include "platform/shape.h"
+#include "platform/status_bar.h"
 
 namespace trameli {
 namespace {
@@ -128,19 +129,19 @@ TEST_F(PictureTest, ImageIsStretchedAndItsTransparentPartsShowTheDrawing) {
 
 TEST_F(PictureTest, ShapesAndLinesLieUnderTheControls) {
     Bring();
-    Label label(TheForm, "Label", {600, 600, 900, 900}, "");
+    Label label(TheForm, "Label", {2850, 600, 900, 900}, "");
     label.BackColor(White);
     Shape shape(TheForm, "Shape", {300, 300, 3000, 1500}, 4, Odd);
     const QImage outline = Look(shape);
-    EXPECT_EQ(Count(outline, Odd), 200 * 100 - 192 * 92);
+    EXPECT_EQ(Count(outline, Odd), 200 * 100 - 192 * 92 - 4 * 60);
     EXPECT_EQ(outline.pixel(0, 0), PixelOf(Odd));
     shape.BorderColor(Black);
-    EXPECT_EQ(Count(Look(shape), Black), 200 * 100 - 192 * 92);
+    EXPECT_EQ(Count(Look(shape), Black), 200 * 100 - 192 * 92 - 4 * 60);
 
     Line line(TheForm, "Line", 300, 900, 3300, 900, 3, Odd);
     EXPECT_EQ(Count(Look(label), White), 60 * 60) << "both go under the label";
     const auto lineSeen = [&] { return static_cast<double>(Count(Shot(TheForm), Odd)); };
-    EXPECT_NEAR(lineSeen(), 3 * (200 - 60), 20);
+    EXPECT_NEAR(lineSeen(), 3 * (200 - 30), 20);
     line.Ends(300, 2400, 3300, 2400);
     EXPECT_NEAR(lineSeen(), 3 * 200, 20);
     line.BorderWidth(9);
@@ -156,6 +157,18 @@ TEST_F(PictureTest, FrameHasItsBorderOrNot) {
     EXPECT_LT(Share(Look(frame), White), 0.99);
     frame.Border(false);
     EXPECT_EQ(Share(Look(frame), White), 1) << "without a border there is no caption either";
+}
+
+TEST_F(PictureTest, StatusBarKeepsItsPanelsInANarrowWindow) {
+    StatusBar bar(TheForm, "Bar", 1500, {"one", "two", "three"});
+    bar.Panel(3, "3 <b>");
+    EXPECT_EQ(bar.Panel(1) + bar.Panel(2) + bar.Panel(3), "onetwo3 <b>");
+    Bring();
+    WindowOf(TheForm).resize(120, 300);
+    Pump();
+    for (const QWidget* panel : WidgetOf(bar).findChildren<QWidget*>()) {
+        EXPECT_TRUE(WidgetOf(bar).rect().contains(panel->geometry()));
+    }
 }
 
 }  // namespace
