@@ -1,9 +1,8 @@
 // The life of a form: loading, size, activation, and the end of the program.
-#include <QApplication>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QTimer>
 #include <QWindow>
-#include <algorithm>
 
 #include "platform/scripted_form.h"
 

@@ -7,7 +7,6 @@
 #include <QWindow>
 
 #include "platform/combo_box.h"
-#include "platform/keys.h"
 #include "platform/qt/desktop_services.h"
 #include "platform/scripted_form.h"
 
@@ -210,8 +209,11 @@ TEST_F(KeysTest, ThatMeetAMessageBoxAreTheBoxes) {
                 ASSERT_NE(box, nullptr);
                 Pump();
                 EXPECT_TRUE(box->isActiveWindow());
-                heldBefore ? void(box->close())
-                           : QTest::keyPress(box->windowHandle(), static_cast<Qt::Key>(key));
+                if (heldBefore) {
+                    box->close();
+                    return;
+                }
+                QTest::keyPress(box->windowHandle(), static_cast<Qt::Key>(key));
                 if (box->isVisible()) {
                     QTest::keyRelease(box->windowHandle(), static_cast<Qt::Key>(key));
                 }

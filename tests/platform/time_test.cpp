@@ -1,6 +1,5 @@
 // Timers of a form, and the clock of the desktop that they run on.
 #include <QCoreApplication>
-#include <QEventLoop>
 #include <QTimer>
 #include <vector>
 
