@@ -1,8 +1,6 @@
 // What is heard while a level is played.
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "game/partita.h"
 #include "platform/command_button.h"
 
@@ -17,59 +15,54 @@ const std::string Tic = "wave P:\\suoni\\muovi.wav";
 
 class SuoniInGioco : public testing::TestWithParam<int> {
 protected:
-    Tavolo Apri(const FileUtente& file) {
-        disco_.Scrivi("_predefinito", file);
-        Form& form = partita_.ApriLivello(GetParam());
-        return Tavolo(form, MisureLivelli.at(static_cast<std::size_t>(GetParam())), file);
+    Tavolo Apri(Partita& partita) const {
+        return Tavolo(partita.ApriLivello(GetParam()),
+                      MisureLivelli.at(static_cast<std::size_t>(GetParam())));
     }
-    Chiesti& Uditi() { return partita_.Suoni.Asked; }
 
     Disco disco_;
-    Partita partita_{disco_, {800, 600}, 7};
 };
 
-TEST_P(SuoniInGioco, EachStepTicksAndTheCupSaysYes) {
-    const Tavolo tavolo = Apri(FileUtente().Con(RigaSuonoMovimento, "True"));
-    EXPECT_EQ(Uditi(), Chiesti());
-    const auto passi = tavolo.Soluzione();
-    tavolo.Cammina(passi);
-    Chiesti attesi(passi.size(), Tic);
-    attesi.push_back(Si);
-    EXPECT_EQ(Uditi(), attesi);
-}
+INSTANTIATE_TEST_SUITE_P(Livelli, SuoniInGioco, testing::Values(3, 9));
 
-TEST_P(SuoniInGioco, StepsAreSilentUnlessAskedForAndWallsAreNot) {
-    const Tavolo tavolo = Apri({});
-    const auto passi = tavolo.Soluzione();
-    // Before the first step every other way is a wall.
-    tavolo.Passo((passi.front() + 2) % 4);
-    EXPECT_EQ(Uditi(), Chiesti{Boing});
-    tavolo.Cammina(passi);
-    EXPECT_EQ(Uditi(), (Chiesti{Boing, Si}));
-}
-
-TEST_P(SuoniInGioco, NothingIsHeardWithSoundsOff) {
-    const Tavolo tavolo =
-        Apri(FileUtente().Con(RigaSuoni, "False").Con(RigaSuonoMovimento, "True"));
-    const auto passi = tavolo.Soluzione();
-    tavolo.Passo((passi.front() + 2) % 4);
-    tavolo.Cammina(passi);
-    EXPECT_EQ(Uditi(), Chiesti());
+TEST_P(SuoniInGioco, AreThoseThatThePlayerWants) {
+    struct {
+        const char* Suoni;
+        const char* Movimento;
+        Chiesti Urto, Passo, Coppa;
+    } const casi[] = {{"True", "True", {Boing}, {Tic}, {Si}},
+                      {"True", "False", {Boing}, {}, {Si}},
+                      {"False", "True", {}, {}, {}}};
+    for (const auto& caso : casi) {
+        disco_.Scrivi(
+            "_predefinito",
+            FileUtente().Con(RigaSuoni, caso.Suoni).Con(RigaSuonoMovimento, caso.Movimento));
+        Partita partita(disco_, {800, 600}, 7);
+        const Tavolo tavolo = Apri(partita);
+        const auto passi = tavolo.Soluzione();
+        // Before the first step every other way is a wall.
+        tavolo.Passo(Contrario(passi.front()));
+        Chiesti attesi = caso.Urto;
+        for (const int verso : passi) {
+            tavolo.Passo(verso);
+            attesi.insert(attesi.end(), caso.Passo.begin(), caso.Passo.end());
+        }
+        attesi.insert(attesi.end(), caso.Coppa.begin(), caso.Coppa.end());
+        EXPECT_EQ(partita.Suoni.Asked, attesi) << caso.Suoni << ", " << caso.Movimento;
+    }
 }
 
 TEST_P(SuoniInGioco, TheFifthMazeGivesTheWordToTheMusic) {
-    const Tavolo tavolo = Apri({});
+    Partita partita(disco_, {800, 600}, 7);
+    const Tavolo tavolo = Apri(partita);
     for (int volta = 0; volta < 4; ++volta) {
-        Tavolo(tavolo.Form_, MisureLivelli.at(static_cast<std::size_t>(GetParam()))).Risolvi();
+        tavolo.Risolvi();
         ClickOn(Trova<CommandButton>(tavolo.Form_, "BottoneAvanti"));
     }
-    EXPECT_EQ(Uditi(), Chiesti(4, Si));
-    Uditi().clear();
-    Tavolo(tavolo.Form_, MisureLivelli.at(static_cast<std::size_t>(GetParam()))).Risolvi();
-    EXPECT_EQ(Uditi(), (Chiesti{"close", "open P:\\suoni\\coppa.mid", "play"}));
+    tavolo.Risolvi();
+    EXPECT_EQ(partita.Suoni.Asked,
+              (Chiesti{Si, Si, Si, Si, "close", "open P:\\suoni\\coppa.mid", "play"}));
 }
-
-INSTANTIATE_TEST_SUITE_P(Livelli, SuoniInGioco, testing::Values(3, 9));
 
 }  // namespace
 }  // namespace trameli
