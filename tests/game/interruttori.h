@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <vector>
@@ -17,43 +18,39 @@ inline constexpr int Manuale = 1;
 inline constexpr int Automatica = 2;
 inline constexpr int Velocita = 4;  // quarters of a second
 inline constexpr double Giro = Velocita * 0.25;
-inline constexpr double UnDecimo = 0.1;
 
 inline constexpr int Blu = Rgb(0, 0, 255);
 
-/// Strokes and symbol are blue, the symbol can have another colour.
-inline FileUtente Utente(int modo, int simbolo) {
+/// Strokes and symbol are blue.
+inline FileUtente Utente(int modo) {
     return FileUtente()
         .Con(RigaModoInput, modo)
         .Con(RigaVelocita, Velocita)
         .Con(RigaSpessore, 0)
         .Con(RigaScansione, Blu)
-        .Con(RigaSimbolo, simbolo);
+        .Con(RigaSimbolo, Blu);
 }
 
 /// The number of a direction of travel in the order of the offers.
 inline int Offerta(int verso) {
-    for (int i = 0; i < NumeroDirezioni; ++i) {
-        if (static_cast<int>(DirezioniScansione.at(static_cast<std::size_t>(i))) == verso) {
-            return i;
-        }
-    }
-    return -1;
+    const auto* const qui =
+        std::find(DirezioniScansione.begin(), DirezioniScansione.end(), static_cast<Lato>(verso));
+    return static_cast<int>(qui - DirezioniScansione.begin());
 }
 
 /// A player who has Space, with `Manuale` Enter too, and otherwise waits.
 class ConInterruttori : public testing::Test {
 protected:
-    Tavolo Apri(int livello, int modo, int simbolo = Blu) {
+    Tavolo Apri(int livello, int modo) {
         modo_ = modo;
-        file_ = Utente(modo, simbolo);
+        file_ = Utente(modo);
         disco_.Scrivi("_predefinito", file_);
         return AlTavolo(partita_.ApriLivello(livello), livello);
     }
     Tavolo AlTavolo(Form& form, int livello) {
         // In the first tenth of a second the keyboard may still be elsewhere.
         if (modo_ == Manuale) {
-            partita_.Tempo.Advance(UnDecimo);
+            partita_.Tempo.Advance(0.1);
         }
         return Tavolo(form, MisureLivelli.at(static_cast<std::size_t>(livello)), file_);
     }
@@ -80,10 +77,7 @@ protected:
     /// Goes on to the direction and takes it. `offerta` is the one on offer.
     void Vai(Form& form, int verso, int& offerta) {
         // Without a stroke on show, a player with one key waits for the next one.
-        for (int passati = 0; passati == 0 || offerta != Offerta(verso); ++passati) {
-            if (modo_ == Manuale && offerta == Offerta(verso)) {
-                break;
-            }
+        for (bool vista = modo_ == Manuale; !vista || offerta != Offerta(verso); vista = true) {
             Prossima(form);
             offerta = (offerta + 1) % NumeroDirezioni;
         }
@@ -103,14 +97,12 @@ protected:
         const double fuori = inApertura ? 0.5 : 0;
         const auto lato = static_cast<std::size_t>(qui.Lato);
         std::vector<int> visti;
-        for (int i = 0; i < NumeroDirezioni; ++i) {
-            const auto verso =
-                static_cast<std::size_t>(DirezioniScansione.at(static_cast<std::size_t>(i)));
+        for (std::size_t verso = 0; verso < ColonnaVerso.size(); ++verso) {
             constexpr double parte = 0.35;
             if (vista.Fra(qui.Riga, qui.Colonna,
                           parte * ColonnaVerso.at(verso) + fuori * ColonnaVerso.at(lato),
                           parte * RigaVerso.at(verso) + fuori * RigaVerso.at(lato)) == Pixel(Blu)) {
-                visti.push_back(i);
+                visti.push_back(Offerta(static_cast<int>(verso)));
             }
         }
         return visti;

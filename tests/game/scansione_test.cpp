@@ -14,21 +14,15 @@ TEST_P(OgniModo, OffersGoRoundClockwiseOneAtATime) {
     const auto [livello, modo] = GetParam();
     const Tavolo tavolo = Apri(livello, modo);
     partenza_ = tavolo.Partenza();
-    const QImage vuoto = tavolo.Guarda().Immagine();
     EXPECT_EQ(TrattiAllInizio(tavolo), modo == Manuale ? std::vector{0} : std::vector<int>{});
-    std::vector<QImage> primoGiro;
-    for (int i = 1; i <= 12; ++i) {
+    std::vector<QImage> viste;
+    for (int i = 1; i <= 8; ++i) {
         Prossima(tavolo.Form_);
         EXPECT_EQ(TrattiAllInizio(tavolo), std::vector{i % 4}) << i;
-        const QImage vista = tavolo.Guarda().Immagine();
-        if (i <= 4) {
-            primoGiro.push_back(vista);
-        } else {
-            EXPECT_EQ(vista, primoGiro.at(static_cast<std::size_t>((i - 1) % 4))) << i;
-        }
+        viste.push_back(tavolo.Guarda().Immagine());
     }
-    EXPECT_EQ(tavolo.Urti(), 0);
-    EXPECT_EQ(tavolo.Passi(), 0);
+    EXPECT_TRUE(std::equal(viste.begin(), viste.begin() + 4, viste.begin() + 4));
+    EXPECT_EQ(tavolo.Urti() + tavolo.Passi(), 0);
 }
 
 TEST_P(OgniModo, AWalkLooksAsWithTheKeyboard) {
@@ -37,7 +31,7 @@ TEST_P(OgniModo, AWalkLooksAsWithTheKeyboard) {
     const auto passi = tavolo.Soluzione();
     // The same maze in another game, since both draw the same numbers.
     Disco altroDisco;
-    altroDisco.Scrivi("_predefinito", Utente(0, Blu));
+    altroDisco.Scrivi("_predefinito", Utente(0));
     Partita altra(altroDisco, {800, 600}, 11);
     const Tavolo modello(altra.ApriLivello(livello),
                          MisureLivelli.at(static_cast<std::size_t>(livello)), file_);
@@ -46,9 +40,8 @@ TEST_P(OgniModo, AWalkLooksAsWithTheKeyboard) {
         Vai(tavolo.Form_, passi[i], offerta);
         modello.Passo(passi[i]);
         EXPECT_EQ(tavolo.Passi(), modello.Passi());
-        QImage vista = tavolo.Guarda().Immagine();
-        if (modo == Automatica) {
-            ASSERT_EQ(vista, modello.Guarda().Immagine()) << "step " << i;
+        if (modo == Automatica) {  // with two keys a stroke lies on the trace
+            ASSERT_EQ(tavolo.Guarda().Immagine(), modello.Guarda().Immagine()) << "step " << i;
         }
     }
 }
@@ -56,7 +49,7 @@ TEST_P(OgniModo, AWalkLooksAsWithTheKeyboard) {
 TEST_F(ConInterruttori, TheOfferMovesAtThePaceOfThePlayer) {
     for (const int velocita : {2, 60}) {
         modo_ = Automatica;
-        file_ = Utente(Automatica, Blu).Con(RigaVelocita, velocita);
+        file_ = Utente(Automatica).Con(RigaVelocita, velocita);
         disco_.Scrivi("_predefinito", file_);
         Partita partita(disco_, {800, 600}, 11);
         const Tavolo tavolo = AlTavolo(partita.ApriLivello(9), 9);
@@ -79,35 +72,29 @@ INSTANTIATE_TEST_SUITE_P(Spessori, OgniSpessore, testing::Range(0, 7));
 
 TEST_P(OgniSpessore, NeitherSymbolNorStrokesTakeFromAWall) {
     for (const int modo : {0, Manuale, Automatica}) {
-        for (const PixelSize schermo : {PixelSize{800, 600}, PixelSize{1366, 768}}) {
-            Disco disco;
-            const FileUtente file = Utente(modo, Blu).Con(RigaSpessore, GetParam());
-            disco.Scrivi("_predefinito", file);
-            Partita partita(disco, schermo, 5);
-            const Tavolo tavolo(partita.ApriLivello(9), MisureLivelli.at(9), file);
-            const auto pareti = [&] {
-                return MacchiaDi(tavolo.Guarda().Immagine(), tavolo.Colore(RigaPareti)).Quanti;
-            };
-            const int prima = pareti();
-            for (int i = 0; i < 12; ++i) {
-                if (modo == 0) {
-                    tavolo.Passo(i % 4);
-                } else {
-                    partita.Tempo.Advance(Giro);
-                    Spazio(tavolo.Form_);
-                    Invio(tavolo.Form_);
-                }
+        const FileUtente file = Utente(modo).Con(RigaSpessore, GetParam());
+        disco_.Scrivi("_predefinito", file);
+        Partita partita(disco_, {800, 600}, 5);
+        const Tavolo tavolo(partita.ApriLivello(9), MisureLivelli.at(9), file);
+        const auto pareti = [&] {
+            return MacchiaDi(tavolo.Guarda().Immagine(), tavolo.Colore(RigaPareti)).Quanti;
+        };
+        const int prima = pareti();
+        for (int i = 0; i < 12; ++i) {
+            if (modo == 0) {
+                tavolo.Passo(i % 4);
+            } else {
+                partita.Tempo.Advance(Giro);
+                Spazio(tavolo.Form_);
+                Invio(tavolo.Form_);
             }
-            EXPECT_EQ(pareti(), prima) << "input " << modo << " width " << schermo.Width;
-            EXPECT_GE(tavolo.Passi(), 1);
         }
+        EXPECT_EQ(pareti(), prima) << "input " << modo;
+        EXPECT_GE(tavolo.Passi(), 1);
     }
 }
 
-class DueTasti : public ConInterruttori {};
-class UnTasto : public ConInterruttori {};
-
-TEST_F(DueTasti, OnAStepTheOfferStaysAndARestartShowsNone) {
+TEST_F(ConInterruttori, WithTwoKeysTheOfferStaysOnAStepAndARestartShowsNone) {
     const Tavolo tavolo = Apri(9, Manuale);
     partenza_ = tavolo.Partenza();
     const int dentro = Offerta(Contrario(partenza_.Lato));
@@ -129,22 +116,10 @@ TEST_F(DueTasti, OnAStepTheOfferStaysAndARestartShowsNone) {
     EXPECT_EQ(TrattiAllInizio(tavolo), std::vector{(dentro + 1) % 4});
 }
 
-TEST_F(DueTasti, AWallIsAHitAndMovesNothing) {
-    const Tavolo tavolo = Apri(9, Manuale);
-    const int fuori = Offerta(tavolo.Partenza().Lato);
-    for (int i = 0; i < fuori; ++i) {
-        Spazio(tavolo.Form_);
-    }
-    const QImage prima = tavolo.Guarda().Immagine();
-    Invio(tavolo.Form_);
-    Invio(tavolo.Form_);
-    EXPECT_EQ(tavolo.Urti(), 2);
-    EXPECT_EQ(tavolo.Passi(), 0);
-    EXPECT_EQ(tavolo.Guarda().Immagine(), prima);
-}
-
-TEST_F(UnTasto, NothingIsOnShowAfterAStepOrAHitUntilTheNextTick) {
+TEST_F(ConInterruttori, WithOneKeyNothingIsOnShowAfterAStepOrAHitUntilTheNextTick) {
     const Tavolo tavolo = Apri(9, Automatica);
+    Spazio(tavolo.Form_);  // before the first tick it reaches nobody
+    EXPECT_EQ(tavolo.Urti() + tavolo.Passi(), 0);
     partenza_ = tavolo.Partenza();
     const int dentro = Offerta(Contrario(partenza_.Lato));
     const int fuori = Offerta(partenza_.Lato);
@@ -161,27 +136,14 @@ TEST_F(UnTasto, NothingIsOnShowAfterAStepOrAHitUntilTheNextTick) {
     EXPECT_EQ(Tratti(tavolo, partenza_, false), std::vector{(dentro + 1) % 4});
 }
 
-TEST_F(UnTasto, BeforeTheFirstTickASpaceReachesNobody) {
-    const Tavolo tavolo = Apri(9, Automatica);
-    Spazio(tavolo.Form_);
-    EXPECT_EQ(tavolo.Urti() + tavolo.Passi(), 0);
-    Tic();
-    EXPECT_TRUE(ImmagineTasti(tavolo.Form_).hasFocus());
-    Spazio(tavolo.Form_);
-    EXPECT_EQ(tavolo.Urti() + tavolo.Passi(), 1);
-}
-
 TEST_P(OgniModo, OtherKeysDoNothing) {
     const auto [livello, modo] = GetParam();
     const Tavolo tavolo = Apri(livello, modo);
     Tic();
     const QImage prima = tavolo.Guarda().Immagine();
-    for (const int tasto : {int(Qt::Key_Left), int(Qt::Key_Up), int(Qt::Key_Right),
-                            int(Qt::Key_Down), int(Qt::Key_A), int(Qt::Key_Escape)}) {
+    for (const int tasto : {Qt::Key_Left, Qt::Key_Up, Qt::Key_Right, Qt::Key_Down, Qt::Key_A,
+                            Qt::Key_Escape, modo == Manuale ? Qt::Key_B : Qt::Key_Return}) {
         Tap(tavolo.Form_, tasto);
-    }
-    if (modo == Automatica) {
-        Invio(tavolo.Form_);
     }
     EXPECT_EQ(tavolo.Urti() + tavolo.Passi(), 0);
     EXPECT_EQ(tavolo.Guarda().Immagine(), prima);
