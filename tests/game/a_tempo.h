@@ -54,7 +54,6 @@ protected:
     Timer& Orologio() { return Trova<Timer>(Gioco(), "Timer1"); }
     HScrollBar& Velocita() { return Trova<HScrollBar>(Gioco(), "HScroll1"); }
     MenuItem& Pausa() { return Trova<MenuItem>(Gioco(), "mnuPausa"); }
-    CommandButton& Avanti() { return Trova<CommandButton>(Gioco(), "BottoneAvanti"); }
 
     int Soli() { return Visibili(Gioco(), "ImageSole", 5); }
     int Coppe() { return IlTavolo().Coppe(); }
