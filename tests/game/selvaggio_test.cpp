@@ -52,9 +52,7 @@ public:
             chiesto_ = false;
             UnGesto();
             // Nothing draws but mazes and the congratulations.
-            const bool finale = partita_->Aperta("FormFinale");
-            labirinti_ += chiesto_ && !finale ? 1 : 0;
-            finali_ += chiesto_ && finale ? 1 : 0;
+            (partita_->Aperta("FormFinale") ? finali_ : labirinti_) += chiesto_ ? 1 : 0;
         }
     }
 
@@ -69,12 +67,9 @@ public:
         return byte;
     }
 
-    /// To the menu, on whatever way is left.
+    /// The game, at its menu.
     Partita& Torna() {
-        ChiudiMenuAperti();
-        if (partita_->Gioco.Forms().Ended() || !partita_->Aperta("FormMenu")) {
-            Ricomincia();
-        }
+        Ricomincia();
         return *partita_;
     }
 
@@ -83,8 +78,8 @@ public:
 
 private:
     int Fino(int n) { return std::uniform_int_distribution<int>(0, n - 1)(caso_); }
-    template <typename T>
-    const T& Uno(const std::vector<T>& lista) {
+    template <typename Lista>
+    auto& Uno(const Lista& lista) {
         return lista[static_cast<std::size_t>(Fino(static_cast<int>(lista.size())))];
     }
 
@@ -144,39 +139,29 @@ private:
     }
 
     void UnTasto(Form& form) {
-        static const std::vector<int> tasti{
-            Qt::Key_Up,   Qt::Key_Down,   Qt::Key_Left,    Qt::Key_Right, Qt::Key_Up,
-            Qt::Key_Down, Qt::Key_Left,   Qt::Key_Right,   Qt::Key_Space, Qt::Key_Return,
-            Qt::Key_Tab,  Qt::Key_Escape, Qt::Key_Backtab, Qt::Key_A,     Qt::Key_F10};
-        static const std::vector<int> comandi{Qt::Key_R, Qt::Key_C, Qt::Key_M, Qt::Key_L,
-                                              Qt::Key_S};
-        switch (Fino(8)) {
-            case 0:
-                Tap(form, Uno(comandi), Qt::ControlModifier);
-                break;
-            case 1:
-                Press(form, Uno(tasti));
-                break;
-            case 2:
-                Release(form, Uno(tasti));
-                break;
-            case 3:
-                Tap(form, Tastierino.at(static_cast<std::size_t>(Fino(4))), Qt::KeypadModifier);
-                break;
-            default:
-                Tap(form, Uno(tasti));
-                break;
+        constexpr std::array tasti{Qt::Key_Up,      Qt::Key_Down,   Qt::Key_Left, Qt::Key_Right,
+                                   Qt::Key_Up,      Qt::Key_Down,   Qt::Key_Left, Qt::Key_Right,
+                                   Qt::Key_Space,   Qt::Key_Return, Qt::Key_Tab,  Qt::Key_Escape,
+                                   Qt::Key_Backtab, Qt::Key_A,      Qt::Key_F10};
+        constexpr std::array comandi{Qt::Key_R, Qt::Key_C, Qt::Key_M, Qt::Key_L, Qt::Key_S};
+        const int dado = Fino(8);
+        if (dado == 0) {
+            Tap(form, Uno(comandi), Qt::ControlModifier);
+        } else if (dado == 1) {
+            Tap(form, Uno(Tastierino), Qt::KeypadModifier);
+        } else if (dado == 2) {
+            Release(form, Uno(tasti));
+        } else if (dado == 3) {
+            Press(form, Uno(tasti));
+        } else {
+            Tap(form, Uno(tasti));
         }
     }
 
     /// An entry by its action: at once, as a mouse would, only without opening the menu.
     void UnaVoce(Form& form) {
-        std::vector<QAction*> voci;
-        for (QAction* voce : WindowOf(form).findChildren<QAction*>()) {
-            if (voce->isEnabled() && !voce->menu()) {
-                voci.push_back(voce);
-            }
-        }
+        auto voci = WindowOf(form).findChildren<QAction*>();
+        voci.removeIf([](const QAction* voce) { return !voce->isEnabled() || voce->menu(); });
         if (!voci.empty()) {
             Uno(voci)->trigger();
             Pump();
@@ -184,14 +169,12 @@ private:
     }
 
     void UnClic(Form& form) {
-        std::vector<const VisualControl*> visibili;
-        for (const Control* control : form.Controls()) {
+        auto controlli = form.Controls();
+        std::erase_if(controlli, [](const Control* control) {
             const auto* visual = dynamic_cast<const VisualControl*>(control);
-            if (visual && WidgetOf(*visual).isVisible()) {
-                visibili.push_back(visual);
-            }
-        }
-        const VisualControl& scelto = *Uno(visibili);
+            return !visual || !WidgetOf(*visual).isVisible();
+        });
+        const auto& scelto = dynamic_cast<const VisualControl&>(*Uno(controlli));
         MoveOver(scelto);
         // The exit now and then only, or nothing is ever played.
         if (scelto.Name() != "Command1" || scelto.Index() != 1 || Fino(10) == 0) {
@@ -256,6 +239,7 @@ TEST_P(GiocatoreSelvaggio, BreaksNothingAndLeavesNothing) {
 
 INSTANTIATE_TEST_SUITE_P(Semi, GiocatoreSelvaggio, testing::Range(1U, 1U + Giocatori));
 
+/// What stays within one game, from visit to visit.
 TEST(MolteVisite, LeaveNothingBehind) {
     const Disco disco;
     Partita partita(disco, {800, 600});
@@ -270,13 +254,12 @@ TEST(MolteVisite, LeaveNothingBehind) {
             partita.Suoni.Asked.clear();
         }
         QPixmapCache::clear();
+        return LiveBytes();
     };
-    visita(20);
+    const std::int64_t prima = visita(20);
     const auto finestre = QApplication::allWidgets().size();
-    const std::int64_t prima = LiveBytes();
-    visita(40);
     // Bytes; the allocator of the C library counts what it keeps at hand as well.
-    EXPECT_LT(LiveBytes() - prima, 48 * 1024);
+    EXPECT_LT(visita(40) - prima, 48 * 1024);
     EXPECT_EQ(QApplication::allWidgets().size(), finestre);
     EXPECT_EQ(partita.Tempo.TimersRunning(), 0);
 }
