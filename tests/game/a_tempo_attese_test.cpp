@@ -101,9 +101,15 @@ TEST_P(OgniAttesa, IsAsLongAsEverWhateverElseHappens) {
         EXPECT_EQ(partita_.Tempo.WaitsUnderWay(), 1);
         EXPECT_FALSE(Orologio().Enabled());
         EXPECT_EQ(Soli(), 5);
+        Scegli("mnuPausa");
+        EXPECT_TRUE(Orologio().Enabled());
+        EXPECT_EQ(Pausa().Caption(), "&Pausa");
+        Scegli("mnuPausa");
+        EXPECT_FALSE(Orologio().Enabled());
     });
     EXPECT_NEAR(partita_.Tempo.Now(), fine, 1e-6);
     EXPECT_TRUE(Orologio().Enabled());
+    EXPECT_EQ(Pausa().Caption(), "Ri&prendi");  // left behind
 }
 
 TEST_P(OgniAttesa, EachNewMazeBeginsItAnew) {
@@ -124,19 +130,6 @@ TEST_P(OgniAttesa, EachNewMazeBeginsItAnew) {
     EXPECT_TRUE(Orologio().Enabled());
 }
 
-TEST_P(OgniAttesa, PauseTwiceLeavesItsEntryBehind) {
-    Aspetta(GetParam(), 1, [&] {
-        Scegli("mnuPausa");
-        EXPECT_TRUE(Orologio().Enabled());
-        EXPECT_EQ(Pausa().Caption(), "&Pausa");
-        Scegli("mnuPausa");
-        EXPECT_FALSE(Orologio().Enabled());
-        EXPECT_EQ(Pausa().Caption(), "Ri&prendi");
-    });
-    EXPECT_TRUE(Orologio().Enabled());
-    EXPECT_EQ(Pausa().Caption(), "Ri&prendi");
-}
-
 TEST_P(OgniAttesa, PauseOnceStartsTheClockBeforeItsEnd) {
     Aspetta(GetParam(), 1, [&] { Scegli("mnuPausa"); });
     // The first wait has the short first tick, and no tick comes inside another one.
@@ -149,54 +142,28 @@ TEST_P(OgniAttesa, PauseOnceStartsTheClockBeforeItsEnd) {
     EXPECT_EQ(Passi(), passi + 1);
 }
 
-TEST_F(Attese, KeyBeforeANewMazeIsWhereHitsLeadBackTo) {
-    Aspetta(Dopo::TrameloNuovo, 1, [&] { Tasto(AllaDestra); });
-    Scatti(2);
-    EXPECT_EQ(Urti(), 2);
-    Guida({Giu, Su});
-    EXPECT_EQ(Passi(), 1);
-    EXPECT_EQ(Urti(), 3);
-    Scatto();
-    EXPECT_EQ(Urti(), 4);
-}
-
-TEST_F(Attese, KeyBeforeANewStartCountsOnce) {
-    Aspetta(Dopo::Ripartenza, 1, [&] { Tasto(AllaDestra); });
-    Scatto();
-    EXPECT_EQ(Urti(), 7);
-    Scatto();
-    EXPECT_EQ(Urti(), 7);
-    EXPECT_EQ(Passi(), 1);
-}
-
-TEST_F(Attese, NewMazeInTheWaitForANewStartIsANewMaze) {
-    Aspetta(Dopo::Ripartenza, 1, [&] {
-        CtrlN();
-        EXPECT_EQ(Urti(), 0);
-        Tasto(AllaDestra);
-    });
-    EXPECT_EQ(Pannello(5), "Ripartito da zero 1 volte");
-    Scatti(2);
-    EXPECT_EQ(Urti(), 2);
-    EXPECT_EQ(Soli(), 3);
-}
-
-TEST_F(Attese, NewStartInTheFirstWaitMakesItLonger) {
-    double inizio = 0;
-    Aspetta(Dopo::Apertura, 0.1, [&] {
-        inizio = partita_.Tempo.Now();
-        Velocita().Value(25);
-        Scegli("mnuPausa");
-        // Ticks after 0.1 seconds, and every half second from there on.
-        for (int i = 0; i < 6; ++i) {
-            Fra(0.05 + 0.5 * i, [&] { Tasto(Su); });
-        }
-    });
-    EXPECT_EQ(Pannello(5), "Ripartito da zero 1 volte");
-    EXPECT_NEAR(partita_.Tempo.Now() - inizio, 2.6 + TreSecondi, 1e-6);
-    Scatto();
-    EXPECT_EQ(Passi(), 1);
-    EXPECT_EQ(Urti(), 6);
+TEST_F(Attese, KeyLeadsTheFirstStepAndInANewMazeTheStepAfterEachHitToo) {
+    struct {
+        Dopo Prima;
+        bool Nuovo;  ///< a new maze comes before the key
+        int Urti;
+        int Passi;
+    } const casi[] = {{Dopo::TrameloNuovo, false, 2, 0},
+                      {Dopo::Ripartenza, false, 6 + 1, 1},
+                      {Dopo::Ripartenza, true, 2, 0}};
+    for (const auto& caso : casi) {
+        Aspetta(caso.Prima, 1, [&] {
+            if (caso.Nuovo) {
+                CtrlN();
+            }
+            Tasto(AllaDestra);
+        });
+        Scatti(2);
+        EXPECT_EQ(Urti(), caso.Urti);
+        EXPECT_EQ(Passi(), caso.Passi);
+        EXPECT_EQ(Pannello(5), caso.Prima == Dopo::Ripartenza ? "Ripartito da zero 1 volte" : "");
+        Scegli("mnuEsci");
+    }
 }
 
 }  // namespace

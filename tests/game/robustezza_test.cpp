@@ -83,9 +83,6 @@ TEST_F(MezzoSecondo, LeavingEndsInTheMenu) {
     EXPECT_EQ(partita_.Aperte(), Nomi{"FormMenu"});
     partita_.Tempo.Advance(5);
     EXPECT_EQ(partita_.Aperte(), Nomi{"FormMenu"});
-    const Tavolo tavolo(partita_.ApriLivello(8), {3, 4});
-    tavolo.Risolvi();
-    EXPECT_TRUE(tavolo.Risolto());
 }
 
 TEST_F(MezzoSecondo, LeavingAndComingBackPlaysOneGame) {

@@ -2,9 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QKeyEvent>
 #include <QMenuBar>
-#include <QWindow>
 #include <functional>
 #include <vector>
 
@@ -18,24 +16,6 @@ namespace {
 class OgniTastiera : public ConInterruttori, public testing::WithParamInterface<Caso> {};
 
 INSTANTIATE_TEST_SUITE_P(Casi, OgniTastiera, testing::ValuesIn(CasiDiScansione), NomeCaso);
-
-TEST_P(OgniTastiera, AHeldSwitchIsOneStroke) {
-    const auto [livello, modo] = GetParam();
-    const Tavolo tavolo = Apri(livello, modo);
-    Tic();
-    const int tasto = modo == Manuale ? Qt::Key_Return : Qt::Key_Space;
-    QWindow* const finestra = WindowOf(tavolo.Form_).windowHandle();
-    Press(tavolo.Form_, tasto);
-    for (int i = 0; i < 30; ++i) {
-        for (const QEvent::Type tipo : {QEvent::KeyRelease, QEvent::KeyPress}) {
-            QKeyEvent ripetuto(tipo, tasto, Qt::NoModifier, QString(), true);
-            QApplication::sendEvent(finestra, &ripetuto);
-        }
-    }
-    EXPECT_EQ(tavolo.Urti() + tavolo.Passi(), 0);
-    Release(tavolo.Form_, tasto);
-    EXPECT_EQ(tavolo.Urti() + tavolo.Passi(), 1);
-}
 
 TEST_P(OgniTastiera, TheKeyboardComesBackFromAClick) {
     const auto [livello, modo] = GetParam();
