@@ -121,7 +121,6 @@ TEST(TracciaPiena, WalksOnAndLosesNothingThatIsSeen) {
         tavolo.Passo(i % 2 == 0 ? passi[2] : Contrario(passi[2]));
     }
     EXPECT_EQ(tavolo.Passi(), Passi + 2);
-    EXPECT_EQ(tavolo.Urti(), 0);
     const Posto primo{partenza.Riga, partenza.Colonna, passi[1]};
     const Posto secondo = primo.Dopo({passi[1]}, passi[2]);
     EXPECT_EQ(tavolo.Guarda().Muro(partenza), tavolo.Colore(RigaAvanti));
@@ -140,9 +139,6 @@ TEST(DiscoCheSparisce, LeavesTheGameAndItsSettingsAlone) {
     Form& form = partita.ApriLivello(10);
     fs::remove_all(disco.Radice());
     Tap(form, Qt::Key_L, Qt::ControlModifier);
-    const Tavolo tavolo(form, {5, 6});
-    tavolo.Risolvi();
-    EXPECT_TRUE(tavolo.Risolto());
     Partita::Scegli(form, "mnuEsci");
     partita.Tempo.Advance(0.3);
     EXPECT_EQ(Trova<ComboBox>(partita.Finestra("FormMenu"), "Combo1").ListCount(), 0);
