@@ -134,6 +134,21 @@ TEST_F(ConInterruttori, WithOneKeyNothingIsOnShowAfterAStepOrAHitUntilTheNextTic
     EXPECT_TRUE(Tratti(tavolo, partenza_, false).empty());
     Tic();
     EXPECT_EQ(Tratti(tavolo, partenza_, false), std::vector{(dentro + 1) % 4});
+
+    // A stroke on the way back hides the trace, and whatever takes it away brings the trace back.
+    const auto dietro = [&] {
+        const auto lato = static_cast<std::size_t>(partenza_.Lato);
+        return tavolo.Guarda().Fra(partenza_.Riga, partenza_.Colonna, 0.35 * ColonnaVerso.at(lato),
+                                   0.35 * RigaVerso.at(lato));
+    };
+    Tic();
+    EXPECT_EQ(dietro(), Pixel(Blu));
+    Tic();
+    EXPECT_EQ(dietro(), tavolo.Colore(RigaAvanti));
+    Tic(3);
+    Spazio(tavolo.Form_);
+    EXPECT_EQ(tavolo.Urti(), 2);
+    EXPECT_EQ(dietro(), tavolo.Colore(RigaAvanti));
 }
 
 TEST_P(OgniModo, OtherKeysDoNothing) {
