@@ -19,11 +19,9 @@ inline constexpr double TreSecondi = 3;
 inline constexpr double UnIstante = 0.001;
 
 /// A game at one of the levels with a clock. Level 5 has no inner walls: there the symbol walks
-/// eight cells down and meets the wall with the ninth step.
+/// eight cells down before it meets a wall.
 class ATempo : public testing::Test {
 protected:
-    static constexpr int PassiInGiu = 8;
-
     /// Opens the level; its first maze stands, and the wait before it is over.
     void Apri(int livello = 5, const FileUtente& file = {}) {
         disco_.Scrivi("_predefinito", file);

@@ -41,23 +41,6 @@ TEST_F(ATempo, PaceFollowsTheBarFromTheNextTickOn) {
     }
 }
 
-TEST_F(ATempo, WithoutAKeyTheSymbolWalksDownToTheWallAndBeginsAgain) {
-    Apri();
-    const QImage prima = Immagine();
-    for (int passo = 1; passo <= PassiInGiu; ++passo) {
-        Scatto();
-        EXPECT_EQ(IlTavolo().Guarda().Centro(passo, 1), IlTavolo().Colore(RigaSimbolo));
-    }
-    EXPECT_EQ(Soli(), 5);
-    Scatto();
-    EXPECT_EQ(Urti(), 1);
-    EXPECT_EQ(Soli(), 4);
-    EXPECT_EQ(Passi(), PassiInGiu);  // goes on from there
-    EXPECT_EQ(Immagine(), prima);    // the trace is gone, the symbol at the start
-    Scatto();
-    EXPECT_EQ(Passi(), PassiInGiu + 1);
-}
-
 TEST_F(ATempo, LastArrowBeforeTheTickCountsAndOtherKeysDoNot) {
     Apri();
     Scatti(2);
@@ -78,16 +61,24 @@ TEST_F(ATempo, LastArrowBeforeTheTickCountsAndOtherKeysDoNot) {
     EXPECT_EQ(Urti(), 0);
 }
 
-TEST_F(ATempo, WayBackIsAStepInItsOwnColour) {
+TEST_F(ATempo, WalksDownAndBackAndAHitLeadsToTheStart) {
     Apri();
+    const QImage prima = Immagine();
+    const Tavolo tavolo = IlTavolo();
     Scatti(4);
+    EXPECT_EQ(tavolo.Guarda().Centro(4, 1), tavolo.Colore(RigaSimbolo));
     Guida({Su, Su});
     EXPECT_EQ(Passi(), 6);
     EXPECT_EQ(Soli(), 5);
-    const Tavolo tavolo = IlTavolo();
     EXPECT_EQ(tavolo.Guarda().Muro({3, 1, Giu}), tavolo.Colore(RigaRitorno));
     EXPECT_EQ(tavolo.Guarda().Muro({1, 1, Giu}), tavolo.Colore(RigaAvanti));
     EXPECT_EQ(tavolo.Guarda().Muro({1, 1, Su}), tavolo.Colore(RigaAvanti));
+    Guida({AllaSinistra});
+    EXPECT_EQ(Soli(), 4);
+    EXPECT_EQ(Immagine(), prima);
+    Scatto();
+    EXPECT_EQ(Passi(), 7);
+    EXPECT_EQ(tavolo.Guarda().Centro(1, 1), tavolo.Colore(RigaSimbolo));
 }
 
 TEST_F(ATempo, HitsTakeTheSunsAndTheSixthStartsTheMazeAgainFromZero) {
