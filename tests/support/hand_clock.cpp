@@ -1,70 +1,58 @@
 #include "support/hand_clock.h"
 
 #include <algorithm>
+#include <tuple>
 
 #include "support/stage.h"
 
 namespace trameli {
 
-/// A timer; it keeps its place in the clock's list while it runs.
+/// A timer; its engagement goes with it.
 class HandClock::HandTicker final : public Clock::Ticker {
 public:
-    HandTicker(HandClock& clock, int milliseconds, std::function<void()> tick)
-        : Period(milliseconds / 1000.0),
-          Due(clock.now_ + Period),
-          Order(clock.made_++),
-          Tick(std::move(tick)),
-          clock_(clock) {
-        clock_.tickers_.push_back(this);
+    explicit HandTicker(HandClock& clock) : clock_(clock) {}
+    ~HandTicker() override {
+        std::erase_if(clock_.engagements_, [this](const auto& e) { return e.Timer == this; });
     }
-    ~HandTicker() override { std::erase(clock_.tickers_, this); }
-
-    double Period;
-    double Due;
-    long Order;
-    std::function<void()> Tick;
 
 private:
     HandClock& clock_;
 };
 
 std::unique_ptr<Clock::Ticker> HandClock::Every(int milliseconds, std::function<void()> tick) {
-    return std::make_unique<HandTicker>(*this, milliseconds, std::move(tick));
+    auto timer = std::make_unique<HandTicker>(*this);
+    const double period = milliseconds / 1000.0;
+    engagements_.push_back({now_ + period, made_++, std::move(tick), timer.get(), period});
+    return timer;
 }
 
 void HandClock::In(double seconds, std::function<void()> action) {
-    appointments_.push_back({now_ + seconds, made_++, std::move(action)});
+    engagements_.push_back({now_ + seconds, made_++, std::move(action), nullptr, 0});
 }
 
 int HandClock::TimersRunning() const {
-    return static_cast<int>(tickers_.size());
+    return static_cast<int>(std::count_if(engagements_.begin(), engagements_.end(),
+                                          [](const auto& e) { return e.Timer != nullptr; }));
 }
 
-/// Runs what is due first, if anything is due up to `until`.
+/// Runs what is due first, if anything is due up to `until`; appointments before timers.
 bool HandClock::RunNext(double until) {
-    const auto earlier = [](const auto& a, const auto& b) {
-        return a.Due != b.Due ? a.Due < b.Due : a.Order < b.Order;
-    };
-    const auto appointment = std::min_element(appointments_.begin(), appointments_.end(), earlier);
-    const auto ticker =
-        std::min_element(tickers_.begin(), tickers_.end(),
-                         [&](const auto* a, const auto* b) { return earlier(*a, *b); });
-    const bool hasAppointment = appointment != appointments_.end() && appointment->Due <= until;
-    const bool hasTicker = ticker != tickers_.end() && (*ticker)->Due <= until;
-    if (hasAppointment && (!hasTicker || appointment->Due <= (*ticker)->Due)) {
-        const Appointment due = std::move(*appointment);
-        appointments_.erase(appointment);
-        now_ = std::max(now_, due.Due);
-        due.Action();
-    } else if (hasTicker) {
-        HandTicker& due = **ticker;
-        now_ = std::max(now_, due.Due);
-        due.Due = now_ + due.Period;
-        const auto tick = due.Tick;  // the routine may stop its own timer
-        tick();
-    } else {
+    const auto next = std::min_element(engagements_.begin(), engagements_.end(),
+                                       [](const auto& a, const auto& b) {
+                                           return std::tuple(a.Due, a.Timer != nullptr, a.Order) <
+                                                  std::tuple(b.Due, b.Timer != nullptr, b.Order);
+                                       });
+    if (next == engagements_.end() || next->Due > until) {
         return false;
     }
+    now_ = std::max(now_, next->Due);
+    const auto action = next->Action;  // a timer's routine may stop it
+    if (next->Timer) {
+        next->Due = now_ + next->Period;
+    } else {
+        engagements_.erase(next);
+    }
+    action();
     Pump();
     return true;
 }

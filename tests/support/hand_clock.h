@@ -33,10 +33,13 @@ public:
 private:
     class HandTicker;
 
-    struct Appointment {
+    /// An appointment, or the next tick of a timer.
+    struct Engagement {
         double Due;
-        long Order;
+        long Order;  ///< in which they were made
         std::function<void()> Action;
+        const HandTicker* Timer;  ///< null for an appointment
+        double Period;            ///< of a timer, seconds
     };
 
     bool RunNext(double until);
@@ -44,8 +47,7 @@ private:
     double now_ = 1000;
     long made_ = 0;
     int waits_ = 0;
-    std::vector<Appointment> appointments_;
-    std::vector<HandTicker*> tickers_;
+    std::vector<Engagement> engagements_;
 };
 
 }  // namespace trameli
