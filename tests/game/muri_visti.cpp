@@ -17,6 +17,12 @@ Pianta Pianta::Su(double larghezza, double altezza, int righe, int colonne, doub
             twips};
 }
 
+QPointF Pianta::Verso(const Posto& posto, double celle) const {
+    const auto lato = static_cast<std::size_t>(posto.Lato);
+    return {BordoX(posto.Colonna - 1) + Lato * (0.5 + celle * ColonnaVerso.at(lato)),
+            BordoY(posto.Riga - 1) + Lato * (0.5 + celle * RigaVerso.at(lato))};
+}
+
 Posto Posto::Dopo(const std::vector<int>& passi, int lato) const {
     Posto posto{Riga, Colonna, lato};
     for (const int verso : passi) {
@@ -30,10 +36,14 @@ double Vista::PixelPerTwip() const {
     return immagine_.devicePixelRatio() / pianta_.TwipsPerPixel;
 }
 
+QPoint Vista::Pixel(QPointF punto) const {
+    punto = punto * PixelPerTwip() + QPointF(0.5, 0.5);
+    return {static_cast<int>(std::floor(punto.x())), static_cast<int>(std::floor(punto.y()))};
+}
+
 QRgb Vista::A(double x, double y) const {
-    const int px = static_cast<int>(std::floor(x * PixelPerTwip() + 0.5));
-    const int py = static_cast<int>(std::floor(y * PixelPerTwip() + 0.5));
-    return immagine_.valid(px, py) ? immagine_.pixel(px, py) : 0;
+    const QPoint qui = Pixel({x, y});
+    return immagine_.valid(qui) ? immagine_.pixel(qui) : 0;
 }
 
 QRgb Vista::Fra(int riga, int colonna, double versoX, double versoY) const {
@@ -42,45 +52,38 @@ QRgb Vista::Fra(int riga, int colonna, double versoX, double versoY) const {
 }
 
 QRgb Vista::Muro(const Posto& posto) const {
-    const auto lato = static_cast<std::size_t>(posto.Lato);
-    return Fra(posto.Riga, posto.Colonna, 0.5 * ColonnaVerso.at(lato), 0.5 * RigaVerso.at(lato));
+    const QPointF mezzo = pianta_.Verso(posto, 0.5);
+    return A(mezzo.x(), mezzo.y());
 }
 
-namespace {
+Tratto Vista::TrattoDi(QRgb colore, const Posto& posto, bool lungoX) const {
+    const QPoint passo = lungoX ? QPoint(1, 0) : QPoint(0, 1);
+    const auto ha = [&](QPoint qui) {
+        return immagine_.valid(qui) && immagine_.pixel(qui) == colore;
+    };
+    QPoint inizio = Pixel(pianta_.Verso(posto, 0.5));
+    QPoint fine = inizio;
+    while (ha(fine)) {
+        fine += passo;
+    }
+    while (ha(inizio - passo)) {
+        inizio -= passo;
+    }
+    return {lungoX ? inizio.x() : inizio.y(), (fine - inizio).manhattanLength()};
+}
 
-template <typename Scelta>
-Macchia Raccogli(const QImage& immagine, Scelta scelta) {
+Macchia MacchiaDi(const QImage& immagine, QRgb colore) {
     Macchia macchia;
-    int sinistra = immagine.width();
-    int destra = -1;
-    int alto = immagine.height();
-    int basso = -1;
     for (int y = 0; y < immagine.height(); ++y) {
         const auto* riga = reinterpret_cast<const QRgb*>(immagine.constScanLine(y));
         for (int x = 0; x < immagine.width(); ++x) {
-            if (scelta(riga[x] | 0xFF000000U)) {
+            if ((riga[x] | 0xFF000000U) == colore) {
                 ++macchia.Quanti;
-                sinistra = std::min(sinistra, x);
-                destra = std::max(destra, x);
-                alto = std::min(alto, y);
-                basso = y;
+                macchia.Posto |= QRect(x, y, 1, 1);
             }
         }
     }
-    macchia.Posto = QRect(QPoint(sinistra, alto), QPoint(destra, basso));
     return macchia;
-}
-
-}  // namespace
-
-Macchia MacchiaDi(const QImage& immagine, QRgb colore) {
-    return Raccogli(immagine, [colore](QRgb qui) { return qui == colore; });
-}
-
-Macchia MacchiaSenza(const QImage& immagine, const std::vector<QRgb>& colori) {
-    return Raccogli(immagine, [&colori](QRgb qui) {
-        return std::find(colori.begin(), colori.end(), qui) == colori.end();
-    });
 }
 
 MuriVisti::MuriVisti(const Vista& vista, QRgb colore)

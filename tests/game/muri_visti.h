@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QImage>
+#include <QPointF>
 #include <QRect>
 #include <array>
 #include <vector>
@@ -19,6 +20,17 @@ constexpr int Contrario(int lato) {
     return (lato + 2) % 4;
 }
 
+/// A cell, counted from 1, with one of its sides.
+struct Posto {
+    int Riga = 0;
+    int Colonna = 0;
+    int Lato = 0;
+    bool operator==(const Posto&) const = default;
+
+    /// The place on this side of the cell so many steps further.
+    Posto Dopo(const std::vector<int>& passi, int lato = 0) const;
+};
+
 /// Where the cells of a maze lie on its picture box, twips.
 struct Pianta {
     int Righe = 0;
@@ -35,17 +47,14 @@ struct Pianta {
     /// The edges between cells: 0 is the outer edge.
     double BordoX(int colonna) const { return Sinistra + static_cast<double>(colonna) * Lato; }
     double BordoY(int riga) const { return Alto + static_cast<double>(riga) * Lato; }
+    /// The point so many cells from the middle of a cell, towards its side.
+    QPointF Verso(const Posto& posto, double celle) const;
 };
 
-/// A cell, counted from 1, with one of its sides.
-struct Posto {
-    int Riga = 0;
-    int Colonna = 0;
-    int Lato = 0;
-    bool operator==(const Posto&) const = default;
-
-    /// The place on this side of the cell so many steps further.
-    Posto Dopo(const std::vector<int>& passi, int lato = 0) const;
+/// Pixels of one colour, one after the other along a line.
+struct Tratto {
+    int Inizio;
+    int Lunghezza;
 };
 
 /// A picture of a maze with its plan.
@@ -64,10 +73,14 @@ public:
     QRgb Muro(const Posto& posto) const;
     /// The pixel a part of a cell's side away from the cell's middle.
     QRgb Fra(int riga, int colonna, double versoX, double versoY) const;
+    /// The piece of one colour at the place of a wall, along x or along y.
+    Tratto TrattoDi(QRgb colore, const Posto& posto, bool lungoX) const;
     /// Device pixels of the picture per twip.
     double PixelPerTwip() const;
 
 private:
+    QPoint Pixel(QPointF punto) const;
+
     QImage immagine_;
     Pianta pianta_;
 };
@@ -78,8 +91,6 @@ struct Macchia {
     QRect Posto;
 };
 Macchia MacchiaDi(const QImage& immagine, QRgb colore);
-/// The same of all pixels that have none of these colours.
-Macchia MacchiaSenza(const QImage& immagine, const std::vector<QRgb>& colori);
 
 /// The walls of a maze, as pixels of one colour.
 class MuriVisti {

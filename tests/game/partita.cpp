@@ -1,7 +1,5 @@
 #include "game/partita.h"
 
-#include <gtest/gtest.h>
-
 #include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
@@ -19,23 +17,6 @@
 namespace trameli {
 
 namespace {
-
-/// From the bar down to the entry with this text.
-std::vector<QAction*> StradaAllaVoce(const QList<QAction*>& voci, const QString& testo) {
-    for (QAction* voce : voci) {
-        if (voce->text() == testo) {
-            return {voce};
-        }
-        if (voce->menu()) {
-            auto resto = StradaAllaVoce(voce->menu()->actions(), testo);
-            if (!resto.empty()) {
-                resto.insert(resto.begin(), voce);
-                return resto;
-            }
-        }
-    }
-    return {};
-}
 
 template <typename Lista>
 void CliccaVoce(Lista& lista, QAction* voce) {
@@ -104,8 +85,8 @@ bool Partita::Aperta(const std::string& nome) {
 
 std::vector<std::string> Partita::Aperte() {
     std::vector<std::string> nomi;
-    for (const char* nome : {"FormAvvio", "FormMenu", "FormConfigura", "FormInfo", "frmTrm0",
-                             "frmTrm1", "frmTrm3", "FormFinale", "frmStampa"}) {
+    for (const char* nome :
+         {"FormAvvio", "FormMenu", "frmTrm0", "frmTrm1", "frmTrm3", "FormFinale"}) {
         if (Aperta(nome)) {
             nomi.emplace_back(nome);
         }
@@ -114,16 +95,22 @@ std::vector<std::string> Partita::Aperte() {
 }
 
 void Partita::Scegli(Form& form, const std::string& voce) {
-    auto& finestra = dynamic_cast<FormWindow&>(WindowOf(form));
+    QMenuBar& barra = *dynamic_cast<FormWindow&>(WindowOf(form)).menuBar();
     const QString testo = QString::fromStdString(Trova<MenuItem>(form, voce).Caption());
-    const auto strada = StradaAllaVoce(finestra.menuBar()->actions(), testo);
-    if (strada.empty()) {
-        throw std::runtime_error("no entry " + voce);
+    for (QAction* titolo : barra.actions()) {
+        if (titolo->text() == testo) {
+            CliccaVoce(barra, titolo);
+            return;
+        }
+        for (QAction* sotto : titolo->menu() ? titolo->menu()->actions() : QList<QAction*>()) {
+            if (sotto->text() == testo) {
+                CliccaVoce(barra, titolo);
+                CliccaVoce(*titolo->menu(), sotto);
+                return;
+            }
+        }
     }
-    CliccaVoce(*finestra.menuBar(), strada.front());
-    for (std::size_t i = 1; i < strada.size(); ++i) {
-        CliccaVoce(*strada[i - 1]->menu(), strada[i]);
-    }
+    throw std::runtime_error("no entry " + voce);
 }
 
 void Partita::ViaERitorno(Form& form) {
@@ -206,9 +193,7 @@ std::string Tavolo::Pannello(int numero) const {
 
 int Tavolo::NumeroPannello(int numero) const {
     const std::string testo = Pannello(numero);
-    const std::size_t ultima = testo.find_last_not_of("0123456789");
-    const std::string cifre = testo.substr(ultima == std::string::npos ? 0 : ultima + 1);
-    return cifre.empty() ? -1 : std::stoi(cifre);
+    return std::stoi(testo.substr(testo.find_first_of("0123456789")));
 }
 
 bool Tavolo::Risolto() const {
@@ -217,6 +202,16 @@ bool Tavolo::Risolto() const {
 
 QRgb Tavolo::Colore(Riga riga) const {
     return Pixel(std::stoi(file_.Righe.at(riga)));
+}
+
+Tavolo ConTavolo::Apri(int livello, const FileUtente& file) {
+    disco_.Scrivi("_predefinito", file);
+    Form& form = partita_.ApriLivello(livello);
+    return Tavolo(form, MisureLivelli.at(static_cast<std::size_t>(livello)), file);
+}
+
+void ConTavolo::Comando(const Tavolo& tavolo, int lettera) {
+    Tap(tavolo.Form_, lettera, Qt::ControlModifier);
 }
 
 }  // namespace trameli

@@ -1,6 +1,8 @@
 // A whole game as a player has it before him, from the splash to the maze.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <array>
 #include <memory>
 #include <optional>
@@ -137,6 +139,18 @@ private:
     std::vector<Posto> Aperture(const Vista& vista) const;
 
     FileUtente file_;
+};
+
+/// A player before the maze of some level.
+class ConTavolo : public testing::Test {
+protected:
+    /// Starts the level, for a user with these settings.
+    Tavolo Apri(int livello, const FileUtente& file = {});
+    /// Ctrl with a letter, a Qt::Key.
+    static void Comando(const Tavolo& tavolo, int lettera);
+
+    Disco disco_;
+    Partita partita_{disco_, {800, 600}, 7};
 };
 
 }  // namespace trameli

@@ -3,7 +3,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
+#include <set>
+#include <utility>
 
 #include "game/partita.h"
 #include "platform/menu.h"
@@ -19,46 +20,13 @@ const FileUtente Colorato = FileUtente()
                                 .Con(RigaSimbolo, Rgb(251, 7, 99))
                                 .Con(RigaRitorno, Rgb(254, 190, 5));
 
-class TracciaVista : public testing::Test {
+class TracciaVista : public ConTavolo {
 protected:
-    Tavolo Apri(int livello, const FileUtente& file = Colorato) {
-        disco_.Scrivi("_predefinito", file);
-        Form& form = partita_.ApriLivello(livello);
-        return Tavolo(form, MisureLivelli.at(static_cast<std::size_t>(livello)), file);
+    /// How many pixels show a colour of the settings.
+    static int Quanti(const Tavolo& tavolo, Riga colore) {
+        return MacchiaDi(tavolo.Guarda().Immagine(), tavolo.Colore(colore)).Quanti;
     }
-    static void Comando(const Tavolo& tavolo, int lettera) {
-        Tap(tavolo.Form_, lettera, Qt::ControlModifier);
-    }
-
-    Disco disco_;
-    Partita partita_{disco_, {800, 600}, 5};
 };
-
-int QuantiPixel(const QImage& immagine, QRgb colore) {
-    return MacchiaDi(immagine, colore).Quanti;
-}
-
-/// Pixels of a colour in one piece across the middle of a wall's place, along the wall or across.
-int Larghezza(const Vista& vista, const Posto& posto, QRgb colore, bool lungoX) {
-    const double scala = vista.PixelPerTwip();
-    const Pianta& p = vista.LaPianta();
-    const auto lato = static_cast<std::size_t>(posto.Lato);
-    const int x0 = static_cast<int>(
-        (p.BordoX(posto.Colonna - 1) + p.Lato * (0.5 + 0.5 * ColonnaVerso.at(lato))) * scala + 0.5);
-    const int y0 = static_cast<int>(
-        (p.BordoY(posto.Riga - 1) + p.Lato * (0.5 + 0.5 * RigaVerso.at(lato))) * scala + 0.5);
-    int quanti = 0;
-    for (const int passo : {-1, 1}) {
-        for (int i = passo < 0 ? 0 : 1;; ++i) {
-            const QPoint qui(x0 + (lungoX ? i * passo : 0), y0 + (lungoX ? 0 : i * passo));
-            if (!vista.Immagine().valid(qui) || vista.Immagine().pixel(qui) != colore) {
-                break;
-            }
-            ++quanti;
-        }
-    }
-    return quanti;
-}
 
 class Ritorno : public TracciaVista, public testing::WithParamInterface<bool> {};
 
@@ -67,36 +35,33 @@ TEST_P(Ritorno, IsAnotherColourIfThePlayerWantsIt) {
     const Tavolo tavolo = Apri(11, Colorato.Con(RigaRetrocedi, cambia ? "True" : "False"));
     const QRgb avanti = tavolo.Colore(RigaAvanti);
     const Posto partenza = tavolo.Partenza();
+    const Posto arrivo = tavolo.Arrivo();
     const auto passi = tavolo.Soluzione();
-    const int simbolo = QuantiPixel(tavolo.Guarda().Immagine(), tavolo.Colore(RigaSimbolo));
+    const std::vector<int> via(passi.begin() + 1, passi.end() - 1);
+    std::vector<int> indietro(via.rbegin(), via.rend());
+    std::transform(indietro.begin(), indietro.end(), indietro.begin(), Contrario);
     tavolo.Passo(passi[0]);
-    const Posto primo = partenza.Dopo({}, passi[1]);
-    const Posto secondo = partenza.Dopo({passi[1]}, passi[2]);
     for (int volta = 0; volta < 4; ++volta) {
-        const bool via = volta % 2 == 0;
-        tavolo.Passo(via ? passi[1] : Contrario(passi[2]));
-        // The symbol is in one place only, and whole.
-        EXPECT_EQ(QuantiPixel(tavolo.Guarda().Immagine(), tavolo.Colore(RigaSimbolo)), simbolo);
-        tavolo.Passo(via ? passi[2] : Contrario(passi[1]));
+        const bool avanza = volta % 2 == 0;
+        tavolo.Cammina(avanza ? via : indietro);
         const Vista vista = tavolo.Guarda();
-        const QRgb atteso = via || !cambia ? avanti : tavolo.Colore(RigaRitorno);
-        EXPECT_EQ(vista.Muro(primo), atteso) << volta;
-        EXPECT_EQ(vista.Muro(secondo), atteso) << volta;
+        Posto qui = partenza;
+        for (const int verso : via) {
+            EXPECT_EQ(vista.Muro(qui.Dopo({}, verso)),
+                      avanza || !cambia ? avanti : tavolo.Colore(RigaRitorno));
+            qui = qui.Dopo({verso});
+        }
         EXPECT_EQ(vista.Muro(partenza), avanti);  // the half step in walks no passage
-        EXPECT_EQ(QuantiPixel(vista.Immagine(), tavolo.Colore(RigaSimbolo)), simbolo);
     }
-    EXPECT_EQ(tavolo.Passi(), 9);
     tavolo.Cammina({passi.begin() + 1, passi.end()});
-    const Vista vista = tavolo.Guarda();
-    EXPECT_EQ(vista.Muro(primo), avanti);
-    const Posto fine = partenza.Dopo({passi.begin() + 1, passi.end() - 1}, passi.back());
-    EXPECT_EQ(vista.Muro(fine), avanti);  // nor does the last step out
+    // Nor does the last step out.
+    EXPECT_EQ(tavolo.Guarda().Muro(arrivo), avanti);
 }
 
 INSTANTIATE_TEST_SUITE_P(Impostazione, Ritorno, testing::Bool(), testing::PrintToStringParamName());
 
 TEST_F(TracciaVista, SecondTimeRoundALoopIsAWayBackToo) {
-    const Tavolo tavolo = Apri(0);
+    const Tavolo tavolo = Apri(0, Colorato);
     const Posto partenza = tavolo.Partenza();
     tavolo.Passo(Contrario(partenza.Lato));
     const int oltre = partenza.Colonna == 1 ? AllaDestra : AllaSinistra;
@@ -105,13 +70,12 @@ TEST_F(TracciaVista, SecondTimeRoundALoopIsAWayBackToo) {
     for (const Riga riga : {RigaAvanti, RigaRitorno, RigaAvanti}) {
         tavolo.Cammina(giro);
         const Vista vista = tavolo.Guarda();
-        for (std::size_t i = 0; i < giro.size(); ++i) {
-            const auto fin = giro.begin() + static_cast<std::ptrdiff_t>(i);
-            EXPECT_EQ(vista.Muro(partenza.Dopo({giro.begin(), fin}, giro[i])), tavolo.Colore(riga))
-                << i;
+        Posto qui = partenza;
+        for (const int verso : giro) {
+            EXPECT_EQ(vista.Muro(qui.Dopo({}, verso)), tavolo.Colore(riga)) << verso;
+            qui = qui.Dopo({verso});
         }
     }
-    EXPECT_EQ(tavolo.Urti(), 0);
 }
 
 class CaselleIntere : public TracciaVista, public testing::WithParamInterface<int> {};
@@ -120,15 +84,14 @@ INSTANTIATE_TEST_SUITE_P(Livelli, CaselleIntere, testing::Values(4, 11),
                          [](const auto& voce) { return "Level" + std::to_string(voce.param); });
 
 TEST_P(CaselleIntere, AreFilledFromWallToWall) {
-    const Tavolo tavolo = Apri(GetParam());
+    const Tavolo tavolo = Apri(GetParam(), Colorato);
     const MuriVisti muri = tavolo.Muri();
     const Posto partenza = tavolo.Partenza();
     const auto passi = tavolo.Soluzione();
     tavolo.Passo(passi[0]);
     Comando(tavolo, Qt::Key_C);
     EXPECT_EQ(tavolo.Passi(), 1);  // the counters stay, the trace does not
-    EXPECT_EQ(QuantiPixel(tavolo.Guarda().Immagine(), tavolo.Colore(RigaAvanti)), 0);
-    EXPECT_TRUE(tavolo.Muri() == muri);
+    EXPECT_EQ(Quanti(tavolo, RigaAvanti), 0);
 
     const QRgb avanti = tavolo.Colore(RigaAvanti);
     const QRgb sfondo = tavolo.Colore(RigaSfondo);
@@ -140,22 +103,21 @@ TEST_P(CaselleIntere, AreFilledFromWallToWall) {
     EXPECT_EQ(inizio.Fra(partenza.Riga, partenza.Colonna, fuoriX * 0.85, fuoriY * 0.85), avanti);
     EXPECT_EQ(inizio.Fra(partenza.Riga, partenza.Colonna, fuoriX * 0.96, fuoriY * 0.96), sfondo);
 
+    Posto qui = partenza;
     for (std::size_t i = 1; i + 1 < passi.size(); ++i) {
+        SCOPED_TRACE(i);
         tavolo.Passo(passi[i]);
         const Vista vista = tavolo.Guarda();
-        const std::vector<int> fatti(passi.begin() + 1, passi.begin() + static_cast<int>(i));
-        const Posto lasciata = partenza.Dopo(fatti, 0);
-        const Posto qui = lasciata.Dopo({passi[i]}, 0);
+        const Posto lasciata = qui;
+        qui = lasciata.Dopo({passi[i]});
         for (const double x : {-0.3, 0.3}) {
             for (const double y : {-0.3, 0.3}) {
-                EXPECT_EQ(vista.Fra(lasciata.Riga, lasciata.Colonna, x, y), avanti)
-                    << "step " << i << ": " << x << ", " << y;
+                EXPECT_EQ(vista.Fra(lasciata.Riga, lasciata.Colonna, x, y), avanti);
                 // Half of the new cell: the half that the player came through.
                 const bool dietro = x * ColonnaVerso.at(static_cast<std::size_t>(passi[i])) +
                                         y * RigaVerso.at(static_cast<std::size_t>(passi[i])) <
                                     0;
-                EXPECT_EQ(vista.Fra(qui.Riga, qui.Colonna, x, y), dietro ? avanti : sfondo)
-                    << "step " << i << ": " << x << ", " << y;
+                EXPECT_EQ(vista.Fra(qui.Riga, qui.Colonna, x, y), dietro ? avanti : sfondo);
             }
         }
     }
@@ -163,133 +125,85 @@ TEST_P(CaselleIntere, AreFilledFromWallToWall) {
 }
 
 TEST_P(CaselleIntere, OutlastTheWindowButItsMarkDoesNot) {
+    const auto segnate = [](const Tavolo& tavolo) {
+        return Trova<MenuItem>(tavolo.Form_, "mnuColora").Checked();
+    };
     {
-        const Tavolo tavolo = Apri(GetParam());
+        const Tavolo tavolo = Apri(GetParam(), Colorato);
         const QImage sottile = tavolo.Guarda().Immagine();
-        EXPECT_FALSE(Trova<MenuItem>(tavolo.Form_, "mnuColora").Checked());
+        EXPECT_FALSE(segnate(tavolo));
         Comando(tavolo, Qt::Key_C);
-        EXPECT_TRUE(Trova<MenuItem>(tavolo.Form_, "mnuColora").Checked());
+        EXPECT_TRUE(segnate(tavolo));
         Comando(tavolo, Qt::Key_C);
-        EXPECT_FALSE(Trova<MenuItem>(tavolo.Form_, "mnuColora").Checked());
         EXPECT_EQ(tavolo.Guarda().Immagine(), sottile);
         Partita::Scegli(tavolo.Form_, "mnuColora");
         Partita::Scegli(tavolo.Form_, "mnuEsci");
     }
-    const Tavolo tavolo = Apri(GetParam());
-    EXPECT_FALSE(Trova<MenuItem>(tavolo.Form_, "mnuColora").Checked());
+    const Tavolo tavolo = Apri(GetParam(), Colorato);
     const Posto partenza = tavolo.Partenza();
     const auto passi = tavolo.Soluzione();
-    tavolo.Cammina({passi[0], passi[1]});
-    EXPECT_EQ(tavolo.Guarda().Fra(partenza.Riga, partenza.Colonna, 0.3, 0.3),
-              tavolo.Colore(RigaAvanti));
-    Comando(tavolo, Qt::Key_C);
-    EXPECT_FALSE(Trova<MenuItem>(tavolo.Form_, "mnuColora").Checked());
-    tavolo.Cammina({passi[0], passi[1]});
-    EXPECT_EQ(tavolo.Guarda().Fra(partenza.Riga, partenza.Colonna, 0.3, 0.3),
-              tavolo.Colore(RigaSfondo));
+    for (const Riga angolo : {RigaAvanti, RigaSfondo}) {
+        EXPECT_FALSE(segnate(tavolo));
+        tavolo.Cammina({passi[0], passi[1]});
+        EXPECT_EQ(tavolo.Guarda().Fra(partenza.Riga, partenza.Colonna, 0.3, 0.3),
+                  tavolo.Colore(angolo));
+        Comando(tavolo, Qt::Key_C);
+    }
 }
-
-/// By how much a cell is divided: half the trace, and the walls.
-constexpr std::array<std::array<int, 2>, 7> Divisori{
-    {{10, 10}, {5, 5}, {3, 3}, {3, 7}, {5, 10}, {7, 3}, {10, 5}}};
 
 class Spessore : public TracciaVista, public testing::WithParamInterface<int> {};
 
 INSTANTIATE_TEST_SUITE_P(Livelli, Spessore, testing::Values(3, 12),
                          [](const auto& voce) { return "Level" + std::to_string(voce.param); });
 
-TEST_P(Spessore, ComesBackAfterSevenChanges) {
-    const Tavolo tavolo = Apri(GetParam());
-    const QImage prima = tavolo.Guarda().Immagine();
+TEST_P(Spessore, ComesBackAfterSevenChangesThatLeaveNothingBehind) {
+    const Tavolo tavolo = Apri(GetParam(), Colorato);
     const Posto partenza = tavolo.Partenza();
-    const int dentro = Contrario(partenza.Lato);
-    // The wall beyond the corner that the start opening lies next to.
-    const bool verticale = partenza.Lato == AllaDestra || partenza.Lato == AllaSinistra;
-    const Posto muro{partenza.Riga, partenza.Colonna,
-                     verticale ? (partenza.Riga == 1 ? Su : Giu)
-                               : (partenza.Colonna == 1 ? AllaSinistra : AllaDestra)};
-    for (int volta = 1; volta <= 7; ++volta) {
-        tavolo.Passo(dentro);
-        Comando(tavolo, Qt::Key_L);
-        EXPECT_EQ(QuantiPixel(tavolo.Guarda().Immagine(), tavolo.Colore(RigaAvanti)), 0);
-        const auto& [traccia, muri] = Divisori.at(static_cast<std::size_t>((1 + volta) % 7));
-        tavolo.Passo(dentro);
-        const Vista vista = tavolo.Guarda();
-        const Pianta& p = vista.LaPianta();
-        const int cella = static_cast<int>(p.Lato / p.TwipsPerPixel);
-        const double ratio = vista.Immagine().devicePixelRatio();
-        EXPECT_EQ(Larghezza(vista, muro, tavolo.Colore(RigaPareti), !verticale),
-                  std::nearbyint(cella / muri * ratio))
-            << volta;
-        EXPECT_EQ(Larghezza(vista, partenza, tavolo.Colore(RigaAvanti), !verticale),
-                  std::nearbyint(2 * (cella / traccia) * ratio))
-            << volta;
-        Comando(tavolo, Qt::Key_R);
-    }
-    EXPECT_EQ(tavolo.Guarda().Immagine(), prima);
-    EXPECT_EQ(tavolo.Passi(), 14);
-}
-
-TEST_P(Spessore, LeavesNothingOfTheSymbolBehind) {
-    const Tavolo tavolo = Apri(GetParam());
+    const bool lungoX = partenza.Lato == Su || partenza.Lato == Giu;
     const auto passi = tavolo.Soluzione();
-    const auto simboli = [&] {
-        return QuantiPixel(tavolo.Guarda().Immagine(), tavolo.Colore(RigaSimbolo));
-    };
     for (const bool intere : {false, true}) {
+        const QImage prima = tavolo.Guarda().Immagine();
+        std::set<std::pair<int, int>> aspetti;
         for (int volta = 0; volta < 7; ++volta) {
             SCOPED_TRACE(volta);
-            const int prima = simboli();
-            EXPECT_GT(prima, 0);
-            tavolo.Passo(passi[0]);
-            EXPECT_EQ(simboli(), prima);
-            tavolo.Passo(passi[1]);
-            EXPECT_EQ(simboli(), prima);
-            tavolo.Passo(Contrario(passi[1]));
-            EXPECT_EQ(simboli(), prima);
-            Comando(tavolo, Qt::Key_L);
-        }
-        if (!intere) {
-            Comando(tavolo, Qt::Key_C);
-        }
-    }
-}
-
-/// A wall from the left that ends in the open, with no other wall at its right end.
-std::optional<Posto> MuroCheFinisce(const MuriVisti& muri) {
-    for (int r = 1; r < muri.Righe(); ++r) {
-        for (int c = 1; c < muri.Colonne(); ++c) {
-            if (muri.Ha({r, c, Giu}) && !muri.Ha({r, c + 1, Giu}) && !muri.Ha({r, c, AllaDestra}) &&
-                !muri.Ha({r + 1, c, AllaDestra})) {
-                return Posto{r, c, Giu};
+            const int simbolo = Quanti(tavolo, RigaSimbolo);
+            aspetti.insert({simbolo, Quanti(tavolo, RigaPareti)});
+            for (const int verso : {passi[0], passi[1], Contrario(passi[1])}) {
+                tavolo.Passo(verso);
+                EXPECT_EQ(Quanti(tavolo, RigaSimbolo), simbolo);
             }
+            const Vista vista = tavolo.Guarda();
+            const Tratto penna = vista.TrattoDi(tavolo.Colore(RigaAvanti), partenza, lungoX);
+            const QRect punto = MacchiaDi(vista.Immagine(), tavolo.Colore(RigaSimbolo)).Posto;
+            EXPECT_TRUE(intere || penna.Lunghezza == punto.width());
+            Comando(tavolo, Qt::Key_L);
+            EXPECT_EQ(Quanti(tavolo, RigaAvanti) + Quanti(tavolo, RigaRitorno), 0);
         }
+        EXPECT_EQ(aspetti.size(), 7U);
+        EXPECT_EQ(tavolo.Guarda().Immagine(), prima);
+        EXPECT_EQ(tavolo.Passi(), intere ? 42 : 21);
+        Comando(tavolo, Qt::Key_C);
     }
-    return std::nullopt;
 }
 
 TEST_F(TracciaVista, WallsEndSquareWithWholeCellsAndRoundWithout) {
-    const Tavolo tavolo = Apri(2, Colorato.Con(RigaSpessore, 2));
-    const auto muro = MuroCheFinisce(tavolo.Muri());
-    ASSERT_TRUE(muro);
+    const Tavolo tavolo = Apri(0, Colorato.Con(RigaSpessore, 2));
     const Pianta& p = tavolo.Pianta_;
     const double mezzo = static_cast<int>(p.Lato / p.TwipsPerPixel) / 3 * p.TwipsPerPixel / 2;
     const double poco = 2 * p.TwipsPerPixel;
-    const double x = p.BordoX(muro->Colonna);
-    const double y = p.BordoY(muro->Riga);
-    for (const bool quadri : {false, true}) {
+    // The lower corner that has no opening: they are opposite each other.
+    const Posto partenza = tavolo.Partenza();
+    const bool sinistra = (partenza.Colonna == 1) == (partenza.Riga == 1);
+    const int fuori = sinistra ? -1 : 1;
+    const double x = p.BordoX(sinistra ? 0 : p.Colonne);
+    const double y = p.BordoY(p.Righe);
+    const QRgb muri = tavolo.Colore(RigaPareti);
+    const QRgb sfondo = tavolo.Colore(RigaSfondo);
+    for (const QRgb angolo : {sfondo, muri}) {
         const Vista vista = tavolo.Guarda();
-        const QRgb muri = tavolo.Colore(RigaPareti);
-        const QRgb sfondo = tavolo.Colore(RigaSfondo);
-        EXPECT_EQ(vista.A(x + mezzo - poco, y), muri);
-        EXPECT_EQ(vista.A(x + mezzo + poco, y), sfondo);
-        for (const double verso : {-1.0, 1.0}) {
-            EXPECT_EQ(vista.A(x + mezzo - poco, y + verso * (mezzo - poco)),
-                      quadri ? muri : sfondo);
-        }
-        // So do corners of two outside walls.
-        EXPECT_EQ(vista.A(p.BordoX(0) - mezzo + poco, p.BordoY(p.Righe) + mezzo - poco),
-                  quadri ? muri : sfondo);
+        EXPECT_EQ(vista.A(x + fuori * (mezzo - poco), y), muri);
+        EXPECT_EQ(vista.A(x + fuori * (mezzo + poco), y), sfondo);
+        EXPECT_EQ(vista.A(x + fuori * (mezzo - poco), y + mezzo - poco), angolo);
         Comando(tavolo, Qt::Key_C);
     }
 }
