@@ -17,15 +17,17 @@ class Utenti : public testing::Test {
 protected:
     Form& Menu() { return partita_.Finestra("FormMenu"); }
     ComboBox& Lista() { return Trova<ComboBox>(Menu(), "Combo1"); }
-    void ClicLivello(int livello) { ClickOn(Trova<OptionButton>(Menu(), "Option1", livello)); }
+    OptionButton& Opzione(int livello) { return Trova<OptionButton>(Menu(), "Option1", livello); }
+    std::string Cornice() { return Trova<Frame>(Menu(), "Frame1").Caption(); }
+    void ClicLivello(int livello) { ClickOn(Opzione(livello)); }
     void ClicBottone(int i) { ClickOn(Trova<CommandButton>(Menu(), "Command1", i)); }
 
     /// The names in the list, the chosen one in brackets.
-    Nomi Elenco() {
+    static Nomi Elenco(const ComboBox& lista) {
         Nomi nomi;
-        for (int i = 0; i < Lista().ListCount(); ++i) {
-            nomi.push_back(i == Lista().ListIndex() ? "[" + Lista().List(i) + "]"
-                                                    : Lista().List(i));
+        for (int i = 0; i < lista.ListCount(); ++i) {
+            const std::string nome = lista.List(i);
+            nomi.push_back(i == lista.ListIndex() ? "[" + nome + "]" : nome);
         }
         return nomi;
     }
@@ -43,20 +45,26 @@ protected:
     const Stato& stato_ = partita_.Gioco.Stato();
 };
 
-TEST_F(Utenti, ListIsEmptyAndHiddenOnAFreshMachine) {
-    partita_.ApriMenu();
-    EXPECT_EQ(Elenco(), Nomi{});
-    EXPECT_FALSE(WidgetOf(Lista()).isVisible());
-    EXPECT_EQ(stato_.NomeGiocatore, "");
-    EXPECT_EQ(disco_.Tutti().size(), 3U);  // two folders and the readme
-}
-
-TEST_F(Utenti, OneUserIsChosenButNotShown) {
-    disco_.Scrivi("_predefinito");
-    partita_.ApriMenu();
-    EXPECT_EQ(Elenco(), Nomi{"[_predefinito]"});
-    EXPECT_FALSE(WidgetOf(Lista()).isVisible());
-    EXPECT_EQ(stato_.NomeGiocatore, "_predefinito");
+TEST_F(Utenti, ListIsShownFromTwoUsersOn) {
+    struct {
+        std::string Nuovo;  // a user more, or none yet
+        Nomi Elenco;
+        bool Visibile;
+    } const casi[] = {
+        {"", {}, false},
+        {"_predefinito", {"[_predefinito]"}, false},
+        {"Anna", {"[_predefinito]", "Anna"}, true},
+    };
+    for (const auto& [nuovo, elenco, visibile] : casi) {
+        if (!nuovo.empty()) {
+            disco_.Scrivi(nuovo);
+        }
+        Partita partita(disco_);
+        const auto& lista = Trova<ComboBox>(partita.ApriMenu(), "Combo1");
+        EXPECT_EQ(Elenco(lista), elenco);
+        EXPECT_EQ(WidgetOf(lista).isVisible(), visibile);
+        EXPECT_EQ(partita.Gioco.Stato().NomeGiocatore, elenco.empty() ? "" : "_predefinito");
+    }
 }
 
 TEST_F(Utenti, OddNamesAreListedAsTheyAre) {
@@ -66,62 +74,47 @@ TEST_F(Utenti, OddNamesAreListedAsTheyAre) {
         Write(disco_.Utenti() / nome, FileUtente().Bytes());
     }
     partita_.ApriMenu();
-    Nomi elenco = Elenco();
+    Nomi elenco = Elenco(Lista());
     std::sort(elenco.begin(), elenco.end());
     EXPECT_EQ(elenco, (Nomi{"", "Cartella", "Zoë", "[_PREDEFINITO]", "a.b", "con spazi "}));
-    EXPECT_TRUE(WidgetOf(Lista()).isVisible());
-    EXPECT_EQ(stato_.NomeUtente, "_PREDEFINITO");
 }
 
 TEST_F(Utenti, SavedUnderTheNameThatIsOnTheDisk) {
     fs::create_directories(disco_.Utenti());
     const fs::path file = disco_.Utenti() / "_PREDEFINITO.INI";
     Write(file, FileUtente().Con(RigaLivello, 9).Bytes());
-    partita_.ApriMenu(false);
+    partita_.ApriMenu();
     EXPECT_EQ(stato_.Livello, 9);
-    partita_.Tempo.Advance(0.3);
     ClicLivello(2);
     ClicBottone(1);
     EXPECT_EQ(BytesOf(file), FileUtente().Con(RigaLivello, 2).Bytes());
     EXPECT_EQ(disco_.Tutti().size(), 3U);  // no second file; the folders were there, so no readme
 }
 
-TEST_F(Utenti, FirstSaveMakesTheFileInSmallLetters) {
+TEST_F(Utenti, CapitalsComeWithTheUserWhoWantsThemStayAndNameTheSameFiles) {
+    const FileUtente grande = FileUtente().Con(RigaMaiuscolo, "True").Con(RigaLivello, 10);
+    disco_.Scrivi("Ænne é", grande);
+    disco_.Scrivi("_predefinito");
     partita_.ApriMenu();
-    ClicBottone(1);
-    EXPECT_EQ(BytesOf(disco_.Utenti() / "_predefinito.ini"), FileUtente().Bytes());
-}
-
-TEST_F(Utenti, CapitalsInTheMenuStillNameTheSameFiles) {
-    const FileUtente grande = FileUtente().Con(RigaMaiuscolo, "True");
-    disco_.Scrivi("_predefinito", grande);
-    disco_.Scrivi("Ænne é", grande.Con(RigaLivello, 10));
-    partita_.ApriMenu();
-    EXPECT_EQ(Elenco(), (Nomi{"[_PREDEFINITO]", "ÆNNE É"}));
-    EXPECT_EQ(Trova<Frame>(Menu(), "Frame1").Caption(), "IMPOSTA IL LIVELLO");
+    EXPECT_EQ(Cornice(), "Imposta il livello");
     Scorri(1);
-    EXPECT_EQ(stato_.NomeUtente, "ÆNNE É");
+    EXPECT_EQ(Elenco(Lista()), (Nomi{"_PREDEFINITO", "[ÆNNE É]"}));
+    Scorri(-1);
+    EXPECT_EQ(Elenco(Lista()), (Nomi{"[_PREDEFINITO]", "ÆNNE É"}));
+    EXPECT_EQ(Cornice(), "IMPOSTA IL LIVELLO");
+    EXPECT_FALSE(stato_.UsaMaiuscolo);
+    EXPECT_EQ(stato_.NomeUtente, "_PREDEFINITO");
+    Scorri(1);
     EXPECT_EQ(stato_.NomeGiocatore, "ÆNNE É");
-    EXPECT_EQ(stato_.Livello, 10);
     ClicLivello(11);
     ClicBottone(1);
     EXPECT_EQ(disco_.Leggi("Ænne é"), grande.Con(RigaLivello, 11).Bytes());
     EXPECT_EQ(disco_.Tutti().size(), 4U);
-}
 
-TEST_F(Utenti, CapitalsComeWithTheUserWhoWantsThemAndStay) {
-    disco_.Scrivi("Anna", FileUtente().Con(RigaMaiuscolo, "True"));
-    disco_.Scrivi("_predefinito");
-    partita_.ApriMenu();
-    EXPECT_EQ(Elenco(), (Nomi{"[_predefinito]", "Anna"}));
-    EXPECT_EQ(Trova<Frame>(Menu(), "Frame1").Caption(), "Imposta il livello");
-    Scorri(1);
-    EXPECT_EQ(Elenco(), (Nomi{"_PREDEFINITO", "[ANNA]"}));
-    Scorri(-1);
-    EXPECT_EQ(Elenco(), (Nomi{"[_PREDEFINITO]", "ANNA"}));
-    EXPECT_EQ(Trova<Frame>(Menu(), "Frame1").Caption(), "IMPOSTA IL LIVELLO");
-    EXPECT_FALSE(stato_.UsaMaiuscolo);
-    EXPECT_EQ(stato_.NomeUtente, "_PREDEFINITO");
+    disco_.Scrivi("_predefinito", grande);
+    Partita dopo(disco_);
+    EXPECT_EQ(Elenco(Trova<ComboBox>(dopo.ApriMenu(), "Combo1")),
+              (Nomi{"[_PREDEFINITO]", "ÆNNE É"}));
 }
 
 TEST_F(Utenti, ChangeOfUserSavesTheOldOneFirst) {
@@ -136,44 +129,31 @@ TEST_F(Utenti, ChangeOfUserSavesTheOldOneFirst) {
     Scorri(1);
     EXPECT_EQ(disco_.Leggi("_predefinito"), primo.Con(RigaLivello, 14).Bytes());
     EXPECT_EQ(disco_.Leggi("Anna"), anna.Bytes());
-    EXPECT_EQ(stato_.Livello, 9);
-    EXPECT_TRUE(Trova<OptionButton>(Menu(), "Option1", 9).Value());
+    EXPECT_TRUE(Opzione(9).Value());
     EXPECT_EQ(stato_.RigheGriglia, 4);
     ClicLivello(0);
     ClicBottone(1);
     EXPECT_EQ(disco_.Leggi("_predefinito"), primo.Con(RigaLivello, 14).Bytes());
     EXPECT_EQ(disco_.Leggi("Anna"), anna.Con(RigaLivello, 0).Bytes());
-}
 
-TEST_F(Utenti, NextRunBeginsWithTheFirstUserWhoeverPlayedLast) {
-    disco_.Scrivi("Anna", FileUtente().Con(RigaLivello, 9));
-    disco_.Scrivi("_predefinito", FileUtente().Con(RigaLivello, 1));
-    partita_.ApriMenu();
-    Scorri(1);
-    ClicBottone(1);
+    // The next run begins with the first user, whoever played last.
     Partita dopo(disco_);
     dopo.ApriMenu();
     EXPECT_EQ(dopo.Gioco.Stato().NomeUtente, "_predefinito");
-    EXPECT_EQ(dopo.Gioco.Stato().Livello, 1);
+    EXPECT_EQ(dopo.Gioco.Stato().Livello, 14);
 }
 
 TEST_F(Utenti, TimedLevelsStayAsTheFirstUserFoundThem) {
     // Who is chosen in the list neither shuts nor opens them, and keeps his level.
-    disco_.Scrivi("Anna", FileUtente().Con(RigaModoInput, 1).Con(RigaLivello, 6));
-    disco_.Scrivi("_predefinito");
-    partita_.ApriMenu();
-    Scorri(1);
-    EXPECT_EQ(stato_.Livello, 6);
-    EXPECT_TRUE(Trova<OptionButton>(Menu(), "Option1", 6).Enabled());
-}
-
-TEST_F(Utenti, TimedLevelsShutByScanningStayShutForOthers) {
-    disco_.Scrivi("Anna", FileUtente().Con(RigaLivello, 6));
-    disco_.Scrivi("_predefinito", FileUtente().Con(RigaModoInput, 2));
-    partita_.ApriMenu();
-    Scorri(1);
-    EXPECT_EQ(stato_.Livello, 6);
-    EXPECT_FALSE(Trova<OptionButton>(Menu(), "Option1", 6).Enabled());
+    for (const bool scandisce : {false, true}) {
+        disco_.Scrivi("Anna", FileUtente().Con(RigaModoInput, scandisce).Con(RigaLivello, 6));
+        disco_.Scrivi("_predefinito", FileUtente().Con(RigaModoInput, scandisce ? 0 : 2));
+        Partita partita(disco_);
+        Form& menu = partita.ApriMenu();
+        Trova<ComboBox>(menu, "Combo1").ListIndex(1);
+        EXPECT_EQ(partita.Gioco.Stato().Livello, 6);
+        EXPECT_EQ(Trova<OptionButton>(menu, "Option1", 6).Enabled(), scandisce);
+    }
 }
 
 /// What is in the first user's file at each step from the splash to the exit and back.
@@ -217,15 +197,13 @@ TEST_F(Utenti, ClosedByTheDesktopNothingIsSaved) {
 
 TEST_F(Utenti, ExitEndsAtOnce) {
     Form& menu = partita_.ApriMenu(false);  // the timer is still to come
-    ClickOn(Trova<CommandButton>(menu, "Command1", 1));
+    ClicBottone(1);
     EXPECT_TRUE(partita_.Gioco.Forms().Ended());
-    ASSERT_EQ(partita_.Gioco.Forms().Find("FormMenu"), &menu);  // not even unloaded
-    const Nomi dopo = disco_.Tutti();
+    EXPECT_EQ(disco_.Leggi("_predefinito"), FileUtente().Bytes());
     Write(disco_.FileDi("_predefinito"), "touched");
     partita_.Tempo.Advance(10);
     Tap(menu, Qt::Key_Space);
     EXPECT_EQ(disco_.Leggi("_predefinito"), "touched");
-    EXPECT_EQ(disco_.Tutti(), dopo);
 }
 
 TEST_F(Utenti, DamagedFileStaysUntilTheNextSave) {
@@ -239,25 +217,7 @@ TEST_F(Utenti, DamagedFileStaysUntilTheNextSave) {
     EXPECT_EQ(disco_.Leggi("_predefinito"), FileUtente().Bytes());
 }
 
-TEST_F(Utenti, FolderThatCannotBeWrittenIsToldOncePerRun) {
-    fs::create_directories(disco_.Radice());
-    Write(disco_.Impostazioni(), "a file in the folder's place");
-    partita_.ApriMenu();
-    EXPECT_EQ(partita_.Messaggi.Messages.size(), 0U);
-    Form& gioco = partita_.ApriLivello(9);  // the game goes on
-    ASSERT_EQ(partita_.Messaggi.Messages.size(), 1U);
-    EXPECT_EQ(partita_.Messaggi.Messages[0].Title, "Trameli");
-    EXPECT_EQ(partita_.Messaggi.Messages[0].Text,
-              "Impossibile salvare le impostazioni.\n" + disco_.FileDi("_predefinito").string());
-    Tap(gioco, Qt::Key_L, Qt::ControlModifier);
-    Partita::Scegli(gioco, "mnuEsci");
-    partita_.ApriLivello(10);
-    EXPECT_EQ(partita_.Messaggi.Messages.size(), 1U);
-    EXPECT_EQ(stato_.SpessoreLinee, 2);  // the record lives on in memory
-    EXPECT_EQ(BytesOf(disco_.Impostazioni()), "a file in the folder's place");
-}
-
-TEST_F(Utenti, FolderInTheFilesPlaceKeepsTheSettingsInMemory) {
+TEST_F(Utenti, WhatCannotBeSavedIsToldOncePerRunAndKept) {
     Form& gioco = partita_.ApriLivello(9);
     fs::remove(disco_.FileDi("_predefinito"));
     fs::create_directory(disco_.FileDi("_predefinito"));
@@ -265,13 +225,16 @@ TEST_F(Utenti, FolderInTheFilesPlaceKeepsTheSettingsInMemory) {
         Form& form = spessore == 2 ? gioco : partita_.ApriLivello(9);
         Tap(form, Qt::Key_L, Qt::ControlModifier);
         Partita::Scegli(form, "mnuEsci");
-        // It is listed, and so chosen: what cannot be saved is not read back either.
         partita_.Tempo.Advance(0.3);
-        EXPECT_EQ(Elenco(), Nomi{"[_predefinito]"});
+        // It is listed, and so chosen: what cannot be saved is not read back either.
+        EXPECT_EQ(Elenco(Lista()), Nomi{"[_predefinito]"});
         EXPECT_EQ(stato_.SpessoreLinee, spessore);
         EXPECT_EQ(stato_.Livello, 9);
-        EXPECT_EQ(partita_.Messaggi.Messages.size(), 1U);
     }
+    ASSERT_EQ(partita_.Messaggi.Messages.size(), 1U);
+    EXPECT_EQ(partita_.Messaggi.Messages[0].Title, "Trameli");
+    EXPECT_EQ(partita_.Messaggi.Messages[0].Text,
+              "Impossibile salvare le impostazioni.\n" + disco_.FileDi("_predefinito").string());
     EXPECT_TRUE(fs::is_empty(disco_.FileDi("_predefinito")));
 }
 
