@@ -3,12 +3,12 @@
 
 #include <QTest>
 #include <QWindow>
+#include <map>
 
 #include "game/partita.h"
 #include "platform/command_button.h"
 #include "platform/form.h"
 #include "platform/label.h"
-#include "shell/form_avvio.h"
 
 namespace trameli {
 namespace {

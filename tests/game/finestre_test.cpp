@@ -3,7 +3,6 @@
 
 #include <QFontMetrics>
 #include <QLabel>
-#include <QPushButton>
 #include <QRadioButton>
 
 #include "game/partita.h"

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QImage>
+#include <map>
 
 #include "game/partita.h"
 #include "platform/combo_box.h"

@@ -1,6 +1,8 @@
 // The users of the game: the list in the menu, and which settings reach which file when.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "game/partita.h"
 #include "platform/combo_box.h"
 #include "platform/command_button.h"
