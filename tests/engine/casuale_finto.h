@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
-#include <initializer_list>
 #include <stdexcept>
 #include <utility>
 #include <vector>
@@ -13,11 +12,6 @@
 
 namespace trameli {
 
-/// The middle of the draws that FinoA(n) turns into `valore`.
-inline float PerValore(int valore, int n) {
-    return (static_cast<float>(valore) + 0.5F) / static_cast<float>(n);
-}
-
 class CasualeFinto : public Casuale {
 public:
     explicit CasualeFinto(std::vector<float> estrazioni = {})
@@ -25,23 +19,23 @@ public:
 
     /// Fails the test and throws when the script has run out.
     float Estrai() override {
-        if (m_estratti == m_estrazioni.size()) {
+        if (Rimasti() == 0) {
             ADD_FAILURE() << "more draws than the " << m_estratti << " of the script";
             throw std::out_of_range("script of draws");
         }
         return m_estrazioni[m_estratti++];
     }
 
-    void Aggiungi(float u) { m_estrazioni.push_back(u); }
-
-    /// The three draws of a wall: row, column, side.
+    /// The three draws of a wall: row, column, side, each in the middle of those that mean it.
     void AggiungiMuro(const Tramelo& tramelo, int r, int c, Lato lato) {
-        Aggiungi(PerValore(r - 1, tramelo.Righe()));
-        Aggiungi(PerValore(c - 1, tramelo.Colonne()));
-        Aggiungi(PerValore(static_cast<int>(lato), 4));
+        const auto aggiungi = [this](int valore, int n) {
+            m_estrazioni.push_back((static_cast<float>(valore) + 0.5F) / static_cast<float>(n));
+        };
+        aggiungi(r - 1, tramelo.Righe());
+        aggiungi(c - 1, tramelo.Colonne());
+        aggiungi(static_cast<int>(lato), 4);
     }
 
-    std::size_t Estratti() const { return m_estratti; }
     std::size_t Rimasti() const { return m_estrazioni.size() - m_estratti; }
 
 private:

@@ -1,9 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cmath>
 #include <limits>
-#include <vector>
 
 #include "casuale_finto.h"
 #include "engine/casuale.h"
@@ -11,42 +9,29 @@
 namespace trameli {
 namespace {
 
-constexpr float SottoUno = 0x1.fffffep-1F;
-
-struct CasoFinoA {
-    float U;
-    int N;
-    int Atteso;
-};
-
-class FinoA : public testing::TestWithParam<CasoFinoA> {};
-
-TEST_P(FinoA, IsTheFloorAndTakesOneDraw) {
-    const auto [u, n, atteso] = GetParam();
-    CasualeFinto casuale({u, 0.0F});
-    EXPECT_EQ(casuale.FinoA(n), atteso);
-    EXPECT_EQ(casuale.Estratti(), 1U);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Casuale, FinoA,
-    testing::Values(CasoFinoA{0.0F, 1, 0}, CasoFinoA{SottoUno, 1, 0}, CasoFinoA{0.0F, 20, 0},
-                    CasoFinoA{0.24999999F, 4, 0}, CasoFinoA{0.25F, 4, 1}, CasoFinoA{0.5F, 4, 2},
-                    CasoFinoA{0.74999994F, 4, 2}, CasoFinoA{0.75F, 4, 3}, CasoFinoA{SottoUno, 4, 3},
-                    CasoFinoA{0.99F, 15, 14},
-                    // A sixth is no float: the one below it and the one above it.
-                    CasoFinoA{0x1.555554p-3F, 6, 0}, CasoFinoA{0x1.555556p-3F, 6, 1},
-                    // Times n these are just below 10 and 5; in single precision they would be
-                    // rounded up to them.
-                    CasoFinoA{0x1.d1745cp-1F, 11, 9}, CasoFinoA{0x1.aaaaaap-1F, 6, 4}));
-
-TEST(Casuale, FinoANeverReachesN) {
-    for (int n = 1; n <= 40000; ++n) {
-        CasualeFinto casuale({SottoUno});
-        ASSERT_EQ(casuale.FinoA(n), n - 1);
+TEST(Casuale, FinoAIsTheFloorAndTakesOneDraw) {
+    constexpr float sottoUno = 0x1.fffffep-1F;
+    struct {
+        float U;
+        int N;
+        int Atteso;
+    } const casi[] = {
+        {0.0F, 20, 0},
+        {sottoUno, 1, 0},
+        {0.24999999F, 4, 0},
+        {0.25F, 4, 1},
+        {sottoUno, 4, 3},
+        // Times n these are just below 10 and 5; in single precision they would be rounded up to
+        // them.
+        {0x1.d1745cp-1F, 11, 9},
+        {0x1.aaaaaap-1F, 6, 4},
+        {sottoUno, std::numeric_limits<int>::max(), 2147483519},
+    };
+    for (const auto& [u, n, atteso] : casi) {
+        CasualeFinto casuale({u, 0.0F});
+        EXPECT_EQ(casuale.FinoA(n), atteso) << u << " of " << n;
+        EXPECT_EQ(casuale.Rimasti(), 1U);
     }
-    CasualeFinto casuale({SottoUno});
-    EXPECT_LT(casuale.FinoA(std::numeric_limits<int>::max()), std::numeric_limits<int>::max());
 }
 
 // Bug reports name a seed, so a seed has to mean the same maze in every version.
@@ -56,19 +41,6 @@ TEST(CasualeConSeme, GivesTheUpperBitsOfTheStandardGenerator) {
     CasualeConSeme casuale(0x0123456789abcdefU);
     for (int i = 0; i < 5000; ++i) {
         ASSERT_EQ(casuale.Estrai(), std::ldexp(static_cast<float>(atteso() >> 8U), -24)) << i;
-    }
-}
-
-TEST(CasualeConSeme, EveryBitOfTheSeedCounts) {
-    const auto prime = [](std::uint64_t seme) {
-        CasualeConSeme casuale(seme);
-        std::vector<float> estratti(8);
-        std::ranges::generate(estratti, [&] { return casuale.Estrai(); });
-        return estratti;
-    };
-    EXPECT_EQ(prime(1), prime(1));
-    for (unsigned bit = 0; bit < 64; ++bit) {
-        EXPECT_NE(prime(1), prime(1U ^ (std::uint64_t{1} << bit))) << bit;
     }
 }
 

@@ -1,102 +1,90 @@
-// The carving in its plainest form, one array for each thing and every pass in full, to hold the
-// packed and shortened one against.
+// The carving in its plainest form, to hold the packed and shortened one against.
 #pragma once
 
-#include <array>
-#include <cstddef>
-#include <vector>
+#include <algorithm>
+#include <map>
+#include <set>
+#include <tuple>
+#include <utility>
 
-#include "engine/casuale.h"
+#include "aiuti.h"
 
 namespace trameli {
 
 class Modello {
 public:
-    Modello(int righe, int colonne, Casuale& casuale) : R(righe), C(colonne), m_casuale(casuale) {
-        const std::vector<std::array<bool, 4>> riga(static_cast<std::size_t>(C) + 1);
-        Muri.assign(static_cast<std::size_t>(R) + 1, riga);
-        MuriProtetti = Muri;
-        Griglia.assign(Muri.size(), std::vector<int>(riga.size()));
-        for (int r = 1; r <= R; ++r) {
-            for (int c = 1; c <= C; ++c) {
-                Etichetta(r, c) = C * (r - 1) + c;
-                for (int s = 0; s < 4; ++s) {
-                    Di(Muri, r, c, s) = true;
-                    Di(MuriProtetti, r, c, s) = Fuori(r, c, s);
-                }
+    using Faccia = std::tuple<int, int, Lato>;  // row, column, side
+
+    /// A full grid with its outside walls protected, as `tramelo` is.
+    Modello(const Tramelo& tramelo, Casuale& casuale)
+        : m_righe(tramelo.Righe()), m_colonne(tramelo.Colonne()), m_casuale(casuale) {
+        PerOgniFaccia(tramelo, [&](Cella cella, Lato lato) {
+            const auto& [r, c] = cella;
+            Griglia[{r, c}] = m_colonne * (r - 1) + c;
+            Muri.insert({r, c, lato});
+            if (PortaFuori(tramelo, cella, lato)) {
+                m_esterni.insert({r, c, lato});
             }
-        }
-        RegioniRimaste = R * C;
+        });
+        MuriProtetti = m_esterni;
+        RegioniRimaste = m_righe * m_colonne;
     }
 
     void SelezionaMuroDaAbbattere() {
-        EstraiMuro();
-        int a = 0;
-        int b = 0;
-        while (a == b) {
-            while (Di(MuriProtetti, m_r, m_c, m_s)) {
-                EstraiMuro();
+        for (;;) {
+            const Faccia faccia = EstraiFaccia();
+            if (MuriProtetti.contains(faccia)) {
+                continue;
             }
-            a = Etichetta(m_r, m_c);
-            b = Etichetta(m_r + Giu[At(m_s)], m_c + Destra[At(m_s)]);
-            Scrivi(MuriProtetti, true);
-        }
-        Scrivi(Muri, false);
-        const int via = a > b ? a : b;
-        const int resta = a > b ? b : a;
-        for (int r = 1; r <= R; ++r) {
-            for (int c = 1; c <= C; ++c) {
-                if (Etichetta(r, c) == via) {
-                    Etichetta(r, c) = resta;
-                }
+            const Faccia altra = Altra(faccia);
+            MuriProtetti.insert({faccia, altra});
+            const int a = Griglia[{std::get<0>(faccia), std::get<1>(faccia)}];
+            const int b = Griglia[{std::get<0>(altra), std::get<1>(altra)}];
+            if (a == b) {
+                continue;
             }
+            Muri.erase(faccia);
+            Muri.erase(altra);
+            for (auto& [posto, etichetta] : Griglia) {
+                etichetta = etichetta == std::max(a, b) ? std::min(a, b) : etichetta;
+            }
+            --RegioniRimaste;
+            return;
         }
-        --RegioniRimaste;
     }
 
     void AbbattiAltriMuri(int quanti) {
-        for (int n = 0; n < quanti;) {
-            EstraiMuro();
-            if (Di(Muri, m_r, m_c, m_s) && !Fuori(m_r, m_c, m_s)) {
-                Scrivi(Muri, false);
-                ++n;
+        while (quanti > 0) {
+            const Faccia faccia = EstraiFaccia();
+            if (!m_esterni.contains(faccia) && Muri.erase(faccia) > 0) {
+                Muri.erase(Altra(faccia));
+                --quanti;
             }
         }
     }
 
-    int R;
-    int C;
     int RegioniRimaste;
-    std::vector<std::vector<int>> Griglia;
-    std::vector<std::vector<std::array<bool, 4>>> Muri;
-    std::vector<std::vector<std::array<bool, 4>>> MuriProtetti;
+    std::map<std::pair<int, int>, int> Griglia;
+    std::set<Faccia> Muri;
+    std::set<Faccia> MuriProtetti;
 
 private:
-    static constexpr std::array<int, 4> Giu{-1, 0, 1, 0};
-    static constexpr std::array<int, 4> Destra{0, 1, 0, -1};
-
-    static std::size_t At(int i) { return static_cast<std::size_t>(i); }
-    static bool& Di(std::vector<std::vector<std::array<bool, 4>>>& di, int r, int c, int s) {
-        return di[At(r)][At(c)][At(s)];
+    Faccia EstraiFaccia() {
+        const int r = m_casuale.FinoA(m_righe) + 1;
+        const int c = m_casuale.FinoA(m_colonne) + 1;
+        return {r, c, static_cast<Lato>(m_casuale.FinoA(4))};
     }
-    int& Etichetta(int r, int c) { return Griglia[At(r)][At(c)]; }
-    bool Fuori(int r, int c, int s) const {
-        return (s == 0 && r == 1) || (s == 2 && r == R) || (s == 3 && c == 1) || (s == 1 && c == C);
-    }
-    void Scrivi(std::vector<std::vector<std::array<bool, 4>>>& in, bool valore) {
-        Di(in, m_r, m_c, m_s) = valore;
-        Di(in, m_r + Giu[At(m_s)], m_c + Destra[At(m_s)], (m_s + 2) % 4) = valore;
-    }
-    void EstraiMuro() {
-        m_r = m_casuale.FinoA(R) + 1;
-        m_c = m_casuale.FinoA(C) + 1;
-        m_s = m_casuale.FinoA(4);
+    static Faccia Altra(const Faccia& faccia) {
+        const auto& [r, c, lato] = faccia;
+        const Cella vicina =
+            Vicina({static_cast<std::int16_t>(r), static_cast<std::int16_t>(c)}, lato);
+        return {vicina.Riga, vicina.Colonna, Opposto(lato)};
     }
 
+    int m_righe;
+    int m_colonne;
     Casuale& m_casuale;
-    int m_r = 0;
-    int m_c = 0;
-    int m_s = 0;
+    std::set<Faccia> m_esterni;
 };
 
 }  // namespace trameli
