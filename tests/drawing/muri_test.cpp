@@ -1,0 +1,57 @@
+// The places of walls, as lines and as bars.
+#include <gtest/gtest.h>
+
+#include "drawing/muri_a_barre.h"
+#include "drawing/muri_a_linee.h"
+
+namespace trameli {
+namespace {
+
+constexpr Misure Usuali{750, 1625, 740, 7};
+
+TEST(MuriALinee, RunFromCornerToCornerAndGrowAlongThemselves) {
+    struct {
+        Lato Dove;
+        int Sporgenza;
+        Segmento Atteso;
+    } const casi[] = {
+        {Lato::Alto, 0, {{3125, 1490}, {3875, 1490}}},
+        {Lato::Destra, 52, {{3875, 1438}, {3875, 2292}}},
+        {Lato::Basso, 52, {{3073, 2240}, {3927, 2240}}},
+        {Lato::Sinistra, 0, {{3125, 1490}, {3125, 2240}}},
+    };
+    for (const auto& [lato, sporgenza, atteso] : casi) {
+        EXPECT_EQ(SegmentoMuro({2, 3}, lato, Usuali, sporgenza), atteso);
+    }
+    constexpr Misure grandi{32767, 32767, -32768, 7};
+    EXPECT_EQ(SegmentoMuro({3, 2}, Lato::Basso, grandi, 0),
+              (Segmento{{32767, 32767}, {32767, 32767}}));
+}
+
+TEST(MuriABarre, LieCentredOnTheirWalls) {
+    // Odd: a third of 761 is 253, half of that 126, a sixth 126.
+    constexpr Misure dispari{761, 100, 200, 7};
+    EXPECT_EQ(PostoBarra({2, 3}, Lato::Basso, dispari), (Bounds{1496, 1596, 1014, 253}));
+    EXPECT_EQ(PostoBarra({2, 4}, Lato::Sinistra, dispari), (Bounds{2257, 835, 253, 1014}));
+}
+
+TEST(MuriABarre, OneForEachWallInFourPasses) {
+    CasualeConSeme casuale(1);
+    Tramelo tramelo(2, 2, casuale);
+    tramelo.CreaNuovaGriglia();
+    tramelo.Apri({1, 2}, Lato::Alto);
+    tramelo.Apri({2, 1}, Lato::Sinistra);
+    const std::vector<std::pair<Cella, Lato>> attesi{
+        {{1, 1}, Lato::Alto},   {{1, 1}, Lato::Sinistra}, {{1, 1}, Lato::Basso},
+        {{1, 2}, Lato::Basso},  {{2, 1}, Lato::Basso},    {{2, 2}, Lato::Basso},
+        {{1, 1}, Lato::Destra}, {{1, 2}, Lato::Destra},   {{2, 1}, Lato::Destra},
+        {{2, 2}, Lato::Destra}};
+    const auto posti = PostiBarre(tramelo, Usuali);
+    ASSERT_EQ(posti.size(), attesi.size());
+    for (std::size_t i = 0; i < posti.size(); ++i) {
+        EXPECT_EQ(posti[i], PostoBarra(attesi[i].first, attesi[i].second, Usuali)) << i;
+    }
+}
+
+}  // namespace
+}  // namespace trameli
