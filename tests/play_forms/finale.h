@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -26,8 +27,6 @@ public:
 
 class FinaleTest : public testing::Test {
 protected:
-    static constexpr double AttesaIniziale = 1;
-
     FinaleTest() {
         Stato.Livello = 3;
         Stato.NomeGiocatore = "Giulia";
@@ -50,23 +49,32 @@ protected:
         }
     }
 
-    /// Starts the program, shows the window and lets its first second pass.
-    FormFinale& AvviaEMostra() {
-        Avvia();
-        return Mostra();
-    }
     /// Shows the window and lets its first second pass.
     FormFinale& Mostra() {
         programma_->Show("FormFinale");
         Pump();
         return Finale();
     }
+    /// The same in a new run of the program.
+    FormFinale& AvviaEMostra() {
+        Avvia();
+        return Mostra();
+    }
 
     Forms& Programma() { return *programma_; }
     bool Aperto(const char* nome) const { return programma_->Find(nome) != nullptr; }
     FormFinale& Finale() { return dynamic_cast<FormFinale&>(*programma_->Find("FormFinale")); }
 
-    void Tab() { Tap(Finale(), Qt::Key_Tab); }
+    /// Another window comes before this one, and goes again.
+    void VaiEVieni(const std::function<void(Form& altro)>& intanto = {}) {
+        programma_->Show("Altro");
+        Pump();
+        if (intanto) {
+            intanto(*programma_->Find("Altro"));
+        }
+        programma_->Show("FormFinale");
+        Pump();
+    }
 
     /// Which button has the keyboard and shows it: 1, 2, or 0 for neither.
     int Evidenziato() {
