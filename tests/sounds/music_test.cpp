@@ -36,16 +36,6 @@ TEST_F(RecordedMusic, APieceIsHeardFromItsBeginningToItsEnd) {
     EXPECT_LT(letters.rfind('A'), letters.find('B'));
 }
 
-TEST_F(RecordedMusic, ClosingEndsThePiece) {
-    Put("ab.mid", Tune(100, 1));
-    Play();
-    StartMusic("P:\\ab.mid");
-    ASSERT_TRUE(Soon([&] { return Contains("A"); }));
-    Sounds->CloseMusic();
-    ASSERT_TRUE(IsSilent());
-    EXPECT_FALSE(Contains("B"));
-}
-
 TEST_F(RecordedMusic, TwoStartsLeaveOnePieceFromItsBeginning) {
     Put("ab.mid", Tune(1, 100));
     Play();
@@ -60,17 +50,6 @@ TEST_F(RecordedMusic, TwoStartsLeaveOnePieceFromItsBeginning) {
     EXPECT_GT(std::count(again.begin(), again.end(), 'A'), 40);
     Sounds->CloseMusic();
     EXPECT_TRUE(IsSilent());
-}
-
-TEST_F(RecordedMusic, TwoStartsAtOnceAreOne) {
-    Put("a.mid", Tune(100, 1));
-    Put("b.mid", Tune(1, 100));
-    Play();
-    StartMusic("P:\\b.mid");
-    StartMusic("P:\\a.mid");
-    ASSERT_TRUE(Soon([&] { return Contains("A"); }));
-    ASSERT_TRUE(MoreIsHeard(3));
-    EXPECT_FALSE(Contains("B"));
 }
 
 TEST_F(RecordedMusic, AWaveSoundsOverThePiece) {
@@ -98,14 +77,19 @@ TEST_F(RecordedMusic, OpeningIsNotPlayingAndPlayingNeedsAPiece) {
     EXPECT_TRUE(Soon([&] { return Contains("A"); }));
 }
 
-TEST_F(RecordedMusic, WithoutInstrumentsThereAreWavesAndNoMusic) {
+TEST_F(RecordedMusic, NeedsTheFirstInstrumentsThatThereAre) {
     Put("a.mid", Tune(100, 1));
     Put("b.wav", Tone(PitchB, 0.5));
     Put("broken.sf2", "RIFF????sfbk and nothing more");
-    for (const auto& font : {PathOf("missing.sf2"), PathOf("broken.sf2")}) {
-        RecordTo(PathOf(font.stem().string() + ".raw"));
-        MixerOptions options;
-        options.SoundFonts = {font};
+    MixerOptions options;
+    options.SoundFonts.insert(options.SoundFonts.begin(), PathOf("missing.sf2"));
+    RecordTo(PathOf("with.raw"));
+    Play(options);
+    StartMusic("P:\\a.mid");
+    EXPECT_TRUE(Soon([&] { return Contains("A"); }));
+    for (const char* font : {"missing.sf2", "broken.sf2"}) {
+        RecordTo(PathOf(std::string(font) + ".raw"));
+        options.SoundFonts = {PathOf(font)};
         Play(options);
         StartMusic("P:\\a.mid");
         Sounds->PlayWave("P:\\b.wav");
@@ -114,15 +98,6 @@ TEST_F(RecordedMusic, WithoutInstrumentsThereAreWavesAndNoMusic) {
         ASSERT_TRUE(MoreIsHeard(2));
         EXPECT_EQ(Story(), "B.") << font;
     }
-}
-
-TEST_F(RecordedMusic, TheFirstInstrumentsThatThereAreAreTaken) {
-    Put("a.mid", Tune(100, 1));
-    MixerOptions options;
-    options.SoundFonts.insert(options.SoundFonts.begin(), PathOf("missing.sf2"));
-    Play(options);
-    StartMusic("P:\\a.mid");
-    EXPECT_TRUE(Soon([&] { return Contains("A"); }));
 }
 
 }  // namespace

@@ -16,20 +16,6 @@ constexpr int Rate = 44100;
 constexpr std::size_t Window = Rate / 50;
 constexpr std::size_t WaveHeader = 44;
 
-std::string Small(std::uint32_t number, int bytes) {
-    std::string text;
-    for (int i = 0; i < bytes; ++i) {
-        text += static_cast<char>(number >> 8 * i & 0xff);
-    }
-    return text;
-}
-
-std::string Big(std::uint32_t number, int bytes) {
-    std::string text = Small(number, bytes);
-    std::reverse(text.begin(), text.end());
-    return text;
-}
-
 /// How much of a pitch a window holds, by Goertzel's way: 1 for nothing else.
 double ShareOf(double pitch, const std::int16_t* window, double energy) {
     const double turn = 2 * std::cos(2 * std::numbers::pi * pitch / Rate);
@@ -62,11 +48,19 @@ char LetterOf(const std::int16_t* window) {
 
 }  // namespace
 
+std::string Little(std::uint32_t number, int bytes) {
+    std::string text;
+    for (int i = 0; i < bytes; ++i) {
+        text += static_cast<char>(number >> 8 * i & 0xff);
+    }
+    return text;
+}
+
 std::string WaveOf(const Samples& sound) {
     const auto length = static_cast<std::uint32_t>(2 * sound.size());
-    std::string wave = "RIFF" + Small(36 + length, 4) + "WAVEfmt " + Small(16, 4) + Small(1, 2) +
-                       Small(1, 2) + Small(Rate, 4) + Small(2 * Rate, 4) + Small(2, 2) +
-                       Small(16, 2) + "data" + Small(length, 4);
+    std::string wave = "RIFF" + Little(36 + length, 4) + "WAVEfmt " + Little(16, 4) + Little(1, 2) +
+                       Little(1, 2) + Little(Rate, 4) + Little(2 * Rate, 4) + Little(2, 2) +
+                       Little(16, 2) + "data" + Little(length, 4);
     return wave.append(reinterpret_cast<const char*>(sound.data()), length);
 }
 
@@ -96,8 +90,7 @@ std::string Tune(int secondsOfA, int secondsOfB) {
                               "\0\xb0\x5d\0"s + "\0\x90\x45\x60"s + wait(secondsOfA) +
                               "\x80\x45\0"s + "\0\x90\x4c\x60"s + wait(secondsOfB) + "\x80\x4c\0"s +
                               "\0\xff\x2f\0"s;
-    return "MThd" + Big(6, 4) + Big(0, 2) + Big(1, 2) + Big(96, 2) + "MTrk" +
-           Big(static_cast<std::uint32_t>(track.size()), 4) + track;
+    return "MThd\0\0\0\6\0\0\0\1\0\x60MTrk\0\0\0"s + static_cast<char>(track.size()) + track;
 }
 
 bool Soon(const std::function<bool()>& question) {

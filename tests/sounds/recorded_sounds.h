@@ -18,6 +18,8 @@ namespace trameli {
 /// Sound of one channel, 44100 samples a second.
 using Samples = std::vector<std::int16_t>;
 
+/// A whole number as sound files hold it, its lowest byte first.
+std::string Little(std::uint32_t number, int bytes);
 /// A wave file of 16 bits, mono, that holds `sound`.
 std::string WaveOf(const Samples& sound);
 /// The samples of a file that WaveOf could have made.
@@ -42,9 +44,9 @@ protected:
     RecordedSounds();
     ~RecordedSounds() override;
 
-    void Play(MixerOptions options = {}) { Sounds.emplace(Files(), std::move(options)); }
-    LocalFileSystem Files() const {
-        return LocalFileSystem(folder_.Path() / "data", folder_.Path());
+    void Play(MixerOptions options = {}) {
+        Sounds.emplace(LocalFileSystem(folder_.Path() / "data", folder_.Path()),
+                       std::move(options));
     }
     /// Makes a file of the program folder, "P:\NAME".
     void Put(const std::string& name, const std::string& bytes) const;
