@@ -1,4 +1,4 @@
-// The places of walls, as lines and as bars.
+// The places of walls as lines, and the order of bars; their places are seen in whole games.
 #include <gtest/gtest.h>
 
 #include "drawing/muri_a_barre.h"
@@ -26,13 +26,6 @@ TEST(MuriALinee, RunFromCornerToCornerAndGrowAlongThemselves) {
     constexpr Misure grandi{32767, 32767, -32768, 7};
     EXPECT_EQ(SegmentoMuro({3, 2}, Lato::Basso, grandi, 0),
               (Segmento{{32767, 32767}, {32767, 32767}}));
-}
-
-TEST(MuriABarre, LieCentredOnTheirWalls) {
-    // Odd: a third of 761 is 253, half of that 126, a sixth 126.
-    constexpr Misure dispari{761, 100, 200, 7};
-    EXPECT_EQ(PostoBarra({2, 3}, Lato::Basso, dispari), (Bounds{1496, 1596, 1014, 253}));
-    EXPECT_EQ(PostoBarra({2, 4}, Lato::Sinistra, dispari), (Bounds{2257, 835, 253, 1014}));
 }
 
 TEST(MuriABarre, OneForEachWallInFourPasses) {

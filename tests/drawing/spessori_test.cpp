@@ -17,7 +17,7 @@ TEST(Spessori, ArePartsOfTheCellInWholePixels) {
         // A cell of 50 pixels.
         {3, 750, 15, Pareti::Linee, {16, 7, 43}},
         // Between bars two thirds: 50 \ 3 is 16, and the walls' own thickness has no part in it.
-        {5, 750, 15, Pareti::Barre, {7, 16, 34}},
+        {0, 750, 15, Pareti::Barre, {5, 5, 34}},
         // Whole pixels first: 764 / 15 is 50.9, and 51 would make the walls 17 pixels thick.
         {2, 764, 15, Pareti::Linee, {16, 16, 34}},
         // 750 / 8 is 93.75: 93 pixels, 93 / 7 is 13.3 and 93 / 3 is 31.

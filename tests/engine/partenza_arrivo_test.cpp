@@ -82,8 +82,8 @@ TEST(SpessoreMuri, IsRoundedBeforeItIsHalved) {
         int SinistraATempo;
         int LatoImmagine;
     } const casi[] = {
-        {0, {1840, 1951}, 6051, 400},   {1, {1840, 1951}, 6052, 398},
-        {2.5, {1841, 1952}, 6054, 398}, {3.5, {1842, 1953}, 6054, 396},
+        {0, {1840, 1951}, 6051, 400},  {2.5, {1841, 1952}, 6054, 398},
+        {3, {1841, 1952}, 6054, 398},  {3.5, {1842, 1953}, 6054, 396},
         {12, {1846, 1957}, 6063, 392},
     };
     for (const auto& [spessore, immagine, sinistraATempo, latoImmagine] : casi) {
