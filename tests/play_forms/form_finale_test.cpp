@@ -4,7 +4,6 @@
 #include <QTest>
 #include <QWindow>
 
-#include "base/griglie.h"
 #include "play_forms/finale.h"
 
 namespace trameli {
@@ -81,6 +80,12 @@ TEST_F(FormFinaleTest, ClosedInTheFirstSecondIsGone) {
     EXPECT_FALSE(Programma().Ended());
 }
 
+TEST_F(FormFinaleTest, ProgramEndedInTheFirstSecondRunsNothingMore) {
+    Avvia();
+    Tempo.In(0.5, [&] { Programma().End(); });
+    EXPECT_FALSE(Mostra().Command1.Enabled());
+}
+
 TEST_F(FormFinaleTest, ComingBackToTheFrontStartsNothingAnew) {
     Stato.ModoInput = ScansioneAutomatica;
     Avvia();
@@ -103,30 +108,19 @@ TEST_F(FormFinaleTest, ComingBackToTheFrontStartsNothingAnew) {
 
 // Where the buttons lead.
 
-TEST_F(FormFinaleTest, StaysAtTheLevelOrGoesToTheNextWithItsGrid) {
-    constexpr DimensioniGriglia prima{33, 44};
-    for (const std::int16_t livello : std::initializer_list<std::int16_t>{4, 7, 8}) {
-        for (const bool avanti : {false, true}) {
-            SCOPED_TRACE(testing::Message() << livello << (avanti ? ", on" : ", stay"));
-            Stato.Livello = livello;
-            Stato.RigheGriglia = prima.Righe;
-            Stato.ColonneGriglia = prima.Colonne;
-            Stato.TrameloDisegnato = true;
-            FormFinale& form = AvviaEMostra();
-            // Sounds may have been on when the piece began.
-            Stato.SuoniAttivi = avanti;
-            Uditi.Asked.clear();
-            ClickOn(avanti ? form.Command2 : form.Command1);
-            EXPECT_FALSE(Aperto("FormFinale"));
-            EXPECT_EQ(Uditi.Asked, Richieste{"close"});
-
-            const int dopo = livello + (avanti ? 1 : 0);
-            EXPECT_EQ(Stato.Livello, dopo);
-            EXPECT_TRUE(Aperto(dopo < 5 ? "frmTrm0" : dopo < 8 ? "frmTrm1" : "frmTrm3"));
-            EXPECT_EQ(Stato.TrameloDisegnato, !avanti);
-            EXPECT_EQ((DimensioniGriglia{Stato.RigheGriglia, Stato.ColonneGriglia}),
-                      avanti && dopo >= 8 ? DimensioniDi(dopo) : prima);
-        }
+TEST_F(FormFinaleTest, GoesToANewMazeOrBackToTheOldOneAndEndsTheMusic) {
+    for (const bool avanti : {false, true}) {
+        Stato.Livello = 8;
+        Stato.TrameloDisegnato = true;
+        FormFinale& form = AvviaEMostra();
+        Stato.SuoniAttivi = avanti;  // they may have been on when the piece began
+        Uditi.Asked.clear();
+        ClickOn(avanti ? form.Command2 : form.Command1);
+        EXPECT_FALSE(Aperto("FormFinale"));
+        EXPECT_TRUE(Aperto("frmTrm3"));
+        EXPECT_EQ(Uditi.Asked, Richieste{"close"});
+        EXPECT_EQ(Stato.Livello, avanti ? 9 : 8);
+        EXPECT_EQ(Stato.TrameloDisegnato, !avanti);
     }
 }
 
