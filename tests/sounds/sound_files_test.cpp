@@ -13,7 +13,7 @@ std::string With(std::size_t place, const std::string& bytes) {
     return Tone(PitchA, 1).replace(place, bytes.size(), bytes);
 }
 
-TEST(PlainWaves, AreAllThatIsHandedOn) {
+TEST(PlainFiles, AreAllThatIsHandedOn) {
     // The sound library would play some of them.
     const struct {
         const char* Name;
@@ -46,6 +46,8 @@ TEST(PlainWaves, AreAllThatIsHandedOn) {
     wave.insert(36, "LIST" + Little(3, 4) + "abc" + std::string(1, '\0'));
     wave.insert(12, "JUNK" + Little(4, 4) + "abcd");
     EXPECT_TRUE(IsPlainWave(wave)) << "chunks of other kinds may come between";
+    EXPECT_TRUE(IsMidi(Tune(1, 1)));
+    EXPECT_FALSE(IsMidi(wave));
 }
 
 using SoundFiles = RecordedSounds;
