@@ -73,6 +73,13 @@ TEST_F(ModuloPerIniTest, AFileThatCannotBeReadIsNotReplaced) {
     EXPECT_EQ(Testo(Lette()), DiAnna);
     SalvaAltre();
     EXPECT_EQ(File.Contenuto(FileDiAnna), Testo(altre));
+    // What this run once knew it may replace, whatever came between.
+    File.Illeggibili.insert(Maiuscolo(FileDiAnna));
+    Modulo.LeggiUtente();
+    EXPECT_EQ(Lette(), Impostazioni());
+    File.Illeggibili.clear();
+    Modulo.ScriviUtente();
+    EXPECT_EQ(File.Contenuto(FileDiAnna), DiAnna);
 }
 
 TEST_F(ModuloPerIniTest, AFileThatTurnsUpAfterItWasMissedIsNotReplaced) {
