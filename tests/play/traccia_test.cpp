@@ -15,7 +15,7 @@ Punto PuntoNumero(int i) {
 TEST(Traccia, IsFullWithAThousandPointsAndThenLosesTheOldest) {
     Traccia traccia;
     traccia.Alloca(3, 4);
-    traccia.Attraversa({3, 4, 1});
+    EXPECT_TRUE(traccia.Attraversa({3, 4, 1}));  // the last one that there is room for
     traccia.Comincia(PuntoNumero(0));
     for (int i = 1; i <= 1002; ++i) {
         traccia.Aggiungi(PuntoNumero(i), i);
