@@ -5,7 +5,6 @@
 namespace trameli {
 namespace {
 
-// The divisors of the combinations are seen in the pictures of the game.
 TEST(Spessori, ArePartsOfTheCellInWholePixels) {
     struct {
         int SpessoreLinee;
@@ -15,7 +14,13 @@ TEST(Spessori, ArePartsOfTheCellInWholePixels) {
         Spessori Attesi;
     } const casi[] = {
         // A cell of 50 pixels.
+        {0, 750, 15, Pareti::Linee, {5, 5, 45}},
+        {1, 750, 15, Pareti::Linee, {10, 10, 40}},
+        {2, 750, 15, Pareti::Linee, {16, 16, 34}},
         {3, 750, 15, Pareti::Linee, {16, 7, 43}},
+        {4, 750, 15, Pareti::Linee, {10, 5, 45}},
+        {5, 750, 15, Pareti::Linee, {7, 16, 34}},
+        {6, 750, 15, Pareti::Linee, {5, 10, 40}},
         // Between bars two thirds: 50 \ 3 is 16, and the walls' own thickness has no part in it.
         {0, 750, 15, Pareti::Barre, {5, 5, 34}},
         // Whole pixels first: 764 / 15 is 50.9, and 51 would make the walls 17 pixels thick.
