@@ -134,6 +134,25 @@ TEST_F(Barre, WithLinesThereAreNoneUntilTheChangeWhichRestartsTheMaze) {
     EXPECT_EQ(tavolo.Passi(), 1);
 }
 
+TEST_F(Barre, LeaveTwoThirdsOfACellForWholeCells) {
+    const Tavolo tavolo = Apri(0, true);
+    const Posto partenza = tavolo.Partenza();
+    const int dentro = Contrario(partenza.Lato);
+    Cambia(tavolo);
+    Tap(tavolo.Form_, Qt::Key_C, Qt::ControlModifier);
+    tavolo.Cammina({dentro, dentro});
+    const Vista vista = tavolo.Guarda();
+    // Across the way, from a corner towards the middle, where this level has no walls.
+    const bool lungoX = dentro == Su || dentro == Giu;
+    const double versoX = lungoX ? (partenza.Colonna == 1 ? 1 : -1) : 0;
+    const double versoY = lungoX ? 0 : (partenza.Riga == 1 ? 1 : -1);
+    for (const auto& [parte, riga] : {std::pair{0.3, RigaAvanti}, std::pair{0.37, RigaSfondo}}) {
+        EXPECT_EQ(vista.Fra(partenza.Riga, partenza.Colonna, versoX * parte, versoY * parte),
+                  tavolo.Colore(riga))
+            << parte;
+    }
+}
+
 TEST_F(Barre, AClickOnOneTakesTheKeyboardFromNobody) {
     const Tavolo tavolo = Apri(0);
     const QWidget* const prima = WindowOf(tavolo.Form_).focusWidget();
