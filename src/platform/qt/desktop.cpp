@@ -29,6 +29,9 @@ namespace trameli {
 
 namespace {
 
+/// By then the first window is on the screen of most machines.
+constexpr std::chrono::milliseconds FirstPicture{100};
+
 class DesktopTicker final : public Clock::Ticker {
 public:
     DesktopTicker(int milliseconds, std::function<void()> tick) : tick_(std::move(tick)) {
@@ -131,7 +134,9 @@ Desktop::Desktop(int& argc, char** argv) {
     QApplication::setDesktopFileName(QStringLiteral("trameli"));
     services_ = std::make_unique<Services>(argc, argv);
     PrepareToolkit();
-    QApplication::setWindowIcon(WindowIcon());
+    // Drawing the icon and having it framed would only hold up the first window.
+    QTimer::singleShot(FirstPicture, &services_->Application,
+                       [] { QApplication::setWindowIcon(WindowIcon()); });
 }
 
 Desktop::~Desktop() = default;
