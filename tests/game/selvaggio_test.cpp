@@ -21,7 +21,7 @@ namespace {
 #ifdef __SANITIZE_ADDRESS__
 constexpr int LabirintiInTutto = 10000;
 #else
-constexpr int LabirintiInTutto = 4000;
+constexpr int LabirintiInTutto = 2000;
 #endif
 constexpr int Giocatori = 4;
 
