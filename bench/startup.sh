@@ -6,7 +6,7 @@ set -euo pipefail
 cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.."
 
 probe=build/bench/probes/startup_probe
-rounds=${STARTUP_ROUNDS:-11}
+rounds=${STARTUP_ROUNDS:-31}
 idle=${STARTUP_IDLE:-10}
 scratch=$(mktemp -d)
 server=
