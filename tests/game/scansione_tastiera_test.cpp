@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QMenu>
 #include <QMenuBar>
 #include <functional>
 #include <vector>
@@ -50,6 +51,18 @@ TEST_P(OgniTastiera, TheTimerTakesTheKeyboardFromNoMenuAndNoOtherProgram) {
     menu->close();
     barra->clearFocus();
 
+    // A menu that the mouse opens leaves the focus where it was.
+    auto& labirinto = Trova<PictureBox>(tavolo.Form_, "pictureTramelo");
+    ClickOn(labirinto);
+    QMenu delMouse(&WindowOf(tavolo.Form_));
+    delMouse.addAction("Voce");
+    delMouse.popup({10, 10});
+    Pump();
+    ASSERT_EQ(QApplication::activePopupWidget(), &delMouse);
+    Tic(2);
+    EXPECT_TRUE(WidgetOf(labirinto).hasFocus());
+    delMouse.close();
+
     QWidget altro;
     altro.show();
     altro.activateWindow();
@@ -62,7 +75,7 @@ TEST_P(OgniTastiera, TheTimerTakesTheKeyboardFromNoMenuAndNoOtherProgram) {
     EXPECT_TRUE(ImmagineTasti(tavolo.Form_).hasFocus());
 }
 
-TEST_P(OgniTastiera, AfterASolvedMazeTheGameGoesOnWhateverAHelperDid) {
+TEST_P(OgniTastiera, ASolvedMazeIsFollowedByTheNextWhateverHappensInBetween) {
     const auto [livello, modo] = GetParam();
     const Tavolo tavolo = Apri(livello, modo);
     const auto clic = [&] { ClickOn(Trova<PictureBox>(tavolo.Form_, "pictureTramelo")); };

@@ -130,11 +130,14 @@ TEST(FileUtente, NumbersAreConverted) {
     }
 }
 
+/// Texts for one line of a file.
+struct ValoriDi {
+    std::size_t Riga;
+    std::vector<const char*> Valori;
+};
+
 TEST(FileUtente, OnlyTheValueOutsideItsRangeIsDefaulted) {
-    const struct {
-        std::size_t Riga;
-        std::vector<const char*> Valori;
-    } casi[] = {
+    const ValoriDi casi[] = {
         {1, {"16", "-1", "15.5", "32767", "-32768"}},
         {5, {"16777216", "-1", "254.5", "1e300"}},
         {6, {"16777216", "-1"}},
@@ -156,10 +159,7 @@ TEST(FileUtente, OnlyTheValueOutsideItsRangeIsDefaulted) {
 }
 
 TEST(FileUtente, WhatIsNoNumberSpoilsTheRecord) {
-    const struct {
-        std::size_t Riga;
-        std::vector<const char*> Valori;
-    } casi[] = {
+    const ValoriDi casi[] = {
         {1,
          {"", "32768", "-32769", "32767.5", "4294967299", "1e400", "tre", "3tre", "3;4", "\"3\"",
           "0x3", "+-3", "+", "-", "- 3", "\xEF\xBB\xBF 3 "}},
