@@ -4,6 +4,8 @@
 
 #include <cstdint>
 
+#include "base/combinazioni_spessori.h"
+
 namespace trameli {
 
 /// What walls are made of: lines of a pen, or bars a third of a cell thick.
@@ -17,9 +19,6 @@ struct Spessori {
 
     bool operator==(const Spessori&) const = default;
 };
-
-/// How many combinations of wall and trace there are; `SpessoreLinee` is 0 to one less.
-inline constexpr std::int16_t NumeroSpessori = 7;
 
 /// The thicknesses of a combination in cells of `dimensioneCella` twips. A combination that does
 /// not exist throws std::out_of_range.
