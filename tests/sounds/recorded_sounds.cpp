@@ -16,34 +16,21 @@ constexpr int Rate = 44100;
 constexpr std::size_t Window = Rate / 50;
 constexpr std::size_t WaveHeader = 44;
 
-/// How much of a pitch a window holds, by Goertzel's way: 1 for nothing else.
-double ShareOf(double pitch, const std::int16_t* window, double energy) {
-    const double turn = 2 * std::cos(2 * std::numbers::pi * pitch / Rate);
-    double last = 0;
-    double beforeLast = 0;
-    for (std::size_t i = 0; i < Window; ++i) {
-        const double now = window[i] + turn * last - beforeLast;
-        beforeLast = last;
-        last = now;
-    }
-    const double power = last * last + beforeLast * beforeLast - turn * last * beforeLast;
-    return 2 * power / static_cast<double>(Window) / energy;
-}
-
+/// Tells the pitches apart by how often they pass through zero.
 char LetterOf(const std::int16_t* window) {
-    double energy = 0;
-    for (std::size_t i = 0; i < Window; ++i) {
-        energy += static_cast<double>(window[i]) * window[i];
+    int loudest = 0;
+    double crossings = 0;
+    for (std::size_t i = 1; i < Window; ++i) {
+        loudest = std::max(loudest, std::abs(window[i]));
+        crossings += (window[i - 1] < 0) != (window[i] < 0);
     }
-    if (energy < 30.0 * 30.0 * Window) {
+    if (loudest < 50) {
         return '.';
     }
-    const double a = ShareOf(PitchA, window, energy);
-    const double b = ShareOf(PitchB, window, energy);
-    if (std::max(a, b) < 0.3 || std::min(a, b) * 4 > std::max(a, b)) {
-        return '?';
-    }
-    return a > b ? 'A' : 'B';
+    const auto isPitch = [&](double pitch) {
+        return std::abs(crossings - 2 * pitch * Window / Rate) < 2.5;
+    };
+    return isPitch(PitchA) ? 'A' : isPitch(PitchB) ? 'B' : '?';
 }
 
 }  // namespace
@@ -112,6 +99,12 @@ RecordedSounds::RecordedSounds() {
 
 RecordedSounds::~RecordedSounds() {
     Sounds.reset();  // before the folder
+}
+
+void RecordedSounds::PlayMusic(const std::string& path) {
+    Sounds->CloseMusic();
+    Sounds->OpenMusic(path);
+    Sounds->PlayMusic();
 }
 
 void RecordedSounds::Put(const std::string& name, const std::string& bytes) const {
