@@ -41,69 +41,49 @@ TEST_F(PictureTest, ControlsHaveTheirColoursAndArePaleWhereDisabled) {
         SCOPED_TRACE(control->Name());
         control->Font(Large);
         control->BackColor(White);
-        EXPECT_GT(Share(Look(*control), White), 0.6);
-        const long black = Count(Look(*control), Black);
-        EXPECT_GT(black, 50);
         control->ForeColor(Odd);
+        EXPECT_GT(Share(Look(*control), White), 0.6);
         EXPECT_GT(Count(Look(*control), Odd), 50);
         control->ForeColor(Black);
-        if (control != &frame) {
-            control->Enabled(false);
-            EXPECT_EQ(Count(Look(*control), Black), 0) << "disabled texts are pale";
-            control->Enabled(true);
-        }
-        control->Font({"Arial", 12, true});
-        EXPECT_LT(Count(Look(*control), Black), black);
+        control->Enabled(control == &frame);
+        EXPECT_EQ(Count(Look(*control), Black) > 0, control == &frame);
         control->Visible(false);
     }
+    frame.Visible(true);
+    frame.Border(false);
+    EXPECT_EQ(Share(Look(frame), White), 1) << "without a border there is no caption either";
 }
 
 TEST_F(PictureTest, TextStandsWhereItsAlignmentSays) {
     Bring();
     Label label(TheForm, "Label", {300, 300, 4500, 1500}, "Text");
-    label.BackColor(White);
     label.Font(Large);
-    const auto blackColumn = [&](bool last) {
-        const QImage image = Look(label);
-        for (int i = 0; i < image.width(); ++i) {
-            const int x = last ? image.width() - 1 - i : i;
-            if (Count(image.copy(x, 0, 1, image.height()), Black) > 0) {
-                return x;
-            }
-        }
-        return -1;
+    const auto inked = [&](const QRect& where) {
+        return Count(Look(label).copy(where), Black) > 0;
     };
-    label.TextAlignment(Alignment::Left);
-    EXPECT_LT(blackColumn(false), 10);
-    label.TextAlignment(Alignment::Right);
-    EXPECT_GT(blackColumn(true), 300 - 10);
-    label.TextAlignment(Alignment::Centre);
-    EXPECT_NEAR((blackColumn(false) + blackColumn(true)) / 2.0, 150, 5);
-    label.TextAlignment(Alignment::Left);
+    for (const Alignment alignment : {Alignment::Left, Alignment::Centre, Alignment::Right}) {
+        label.TextAlignment(alignment);
+        EXPECT_EQ(inked({0, 0, 20, 100}), alignment == Alignment::Left);
+        EXPECT_EQ(inked({140, 0, 20, 100}), alignment == Alignment::Centre);
+        EXPECT_EQ(inked({280, 0, 20, 100}), alignment == Alignment::Right);
+    }
     label.Caption("<b>i</b>");
-    EXPECT_GT(blackColumn(true), 50) << "markup is text";
+    EXPECT_TRUE(inked({200, 0, 50, 100})) << "markup is text";
     label.Caption("many words that do not fit into one line");
-    EXPECT_GT(Count(Look(label).copy(0, 50, 300, 50), Black), 50) << "it wraps at its width";
+    EXPECT_TRUE(inked({0, 50, 300, 50})) << "it wraps at its width";
 }
 
 TEST_F(PictureTest, TransparentLabelLetsTheFormsDrawingShow) {
     Bring();
-    Surface& canvas = TheForm.Canvas();
-    canvas.FillBox(0, 0, 9000, 9000, Odd);
-    canvas.DrawLine(0, 450, 9000, 450, Black);
-    Label label(TheForm, "Label", {300, 300, 3000, 600}, "");
+    TheForm.Canvas().FillBox(0, 0, 9000, 9000, Odd);
+    Label label(TheForm, "Label", {300, 300, 3000, 600}, "Text");
     label.Font(Large);
     EXPECT_EQ(Count(Look(label), Odd), 0);
     label.Transparent(true);
-    EXPECT_EQ(Count(Look(label), Black), 200);
-    EXPECT_EQ(Count(Look(label), Odd), 200 * 39);
-    label.Caption("Text");
-    label.ForeColor(White);
-    EXPECT_GT(Count(Look(label), White), 10);
+    EXPECT_GT(Count(Look(label), Black), 10);
     EXPECT_GT(Share(Look(label), Odd), 0.8);
-    // So does what comes under it later; a new ground takes the drawing.
-    TheForm.BackColor(Black);
-    EXPECT_GT(Share(Look(label), Black), 0.8);
+    TheForm.BackColor(White);
+    EXPECT_GT(Share(Look(label), White), 0.8) << "a new ground takes the drawing";
 }
 
 TEST_F(PictureTest, ImageIsStretchedAndItsTransparentPartsShowTheDrawing) {
@@ -119,53 +99,30 @@ TEST_F(PictureTest, ImageIsStretchedAndItsTransparentPartsShowTheDrawing) {
     const QImage again = wide.scaled(square.size(), Qt::IgnoreAspectRatio, Qt::FastTransformation);
     EXPECT_LT(Differences(again, square), square.width() * square.height() / 3);
     EXPECT_NEAR(Share(wide, Odd), Share(square, Odd), 0.05);
-    for (const char* none : {"", "no/such.svg"}) {
-        image.Picture({none});
-        EXPECT_EQ(Share(Look(image), Odd), 1);
-    }
-    image.Picture({"sole.svg"});
-    EXPECT_EQ(Differences(Look(image), wide), 0);
+    image.Picture({"no/such.svg"});
+    EXPECT_EQ(Share(Look(image), Odd), 1);
 }
 
 TEST_F(PictureTest, ShapesAndLinesLieUnderTheControls) {
     Bring();
     Label label(TheForm, "Label", {2850, 600, 900, 900}, "");
     label.BackColor(White);
-    Shape shape(TheForm, "Shape", {300, 300, 3000, 1500}, 4, Odd);
-    const QImage outline = Look(shape);
-    EXPECT_EQ(Count(outline, Odd), 200 * 100 - 192 * 92 - 4 * 60);
-    EXPECT_EQ(outline.pixel(0, 0), PixelOf(Odd));
-    shape.BorderColor(Black);
+    Shape shape(TheForm, "Shape", {300, 300, 3000, 1500}, 4, Black);
     EXPECT_EQ(Count(Look(shape), Black), 200 * 100 - 192 * 92 - 4 * 60);
-
     Line line(TheForm, "Line", 300, 900, 3300, 900, 3, Odd);
-    EXPECT_EQ(Count(Look(label), White), 60 * 60) << "both go under the label";
     const auto lineSeen = [&] { return static_cast<double>(Count(Shot(TheForm), Odd)); };
     EXPECT_NEAR(lineSeen(), 3 * (200 - 30), 20);
     line.Ends(300, 2400, 3300, 2400);
-    EXPECT_NEAR(lineSeen(), 3 * 200, 20);
     line.BorderWidth(9);
     EXPECT_NEAR(lineSeen(), 9 * 200, 60);
-    line.BorderColor(Rgb(1, 2, 3));
-    EXPECT_EQ(lineSeen(), 0);
-}
-
-TEST_F(PictureTest, FrameHasItsBorderOrNot) {
-    Bring();
-    Frame frame(TheForm, "Frame", {300, 300, 3000, 1500}, "Caption");
-    frame.BackColor(White);
-    EXPECT_LT(Share(Look(frame), White), 0.99);
-    frame.Border(false);
-    EXPECT_EQ(Share(Look(frame), White), 1) << "without a border there is no caption either";
 }
 
 TEST_F(PictureTest, StatusBarKeepsItsPanelsInANarrowWindow) {
     StatusBar bar(TheForm, "Bar", 1500, {"one", "two", "three"});
-    bar.Panel(3, "3 <b>");
-    EXPECT_EQ(bar.Panel(1) + bar.Panel(2) + bar.Panel(3), "onetwo3 <b>");
     Bring();
     WindowOf(TheForm).resize(120, 300);
     Pump();
+    EXPECT_EQ(WidgetOf(bar).geometry().bottom(), 299);
     for (const QWidget* panel : WidgetOf(bar).findChildren<QWidget*>()) {
         EXPECT_TRUE(WidgetOf(bar).rect().contains(panel->geometry()));
     }
