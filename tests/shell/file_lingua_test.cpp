@@ -1,0 +1,114 @@
+// What is read from the bytes of language and initialisation files.
+#include "shell/file_lingua.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace trameli {
+namespace {
+
+using namespace std::string_literals;
+
+/// What the key K of the section S has for its value.
+struct Caso {
+    std::string Byte;
+    std::string Valore;
+};
+
+const std::vector<Caso> Piccoli{
+    {"[S]\nK=\"a\"", "a"},
+    {"[S]\r\nK=\"a\"\r\n", "a"},
+    {"[S]\rK=\"a\"\rL=\"b\"", "a"},
+    {" [ s ] \n\t k = \"a\" \t\n", "a"},  // case and blanks round the parts do not matter
+    {"[S]\nK=a b", "a b"},
+    {"[S]\nK=\" a \"", " a "},
+    {"[S]\nK=\"a\"\"b=c\"", "a\"\"b=c"},
+    {"[S]\nK=\"a", "\"a"},
+    {"[S]\nK=a\"", "a\""},
+    {"[S]\nK=\"", "\""},
+    {"[S]\nK=", ""},
+    {"[S]\nK\n=\"x\"\n[\n]\n;K=\"x\"\nKK=\"x\"\nK=\"a\"", "a"},  // lines that say nothing
+    {"K=\"x\"\n[T]\nK=\"x\"\n[S]\nK=\"a\"\nK=\"x\"\n[S]\nK=\"x\"", "a"},
+    {"[S]\n[T]\n[S]\nK=\"a\"", "a"},
+    {"[S\nK=\"x\"", ""},
+    {"", ""},
+    // Up to the first zero character, at most 511 characters.
+    {"[S]\nK=\"a\0b\""s, "a"},
+    {"\0[S]\n[S]\nK=\"a\""s, "a"},
+    {"[S]\nK=\"" + std::string(512, 'a') + "\"", std::string(511, 'a')},
+    {"[S]\nK=\"" + std::string(510, 'a') + "\xC3\xA8\xC3\xA8\"",
+     std::string(510, 'a') + "\xC3\xA8"},
+    // UTF-8 with or without a mark, else Windows-1252.
+    {"\xEF\xBB\xBF[S]\nK=\"perch\xC3\xA9\"", "perch\xC3\xA9"},
+    {"[S]\nK=\"perch\xE9 \x80\x9F\"", "perch\xC3\xA9 \xE2\x82\xAC\xC5\xB8"},
+    {"\xEF\xBB\xBF[S]\nK=\"\xE9\"", "\xC3\xA9"},
+    {"[S]\nK=\"\xED\xA0\x80\"", "\xC3\xAD\xC2\xA0\xE2\x82\xAC"},  // half of a pair
+    {"[S]\nK=\"\xF0\x9F\x8F\x86 \xE2\x9C\x93\"", "\xF0\x9F\x8F\x86 \xE2\x9C\x93"},
+    {"[S]\nK=\"\xC0\xAF\"", "\xC3\x80\xC2\xAF"},  // longer than need be
+    {"[S]\nK=\"\xC3", "\"\xC3\x83"},              // cut off
+};
+
+TEST(FileLingua, GivesWhatCanBeRead) {
+    for (const Caso& caso : Piccoli) {
+        EXPECT_EQ(FileLingua(caso.Byte).Valore("S", "K"), caso.Valore) << caso.Byte;
+    }
+}
+
+/// The same text in a file of so many bytes.
+std::string Lungo(const std::string& testo, std::size_t lunghezza) {
+    return testo + "\n" + std::string(lunghezza - testo.size() - 1, '\n');
+}
+
+TEST(FileLingua, LosesItsSectionsWhereItIsLong) {
+    const std::string normale = "[T]\r\nK=\"a\xC3\xA8\"\r\n[S]\r\nK=\"b\"\r\nL=\" c \" \r\n";
+    const FileLingua piccolo(Lungo(normale, 64000));
+    const FileLingua grande(Lungo(normale, 64001));
+    EXPECT_EQ(piccolo.Valore("S", "L"), " c ");
+    EXPECT_EQ(grande.Valore("S", "L"), " c ");
+    EXPECT_EQ(piccolo.Valore("S", "K"), "b");
+    EXPECT_EQ(grande.Valore("S", "K"), "a\xC3\xA8");
+
+    const std::string sparso = "KK=\"a\"\n K=\"b\"\nM(x\xC3\xA8y\xC3\xA8\nN=\"" +
+                               std::string(600, 'a') + "\"\nO\nP=\nQ=\xC3\xA8\nR=\"a\0b\"\n"s;
+    const std::vector<std::pair<std::string, std::string>> valori{
+        {"K", "\"a"},  // the longer key begins with it, and comes first
+        {"k", ""},    {"M", "\xC3\xA8y"}, {"N", std::string(600, 'a')},
+        {"O", ""},    {"P", ""},          {"Q", ""},
+        {"R", "a"},   {"Z", ""}};
+    const FileLingua file(Lungo(sparso, 64001));
+    for (const auto& [chiave, valore] : valori) {
+        EXPECT_EQ(file.Valore("S", chiave), valore) << chiave;
+    }
+}
+
+TEST(FileLingua, IsReadAsFarAsItsLimit) {
+    std::string file = "K=\"\xC3\xA9\"\n";
+    while (file.size() < FileLingua::LimiteLettura) {
+        file += "L=\"\xC3\xA9\"\n";  // one of them lies across the limit
+    }
+    file += "M=\"a\"\n";
+    const FileLingua letto(file);
+    EXPECT_EQ(letto.Valore("S", "K"), "\xC3\xA9");
+    EXPECT_EQ(letto.Valore("S", "M"), "");
+    EXPECT_EQ(FileLingua(std::string(FileLingua::LimiteLettura, 'K')).Valore("S", "K"), "");
+}
+
+TEST(FileLingua, TakesAValueAndKeepsTheRest) {
+    const std::vector<Caso> casi{
+        {"", "[S]\r\nK=v\r\n"},
+        {"[S]\nK=\"a\"\nL=b", "[S]\nK=v\nL=b"},
+        {"[T]\r\nK=a\r\n[s]\r\nk = a\r\nK=a\r\n", "[T]\r\nK=a\r\n[s]\r\nk =v\r\nK=a\r\n"},
+        {"[S]\nL=b\n\n[T]\nK=a\n", "[S]\nL=b\r\nK=v\n\n[T]\nK=a\n"},
+        {"; mine\nK=a", "; mine\nK=a\r\n[S]\r\nK=v\r\n"},
+        {"[S]\nL=\xE9", "[S]\nL=\xC3\xA9\r\nK=v"},
+    };
+    for (const Caso& caso : casi) {
+        EXPECT_EQ(ConValore(caso.Byte, "S", "K", "v"), caso.Valore) << caso.Byte;
+    }
+}
+
+}  // namespace
+}  // namespace trameli
