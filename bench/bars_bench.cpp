@@ -14,8 +14,8 @@
 #include "platform/control_array.h"
 #include "platform/forms.h"
 #include "platform/picture_box.h"
-#include "platform/qt/desktop_services.h"
 #include "platform/qt/native.h"
+#include "platform/qt/toolkit.h"
 
 namespace trameli {
 namespace {
@@ -31,7 +31,6 @@ class BenchScreen final : public Screen {
 public:
     PixelSize Size() const override { return {1920, 1080}; }
     PixelSize Available() const override { return Size(); }
-    bool HasDesktop() const override { return false; }
 };
 
 /// A full HD window with nothing but the playing surface and the bars.

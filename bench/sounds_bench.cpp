@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <cstdlib>
 
+#include "platform/qt/environment.h"
 #include "platform/qt/local_file_system.h"
 #include "platform/qt/mixer_sounds.h"
 #include "platform/qt/surface_native.h"

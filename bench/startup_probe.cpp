@@ -105,8 +105,7 @@ int main(int argc, char** argv) {
         Report([&] { return window.Painted; }, idleSeconds);
     }
     const trameli::Desktop desktop(argc, argv);
-    trameli::Program program(desktop.Clock(), desktop.Screen(), desktop.FileSystem(),
-                             desktop.Dialogs(), desktop.Instances(), desktop.Sounds());
+    trameli::Program program(desktop.Services());
     if (!program.Main()) {
         std::fputs("another instance runs\n", stderr);
         return 1;

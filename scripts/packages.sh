@@ -8,10 +8,10 @@
 # fonts and of the sound mixer.
 packages_build=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libxcb1-dev libfontconfig-dev
     libsdl2-mixer-dev)
-# What the game loads while it runs: window plugins, the mixer, instruments for its music, and the
-# fonts that stand in for Comic Sans MS and Arial.
-packages_run=(qt6-qpa-plugins libqt6svg6 libsdl2-mixer-2.0-0 timgm6mb-soundfont
-    fonts-comic-neue fonts-liberation)
+# What the game loads while it runs: window plugins, the toolkit's own texts, the mixer, instruments
+# for its music, and the fonts that stand in for Comic Sans MS and Arial.
+packages_run=(qt6-qpa-plugins qt6-translations-l10n libqt6svg6 libsdl2-mixer-2.0-0
+    timgm6mb-soundfont fonts-comic-neue fonts-liberation)
 # Only for a session that has Wayland and no X11.
 packages_wayland=(qt6-wayland)
 # Only where there is no display: a virtual one with a window manager.
@@ -41,7 +41,7 @@ tell_needs() {
 $1
 
 Needed are a C++20 compiler, CMake 3.25 or later, Ninja, Qt 6.4 or later with Widgets, Svg and
-its X11 or Wayland plugin, libxcb, Fontconfig, and SDL2_mixer 2.6 or later with FluidSynth; the
+its X11 or Wayland plugin and its translations, libxcb, Fontconfig, and SDL2_mixer 2.6 or later with FluidSynth; the
 fonts Comic Neue and Liberation Sans (or Comic Sans MS and Arial); for the music a General MIDI
 soundfont; without a display also TigerVNC's X server and the window manager openbox; for tests and
 benchmarks GoogleTest, Google Benchmark, Xvfb, openbox and xdotool.

@@ -4,8 +4,7 @@
 
 int main(int argc, char** argv) {
     const trameli::Desktop desktop(argc, argv);
-    trameli::Program program(desktop.Clock(), desktop.Screen(), desktop.FileSystem(),
-                             desktop.Dialogs(), desktop.Instances(), desktop.Sounds());
+    trameli::Program program(desktop.Services());
     if (program.Main()) {
         program.Run();
     }

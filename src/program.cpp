@@ -14,21 +14,22 @@
 
 namespace trameli {
 
-Program::Program(Clock& clock, Screen& screen, FileSystem& fileSystem, Dialogs& dialogs,
-                 Instances& instances, Sounds& sounds, std::unique_ptr<Casuale> casuale)
-    : dialogs_(dialogs),
-      instances_(instances),
+Program::Program(const Services& services, std::unique_ptr<Casuale> casuale)
+    : services_(services),
       casuale_(std::move(casuale)),
-      moduloPerIni_(stato_, fileSystem, dialogs, lingue_),
-      suoni_(stato_, sounds),
-      servizi_{stato_, lingue_, moduloPerIni_, fileSystem, suoni_},
-      forms_(clock, screen) {
+      moduloPerIni_(stato_, services_.FileSystem, services_.Dialogs, lingue_),
+      suoni_(stato_, services_.Sounds),
+      moduloNavigate_(stato_, services_.FileSystem, services_.Documents),
+      servizi_{stato_, lingue_,         moduloPerIni_,    services_.FileSystem,
+               suoni_, moduloNavigate_, services_.Dialogs},
+      forms_(services_.Clock, services_.Screen) {
     RegistraForm();
 }
 
 bool Program::Main() {
-    if (instances_.AnotherRuns()) {
-        dialogs_.Critical(lingue_.TestoLingua("0001"), "Error");
+    if (services_.Instances.AnotherRuns()) {
+        services_.Dialogs.Message(lingue_.TestoLingua("0001"), "Error", Icon::Critical,
+                                  Buttons::Ok);
         return false;
     }
     if (!casuale_) {

@@ -4,14 +4,10 @@
 #include <memory>
 
 #include "engine/casuale.h"
-#include "platform/clock.h"
-#include "platform/dialogs.h"
-#include "platform/file_system.h"
 #include "platform/forms.h"
-#include "platform/instances.h"
-#include "platform/screen.h"
-#include "platform/sounds.h"
+#include "platform/services.h"
 #include "shell/lingue.h"
+#include "shell/modulo_navigate.h"
 #include "shell/modulo_per_ini.h"
 #include "shell/servizi.h"
 #include "shell/stato.h"
@@ -25,8 +21,7 @@ class Program {
 public:
     /// Opens and reads nothing yet. `casuale` takes the place of the generator that `Main` seeds
     /// from the clock.
-    Program(Clock& clock, Screen& screen, FileSystem& fileSystem, Dialogs& dialogs,
-            Instances& instances, Sounds& sounds, std::unique_ptr<Casuale> casuale = nullptr);
+    explicit Program(const Services& services, std::unique_ptr<Casuale> casuale = nullptr);
 
     /// Starts the game: reads the first user's settings and shows the splash. False if another
     /// instance runs: that was told in a message box, and nothing was opened, read or written.
@@ -43,14 +38,14 @@ public:
 private:
     void RegistraForm();
 
-    Dialogs& dialogs_;
-    Instances& instances_;
+    Services services_;
     std::unique_ptr<Casuale> casuale_;
 
     trameli::Stato stato_;
     Lingue lingue_;
     ModuloPerIni moduloPerIni_;
     Suoni suoni_;
+    ModuloNavigate moduloNavigate_;
     Servizi servizi_;
     trameli::Forms forms_;  // last: the forms work with all of the above to their end
 };

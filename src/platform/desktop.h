@@ -3,12 +3,7 @@
 
 #include <memory>
 
-#include "platform/clock.h"
-#include "platform/dialogs.h"
-#include "platform/file_system.h"
-#include "platform/instances.h"
-#include "platform/screen.h"
-#include "platform/sounds.h"
+#include "platform/services.h"
 
 namespace trameli {
 
@@ -22,17 +17,12 @@ public:
     Desktop(const Desktop&) = delete;
     Desktop& operator=(const Desktop&) = delete;
 
-    // The services; they live as long as this object.
-    trameli::Clock& Clock() const;
-    trameli::Screen& Screen() const;
-    trameli::FileSystem& FileSystem() const;
-    trameli::Dialogs& Dialogs() const;
-    trameli::Instances& Instances() const;
-    trameli::Sounds& Sounds() const;
+    /// The services; they live as long as this object.
+    trameli::Services Services() const;
 
 private:
-    struct Services;
-    std::unique_ptr<Services> services_;
+    struct Native;
+    std::unique_ptr<Native> native_;
 };
 
 }  // namespace trameli

@@ -32,10 +32,6 @@ public:
     /// The part that a maximised window may take.
     virtual PixelSize Available() const = 0;
 
-    /// True if windows stand on a desktop that has the last word on their size. A screen of a
-    /// test has no desktop: a maximised form then has just the available size.
-    virtual bool HasDesktop() const = 0;
-
     /// Width of the screen in twips.
     double Width() const { return Size().Width * TwipsPerPixelX(); }
     /// Height of the screen in twips.

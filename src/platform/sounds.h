@@ -15,12 +15,11 @@ public:
     /// Plays a wave file in the background; it cuts off the one that still plays.
     virtual void PlayWave(const std::string& path) = 0;
 
-    /// Makes the MIDI file the piece that PlayMusic plays. The one that was open is closed.
-    virtual void OpenMusic(const std::string& path) = 0;
-    /// Plays the open piece in the background, from its beginning to its end.
-    virtual void PlayMusic() = 0;
-    /// Closes the open piece, which ends if it still plays.
-    virtual void CloseMusic() = 0;
+    /// Plays a MIDI file in the background, from its beginning to its end, in place of the piece
+    /// that still plays.
+    virtual void PlayMusic(const std::string& path) = 0;
+    /// Ends the piece.
+    virtual void StopMusic() = 0;
 };
 
 }  // namespace trameli

@@ -3,8 +3,8 @@
 #include <array>
 
 #include "platform/forms.h"
+#include "platform/text.h"
 #include "shell/fumetto.h"
-#include "shell/maiuscolo.h"
 #include "shell/puntatori.h"
 
 namespace trameli {
@@ -73,8 +73,8 @@ void FormAvvio::Form_Activate() {
         MouseIcon(std::nullopt);
     }
     if (servizi_.Stato.UsaMaiuscolo) {
-        Command1.Caption(Maiuscolo(Command1.Caption()));
-        Label2(0).Caption(Maiuscolo(Label2(0).Caption()));
+        Command1.Caption(Capitals(Command1.Caption()));
+        Label2(0).Caption(Capitals(Label2(0).Caption()));
     }
 }
 

@@ -5,8 +5,8 @@
 
 #include "base/rounding.h"
 #include "platform/forms.h"
+#include "platform/text.h"
 #include "shell/livelli.h"
-#include "shell/maiuscolo.h"
 #include "shell/puntatori.h"
 
 namespace trameli {
@@ -242,9 +242,9 @@ void FormMenu::mnuAbout_Click() {
 void FormMenu::ImpostaUtente() {
     const Stato& stato = servizi_.Stato;
     if (stato.UsaMaiuscolo) {
-        Frame1.Caption(Maiuscolo(Frame1.Caption()));
+        Frame1.Caption(Capitals(Frame1.Caption()));
         for (int i = 0; i < Combo1.ListCount(); ++i) {
-            Combo1.List(i, Maiuscolo(Combo1.List(i)));
+            Combo1.List(i, Capitals(Combo1.List(i)));
         }
     }
     // The buttons never get their pointer back while the window is open, only the options do.
@@ -276,7 +276,7 @@ void FormMenu::ElencaUtenti() {
     Combo1.Clear();
     for (const std::string& nome : servizi_.FileSystem.List(ModuloPerIni::CartellaUtenti, ".ini")) {
         const std::string utente = nome.substr(0, nome.size() - std::min(nome.size(), Estensione));
-        Combo1.AddItem(maiuscolo ? Maiuscolo(utente) : utente);
+        Combo1.AddItem(maiuscolo ? Capitals(utente) : utente);
     }
     Combo1.Visible(Combo1.ListCount() >= 2);
 }
@@ -285,7 +285,7 @@ void FormMenu::ElencaUtenti() {
 /// name and the list can turn to capitals on the way.
 void FormMenu::ScegliUtente() {
     for (int i = 0; Loaded() && i < Combo1.ListCount(); ++i) {
-        if (Maiuscolo(Combo1.List(i)) == Maiuscolo(servizi_.Stato.NomeUtente)) {
+        if (Capitals(Combo1.List(i)) == Capitals(servizi_.Stato.NomeUtente)) {
             Combo1.ListIndex(i);
         }
     }

@@ -2,8 +2,8 @@
 
 #include <optional>
 
+#include "platform/text.h"
 #include "shell/file_utente.h"
-#include "shell/maiuscolo.h"
 
 namespace trameli {
 
@@ -15,7 +15,7 @@ void ModuloPerIni::ImpostaPredefiniti() {
 }
 
 void ModuloPerIni::ScriviUtente() {
-    const std::string chiave = Maiuscolo(stato_.FileUtente);
+    const std::string chiave = Capitals(stato_.FileUtente);
     const bool risparmiato = nonLetti_.contains(chiave) && EsisteFile(stato_.FileUtente);
     if (!risparmiato && fileSystem_.Replace(stato_.FileUtente, Testo(stato_))) {
         Conosciuto(chiave);
@@ -25,14 +25,14 @@ void ModuloPerIni::ScriviUtente() {
     nonSalvati_[chiave] = stato_;
     if (!avvisato_) {
         avvisato_ = true;  // before the message: while it is shown, a timer can save again
-        dialogs_.Critical(
+        dialogs_.Message(
             "Impossibile salvare le impostazioni.\n" + fileSystem_.OnThisMachine(stato_.FileUtente),
-            "Trameli");
+            "Trameli", Icon::Critical, Buttons::Ok);
     }
 }
 
 void ModuloPerIni::LeggiUtente() {
-    const std::string chiave = Maiuscolo(stato_.FileUtente);
+    const std::string chiave = Capitals(stato_.FileUtente);
     std::optional<std::string> testo;
     if (EsisteFile(stato_.FileUtente)) {
         testo = fileSystem_.Read(stato_.FileUtente, LimiteLettura);

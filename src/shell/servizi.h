@@ -1,8 +1,10 @@
 // What every window of the game is given when it is made.
 #pragma once
 
+#include "platform/dialogs.h"
 #include "platform/file_system.h"
 #include "shell/lingue.h"
+#include "shell/modulo_navigate.h"
 #include "shell/modulo_per_ini.h"
 #include "shell/stato.h"
 #include "shell/suoni.h"
@@ -16,6 +18,8 @@ struct Servizi {
     trameli::ModuloPerIni& ModuloPerIni;
     trameli::FileSystem& FileSystem;
     trameli::Suoni& Suoni;
+    trameli::ModuloNavigate& ModuloNavigate;
+    trameli::Dialogs& Dialogs;
 };
 
 }  // namespace trameli

@@ -13,6 +13,8 @@ struct Stato : Impostazioni {
     std::string NomeUtente;     ///< current user: the file's name without extension
     std::string NomeGiocatore;  ///< name shown while playing; empty until a user was chosen
 
+    std::string LinguaCorrente;  ///< stem of the language file in use; empty until it is needed
+
     std::int16_t RigheGriglia = 0;    ///< rows of the grid at levels 8 to 15
     std::int16_t ColonneGriglia = 0;  ///< columns of it
 

@@ -31,16 +31,13 @@ void Suoni::SuonoPasso() {
 }
 
 void Suoni::SuonaMidi(const std::string& percorso) {
-    if (!stato_.SuoniAttivi) {
-        return;
+    if (stato_.SuoniAttivi) {
+        sounds_.PlayMusic(percorso);
     }
-    FermaMidi();
-    sounds_.OpenMusic(percorso);
-    sounds_.PlayMusic();
 }
 
 void Suoni::FermaMidi() {
-    sounds_.CloseMusic();
+    sounds_.StopMusic();
 }
 
 }  // namespace trameli

@@ -43,7 +43,7 @@ Partita::Partita(const Disco& disco, PixelSize schermo, std::uint64_t seme)
 Partita::Partita(const Disco& disco, PixelSize schermo, std::unique_ptr<Casuale> casuale)
     : Schermo(schermo.Width, schermo.Height),
       File(disco.Radice()),
-      Gioco(Tempo, Schermo, File, Messaggi, Istanze, Suoni, std::move(casuale)) {}
+      Gioco({Tempo, Schermo, File, Messaggi, Istanze, Suoni, Documenti, ""}, std::move(casuale)) {}
 
 bool Partita::Avvia() {
     const bool avviato = Gioco.Main();

@@ -81,6 +81,7 @@ public:
     NotedDialogs Messaggi;
     FixedInstances Istanze;
     NotedSounds Suoni;
+    NotedDocuments Documenti;
     Program Gioco;
 
     /// The splash comes up. False if the program does not start.

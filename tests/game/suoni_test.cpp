@@ -60,8 +60,7 @@ TEST_P(SuoniInGioco, TheFifthMazeGivesTheWordToTheMusic) {
         ClickOn(Trova<CommandButton>(tavolo.Form_, "BottoneAvanti"));
     }
     tavolo.Risolvi();
-    EXPECT_EQ(partita.Suoni.Asked,
-              (Chiesti{Si, Si, Si, Si, "close", "open P:\\suoni\\coppa.mid", "play"}));
+    EXPECT_EQ(partita.Suoni.Asked, (Chiesti{Si, Si, Si, Si, "music P:\\suoni\\coppa.mid"}));
 }
 
 }  // namespace

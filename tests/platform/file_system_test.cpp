@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "platform/qt/environment.h"
 #include "platform/qt/local_file_system.h"
 #include "support/stage.h"
 
@@ -185,6 +186,23 @@ TEST(UserDataFolderTest, FollowsTheEnvironmentIfThatIsAbsolute) {
     unsetenv("HOME");
     EXPECT_TRUE(UserDataFolder().is_absolute()) << "the system's own list knows the home folder";
     setenv("HOME", home.c_str(), 1);
+}
+
+TEST(LocaleOfMessagesTest, IsTheFirstVariableThatSaysSomething) {
+    const char* const names[] = {"LANG", "LC_MESSAGES", "LC_ALL"};
+    for (const char* name : names) {
+        unsetenv(name);
+    }
+    EXPECT_EQ(LocaleOfMessages(), "");
+    for (const char* name : names) {
+        setenv(name, name, 1);
+        EXPECT_EQ(LocaleOfMessages(), name);
+    }
+    setenv("LC_ALL", "", 1);
+    EXPECT_EQ(LocaleOfMessages(), "LC_MESSAGES");
+    for (const char* name : names) {
+        unsetenv(name);
+    }
 }
 
 }  // namespace

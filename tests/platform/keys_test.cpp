@@ -7,7 +7,7 @@
 #include <QWindow>
 
 #include "platform/combo_box.h"
-#include "platform/qt/desktop_services.h"
+#include "platform/qt/desktop_dialogs.h"
 #include "platform/scripted_form.h"
 
 namespace trameli {
@@ -218,7 +218,7 @@ TEST_F(KeysTest, ThatMeetAMessageBoxAreTheBoxes) {
                     QTest::keyRelease(box->windowHandle(), static_cast<Qt::Key>(key));
                 }
             });
-            dialogs.Critical("text", "title");
+            dialogs.Message("text", "title", Icon::Critical, Buttons::Ok);
             Pump();
             Seen.clear();
             Release(A, key);

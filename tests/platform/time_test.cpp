@@ -2,7 +2,7 @@
 #include <QTimer>
 #include <vector>
 
-#include "platform/qt/desktop_services.h"
+#include "platform/qt/desktop_clock.h"
 #include "platform/scripted_form.h"
 
 namespace trameli {

@@ -9,7 +9,7 @@
 #include <QWindow>
 #include <algorithm>
 
-#include "platform/qt/desktop_services.h"
+#include "platform/qt/desktop_dialogs.h"
 #include "platform/scripted_form.h"
 
 namespace trameli {
@@ -186,7 +186,7 @@ TEST_F(UnloadTest, InTheMiddleOfAMessageBox) {
                     box->accept();
                 }
             });
-            DesktopDialogs().Critical("text", "title");
+            DesktopDialogs().Message("text", "title", Icon::Critical, Buttons::Ok);
             EXPECT_FALSE(form.Wait(1));
             returned = true;
         };

@@ -97,9 +97,11 @@ private:
     Lingue lingue_;
     ModuloPerIni ini_{Stato, file_, dialoghi_, lingue_};
     Suoni suoni_{Stato, Uditi};
+    NotedDocuments documenti_;
+    ModuloNavigate navigate_{Stato, file_, documenti_};
 
 protected:
-    Servizi Servizi_{Stato, lingue_, ini_, file_, suoni_};
+    Servizi Servizi_{Stato, lingue_, ini_, file_, suoni_, navigate_, dialoghi_};
 
 private:
     std::unique_ptr<FixedScreen> schermo_;

@@ -11,7 +11,7 @@ namespace {
 
 using Richieste = std::vector<std::string>;
 
-const Richieste MusicaAvviata = {"close", "open P:\\suoni\\coppa.mid", "play"};
+const Richieste MusicaAvviata = {"music P:\\suoni\\coppa.mid"};
 
 class FormFinaleTest : public FinaleTest {};
 
@@ -75,7 +75,7 @@ TEST_F(FormFinaleTest, ClosedInTheFirstSecondIsGone) {
     Programma().Show("FormFinale");
     Pump();
     EXPECT_FALSE(Aperto("FormFinale"));
-    EXPECT_EQ(Uditi.Asked.back(), "close");
+    EXPECT_EQ(Uditi.Asked.back(), "stop");
     EXPECT_EQ(Tempo.TimersRunning(), 0);
     EXPECT_FALSE(Programma().Ended());
 }
@@ -118,7 +118,7 @@ TEST_F(FormFinaleTest, GoesToANewMazeOrBackToTheOldOneAndEndsTheMusic) {
         ClickOn(avanti ? form.Command2 : form.Command1);
         EXPECT_FALSE(Aperto("FormFinale"));
         EXPECT_TRUE(Aperto("frmTrm3"));
-        EXPECT_EQ(Uditi.Asked, Richieste{"close"});
+        EXPECT_EQ(Uditi.Asked, Richieste{"stop"});
         EXPECT_EQ(Stato.Livello, avanti ? 9 : 8);
         EXPECT_EQ(Stato.TrameloDisegnato, !avanti);
     }

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "platform/file_system.h"
-#include "shell/maiuscolo.h"
+#include "platform/text.h"
 
 namespace trameli {
 
@@ -20,14 +20,14 @@ public:
     mutable std::size_t UltimoLimite{};  ///< how much was asked for at the last read
 
     bool FileExists(const std::string& path) const override {
-        return file_.contains(Maiuscolo(path));
+        return file_.contains(Capitals(path));
     }
     bool FolderExists(const std::string& /*path*/) const override { return true; }
     bool CreateFolder(const std::string& /*path*/) override { return true; }
 
     std::optional<std::string> Read(const std::string& path, std::size_t limit) const override {
         UltimoLimite = limit;
-        if (!FileExists(path) || Illeggibili.contains(Maiuscolo(path))) {
+        if (!FileExists(path) || Illeggibili.contains(Capitals(path))) {
             return std::nullopt;
         }
         return Contenuto(path).substr(0, limit);
@@ -35,7 +35,7 @@ public:
 
     bool Replace(const std::string& path, const std::string& bytes) override {
         if (!ScritturaGuasta) {
-            file_[Maiuscolo(path)] = bytes;
+            file_[Capitals(path)] = bytes;
         }
         return !ScritturaGuasta;
     }
@@ -48,9 +48,7 @@ public:
     std::string OnThisMachine(const std::string& path) const override { return "su:" + path; }
 
     /// The bytes of a file that exists.
-    const std::string& Contenuto(const std::string& path) const {
-        return file_.at(Maiuscolo(path));
-    }
+    const std::string& Contenuto(const std::string& path) const { return file_.at(Capitals(path)); }
 
 private:
     std::map<std::string, std::string> file_;

@@ -21,12 +21,16 @@ public:
     std::vector<std::string> Messaggi;
     std::function<void()> Intanto;  ///< called while one is open
 
-    void Critical(const std::string& text, const std::string& /*title*/) override {
+    Answer Message(const std::string& text, const std::string& /*title*/, Icon /*icon*/,
+                   Buttons /*buttons*/) override {
         Messaggi.push_back(text);
         if (Intanto) {
             Intanto();
         }
+        return Answer::Ok;
     }
+    std::optional<Colour> ChooseColour() override { return std::nullopt; }
+    void Language(const std::string& /*locale*/) override {}
 };
 
 class ModuloPerIniTest : public testing::Test {
@@ -56,7 +60,7 @@ protected:
 
 TEST_F(ModuloPerIniTest, AFileThatCannotBeReadIsNotReplaced) {
     File.Replace(FileDiAnna, DiAnna);
-    File.Illeggibili.insert(Maiuscolo(FileDiAnna));
+    File.Illeggibili.insert(Capitals(FileDiAnna));
     Variabili.Livello = 14;
     Modulo.LeggiUtente();
     EXPECT_EQ(Lette(), Impostazioni());
@@ -74,7 +78,7 @@ TEST_F(ModuloPerIniTest, AFileThatCannotBeReadIsNotReplaced) {
     SalvaAltre();
     EXPECT_EQ(File.Contenuto(FileDiAnna), Testo(altre));
     // What this run once knew it may replace, whatever came between.
-    File.Illeggibili.insert(Maiuscolo(FileDiAnna));
+    File.Illeggibili.insert(Capitals(FileDiAnna));
     Modulo.LeggiUtente();
     EXPECT_EQ(Lette(), Impostazioni());
     File.Illeggibili.clear();

@@ -33,8 +33,8 @@ protected:
     void AskForEverything() {
         for (int i = 0; i < 1000; ++i) {
             Sounds->PlayWave("P:\\long.wav");
-            PlayMusic("P:\\a.mid");
-            Sounds->CloseMusic();
+            Sounds->PlayMusic("P:\\a.mid");
+            Sounds->StopMusic();
         }
     }
 
@@ -51,10 +51,10 @@ TEST_F(Devices, AreOpenWhileSomethingPlaysAndABitLonger) {
     Sounds.reset();
     EXPECT_FALSE(std::filesystem::exists(PathOf("recording"))) << "opened for nothing";
     Play(options);
-    PlayMusic("P:\\a.mid");
+    Sounds->PlayMusic("P:\\a.mid");
     ASSERT_TRUE(MoreIsHeard(15));
     EXPECT_EQ(Story(), "A");
-    Sounds->CloseMusic();
+    Sounds->StopMusic();
     ASSERT_TRUE(Soon([&] { return !DeviceIsOpen(); }));
     Sounds->PlayWave("P:\\a.wav");
     EXPECT_TRUE(Soon([&] { return Story() == "A."; }));

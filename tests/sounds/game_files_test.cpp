@@ -54,7 +54,7 @@ TEST_F(GameFiles, TheMusicLastsHalfAMinuteAndLeavesRoomForAWave) {
     MixerOptions options;
     options.Silence = std::chrono::seconds(0);
     Play(options);
-    PlayMusic("P:\\suoni\\coppa.mid");
+    Sounds->PlayMusic("P:\\suoni\\coppa.mid");
     ASSERT_TRUE(Soon([&] { return DeviceIsOpen(); }));
     ASSERT_TRUE(Soon([&] { return !DeviceIsOpen(); }));
     Samples heard = Trimmed(Heard());

@@ -44,7 +44,7 @@ TEST_F(HeardSounds, WavesPlayOnceAndTheLastWinsAtOnce) {
 
 TEST_F(HeardSounds, MusicPlaysOnceFromItsBeginning) {
     Play();
-    PlayMusic("P:\\short.mid");
+    Sounds->PlayMusic("P:\\short.mid");
     ASSERT_TRUE(StoryEnds("AB."));
     ASSERT_TRUE(MoreIsHeard(2));
     EXPECT_EQ(Story(), "AB.");
@@ -54,10 +54,10 @@ TEST_F(HeardSounds, MusicPlaysOnceFromItsBeginning) {
 
 TEST_F(HeardSounds, MusicBeginsAnewSoundsUnderWavesAndEndsWhenItIsStopped) {
     Play();
-    PlayMusic("P:\\long.mid");
+    Sounds->PlayMusic("P:\\long.mid");
     ASSERT_TRUE(StoryEnds("AB"));
     const std::size_t half = Letters().size();
-    PlayMusic("P:\\long.mid");
+    Sounds->PlayMusic("P:\\long.mid");
     ASSERT_TRUE(StoryEnds("AB") && Soon([&] { return LengthOf('A', half) > 40; }))
         << "the first one would have gone on with B in the middle";
     ASSERT_TRUE(StoryEnds("B"));
@@ -65,7 +65,7 @@ TEST_F(HeardSounds, MusicBeginsAnewSoundsUnderWavesAndEndsWhenItIsStopped) {
     Sounds->PlayWave("P:\\a.wav");
     ASSERT_TRUE(Soon([&] { return Letters().find_first_of("A?", alone) != std::string::npos; }));
     ASSERT_TRUE(StoryEnds("B")) << "goes on after the wave";
-    Sounds->CloseMusic();
+    Sounds->StopMusic();
     ASSERT_TRUE(MoreIsHeard(3));
     EXPECT_TRUE(Letters().ends_with(std::string(50, '.')));
 }
@@ -77,7 +77,7 @@ TEST_F(HeardSounds, MusicNeedsTheFirstInstrumentsThatThereAre) {
     fonts.insert(fonts.begin(), PathOf("missing.sf2"));
     for (const char* expected : {"AB.", "A."}) {
         Play(options);
-        PlayMusic("P:\\short.mid");
+        Sounds->PlayMusic("P:\\short.mid");
         ASSERT_TRUE(MoreIsHeard(4));
         Sounds->PlayWave("P:\\a.wav");
         EXPECT_TRUE(StoryEnds("A.")) << "waves need none";

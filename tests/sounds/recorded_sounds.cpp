@@ -101,12 +101,6 @@ RecordedSounds::~RecordedSounds() {
     Sounds.reset();  // before the folder
 }
 
-void RecordedSounds::PlayMusic(const std::string& path) {
-    Sounds->CloseMusic();
-    Sounds->OpenMusic(path);
-    Sounds->PlayMusic();
-}
-
 void RecordedSounds::Put(const std::string& name, const std::string& bytes) const {
     Write(PathOf(name), bytes);
 }

@@ -48,8 +48,6 @@ protected:
         Sounds.emplace(LocalFileSystem(folder_.Path() / "data", folder_.Path()),
                        std::move(options));
     }
-    /// As the end of a level asks for a piece.
-    void PlayMusic(const std::string& path);
     /// Makes a file of the program folder, "P:\NAME".
     void Put(const std::string& name, const std::string& bytes) const;
     std::filesystem::path PathOf(const std::string& name) const { return folder_.Path() / name; }

@@ -64,14 +64,14 @@ TEST_F(SoundFiles, WhatCannotBePlayedIsSilentAndTheNextIsHeard) {
     for (const std::string name : {"huge.wav", "huge.mid", "compressed.wav", "wave.mid", "text.mid",
                                    "header.mid", "missing", "folder", "pipe"}) {
         Sounds->PlayWave("P:\\" + name);
-        PlayMusic("P:\\" + name);
+        Sounds->PlayMusic("P:\\" + name);
         ASSERT_TRUE(MoreIsHeard(0.5)) << name;
     }
     Put("b.wav", Tone(PitchB, 20).substr(0, 44 + 2 * 44100));  // breaks off
     Sounds->PlayWave("P:\\b.wav");
     EXPECT_TRUE(Soon([&] { return Story() == "B."; })) << Letters();
     Put("ab.mid", Tune(1, 1));
-    PlayMusic("P:\\ab.mid");
+    Sounds->PlayMusic("P:\\ab.mid");
     EXPECT_TRUE(Soon([&] { return Story() == "B.AB."; })) << Letters();
 }
 

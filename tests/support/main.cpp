@@ -3,7 +3,7 @@
 
 #include <QApplication>
 
-#include "platform/qt/desktop_services.h"
+#include "platform/qt/toolkit.h"
 
 int main(int argc, char** argv) {
     // Windows of tests come up on a real screen only when somebody asks for it.

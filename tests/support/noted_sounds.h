@@ -8,15 +8,14 @@
 
 namespace trameli {
 
-/// Notes what is asked for, in order: "wave P:\suoni\boing.wav", "open ...", "play", "close".
+/// Notes what is asked for, in order: "wave P:\suoni\boing.wav", "music ...", "stop".
 class NotedSounds final : public Sounds {
 public:
     std::vector<std::string> Asked;
 
     void PlayWave(const std::string& path) override { Asked.push_back("wave " + path); }
-    void OpenMusic(const std::string& path) override { Asked.push_back("open " + path); }
-    void PlayMusic() override { Asked.push_back("play"); }
-    void CloseMusic() override { Asked.push_back("close"); }
+    void PlayMusic(const std::string& path) override { Asked.push_back("music " + path); }
+    void StopMusic() override { Asked.push_back("stop"); }
 };
 
 }  // namespace trameli

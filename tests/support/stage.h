@@ -9,6 +9,7 @@
 
 #include "platform/control.h"
 #include "platform/dialogs.h"
+#include "platform/documents.h"
 #include "platform/form.h"
 #include "platform/instances.h"
 #include "platform/screen.h"
@@ -46,7 +47,6 @@ public:
 
     PixelSize Size() const override { return size_; }
     PixelSize Available() const override { return size_; }
-    bool HasDesktop() const override { return false; }
 
 private:
     PixelSize size_;
@@ -60,22 +60,40 @@ public:
     bool AnotherRuns() override { return Another; }
 };
 
-/// Notes the messages and answers them at once; `During` is called while one is open.
+/// Notes the messages and answers them at once, as the test wants; `During` is called while one is
+/// open.
 class NotedDialogs final : public Dialogs {
 public:
-    struct Message {
+    struct Noted {
         std::string Text;
         std::string Title;
+        trameli::Icon Icon;
+        trameli::Buttons Buttons;
     };
-    std::vector<Message> Messages;
+    std::vector<Noted> Messages;
     std::function<void()> During;
+    trameli::Answer Answer = trameli::Answer::Ok;
+    std::optional<Colour> Chosen;  ///< what the user chooses; nothing is a cancel
+    std::string Spoken;            ///< the language of the dialogs
 
-    void Critical(const std::string& text, const std::string& title) override {
-        Messages.push_back({text, title});
+    trameli::Answer Message(const std::string& text, const std::string& title, trameli::Icon icon,
+                            trameli::Buttons buttons) override {
+        Messages.push_back({text, title, icon, buttons});
         if (During) {
             During();
         }
+        return Answer;
     }
+    std::optional<Colour> ChooseColour() override { return Chosen; }
+    void Language(const std::string& locale) override { Spoken = locale; }
+};
+
+/// Notes which documents were opened.
+class NotedDocuments final : public Documents {
+public:
+    std::vector<std::string> Opened;
+
+    void Open(const std::string& path) override { Opened.push_back(path); }
 };
 
 /// A new folder on the disk, gone with the object.

@@ -8,7 +8,8 @@
 #include <QTimer>
 #include <QWindow>
 
-#include "platform/qt/desktop_services.h"
+#include "platform/qt/desktop_dialogs.h"
+#include "platform/qt/desktop_screen.h"
 #include "platform/qt/form_window.h"
 #include "platform/scripted_form.h"
 
@@ -191,7 +192,7 @@ TEST_F(FormsOnX11, GiveTheKeyboardToAMessageBoxAndGetItBack) {
         }
     });
     eye.start(10);
-    DesktopDialogs().Critical("text", "title");
+    DesktopDialogs().Message("text", "title", Icon::Critical, Buttons::Ok);
     eye.stop();
     EXPECT_TRUE(Until([&] { return WindowOf(Get("A")).isActiveWindow(); }));
     EXPECT_TRUE(WidgetOf(Get("A").Second).hasFocus());

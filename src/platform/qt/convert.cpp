@@ -1,5 +1,6 @@
 #include "platform/qt/convert.h"
 
+#include <QStringDecoder>
 #include <QStringList>
 #include <algorithm>
 
@@ -22,6 +23,13 @@ constexpr Substitute Substitutes[] = {
 constexpr double TwipsPerPoint = 20;
 
 }  // namespace
+
+bool IsUtf8(std::string_view text) {
+    QStringDecoder decoder(QStringDecoder::Utf8);
+    [[maybe_unused]] const QString decoded =
+        decoder.decode(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
+    return !decoder.hasError();
+}
 
 QFont ToQt(const Font& font, double twipsPerPixel) {
     QStringList families{ToQt(font.Family)};

@@ -5,6 +5,7 @@
 #include <QFont>
 #include <QString>
 #include <string>
+#include <string_view>
 
 #include "platform/colour.h"
 #include "platform/font.h"
@@ -19,6 +20,9 @@ inline QString ToQt(const std::string& text) {
 inline std::string FromQt(const QString& text) {
     return text.toStdString();
 }
+
+/// True for text that comes back unchanged from the toolkit.
+bool IsUtf8(std::string_view text);
 
 inline QColor ToQt(Colour colour) {
     return QColor(RedOf(colour), GreenOf(colour), BlueOf(colour));

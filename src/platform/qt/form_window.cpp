@@ -82,15 +82,15 @@ void FormWindow::Present() {
         return;
     }
     FocusFirst();
-    const Screen& screen = form_.Forms().Screen();
-    const PixelSize size = screen.Available();
+    const PixelSize available = form_.Forms().Screen().Available();
+    const QSize size(available.Width, available.Height);
+    const QRect place = QGuiApplication::primaryScreen()->availableGeometry();
     // The size comes first and the wish to be maximised after it, so that the window fills the
-    // screen also where no window manager hears of the wish.
-    if (screen.HasDesktop()) {
-        move(QGuiApplication::primaryScreen()->availableGeometry().topLeft());
-    }
-    resize(size.Width, size.Height);
-    if (screen.HasDesktop()) {
+    // screen also where no window manager hears of the wish. Where the program's screen is another
+    // one than the toolkit's, only the program's tells how large a full one is.
+    resize(size);
+    if (size == place.size()) {
+        move(place.topLeft());
         setWindowState(Qt::WindowMaximized);
     }
     winId();  // makes the window, whose keys are filtered

@@ -34,8 +34,7 @@ struct MixerSounds::Wishes {
 
     std::optional<std::string> Wave;  ///< to be played, unless taken already
     Now::time_point WaveAsked;
-    std::string Music;  ///< the open piece; empty if there is none
-    bool MusicPlays = false;
+    std::string Music;       ///< the piece that plays; empty for none
     unsigned MusicTurn = 0;  ///< moves on with every change of the music
     bool Over = false;       ///< nothing shall be heard any more
     bool Ended = false;      ///< the thread is through
@@ -98,7 +97,7 @@ void MixerSounds::Serve(Wishes& wishes, Mixer& mixer) {
         const auto wave = std::exchange(wishes.Wave, std::nullopt);
         const auto waveAsked = wishes.WaveAsked;
         const bool newMusic = std::exchange(musicTurn, wishes.MusicTurn) != wishes.MusicTurn;
-        const std::string music = wishes.MusicPlays ? wishes.Music : std::string();
+        const std::string music = wishes.Music;
         lock.unlock();
         // The wave first: it takes no time, while instruments may have to be read for the music.
         if (wave) {
@@ -130,27 +129,15 @@ void MixerSounds::PlayWave(const std::string& path) {
     });
 }
 
-void MixerSounds::OpenMusic(const std::string& path) {
+void MixerSounds::PlayMusic(const std::string& path) {
     Wish([&path](Wishes& wishes) {
         wishes.Music = path;
-        wishes.MusicPlays = false;
         ++wishes.MusicTurn;
     });
 }
 
-void MixerSounds::PlayMusic() {
-    Wish([](Wishes& wishes) {
-        wishes.MusicPlays = !wishes.Music.empty();
-        ++wishes.MusicTurn;
-    });
-}
-
-void MixerSounds::CloseMusic() {
-    Wish([](Wishes& wishes) {
-        wishes.Music.clear();
-        wishes.MusicPlays = false;
-        ++wishes.MusicTurn;
-    });
+void MixerSounds::StopMusic() {
+    PlayMusic({});
 }
 
 }  // namespace trameli

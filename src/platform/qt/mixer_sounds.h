@@ -25,9 +25,8 @@ public:
     MixerSounds& operator=(const MixerSounds&) = delete;
 
     void PlayWave(const std::string& path) override;
-    void OpenMusic(const std::string& path) override;
-    void PlayMusic() override;
-    void CloseMusic() override;
+    void PlayMusic(const std::string& path) override;
+    void StopMusic() override;
 
 private:
     struct Wishes;

@@ -1,12 +1,9 @@
 #include <fcntl.h>
-#include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <QString>
-#include <QStringDecoder>
 #include <algorithm>
-#include <cstdlib>
 #include <map>
 
 #include "platform/qt/convert.h"
@@ -26,13 +23,6 @@ constexpr std::size_t LongestName = 255;
 
 /// Longest path on the disk that is tried; longer ones are refused by the system anyway.
 constexpr std::size_t LongestPath = 4000;
-
-bool IsUtf8(std::string_view text) {
-    QStringDecoder decoder(QStringDecoder::Utf8);
-    [[maybe_unused]] const QString decoded =
-        decoder.decode(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
-    return !decoder.hasError();
-}
 
 QString Folded(const std::string& name) {
     return ToQt(name).toCaseFolded();
@@ -302,37 +292,6 @@ std::vector<std::string> LocalFileSystem::List(const std::string& folder,
 std::string LocalFileSystem::OnThisMachine(const std::string& path) const {
     const auto place = FindOrName(path);
     return place ? place->string() : path;
-}
-
-fs::path UserDataFolder() {
-    const char* data = std::getenv("XDG_DATA_HOME");
-    if (data && fs::path(data).is_absolute()) {
-        return fs::path(data) / "trameli";
-    }
-    const char* home = std::getenv("HOME");
-    if (!home || !*home) {
-        const passwd* user = getpwuid(getuid());
-        home = user ? user->pw_dir : "/";
-    }
-    return fs::path(home) / ".local" / "share" / "trameli";
-}
-
-fs::path ThisExecutable() {
-    std::error_code error;
-    return fs::read_symlink("/proc/self/exe", error);
-}
-
-fs::path FindProgramFolder(const fs::path& executable) {
-    // Run from where it was built, a program still finds its files; an installed one comes first,
-    // so that sources lying around never take the place of what belongs to it.
-    const fs::path installed = executable.parent_path().parent_path() / "share" / "trameli";
-    for (const fs::path& folder : {installed, fs::path(TRAMELI_SOURCE_ASSETS)}) {
-        std::error_code error;
-        if (folder.is_absolute() && fs::is_directory(folder, error)) {
-            return folder;
-        }
-    }
-    return {};
 }
 
 }  // namespace trameli

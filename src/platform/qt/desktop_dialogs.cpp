@@ -1,0 +1,115 @@
+#include "platform/qt/desktop_dialogs.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QMessageBox>
+#include <QPointer>
+
+#include "platform/qt/convert.h"
+
+namespace trameli {
+
+namespace {
+
+QMessageBox::Icon ToQt(Icon icon) {
+    switch (icon) {
+        case Icon::Critical:
+            return QMessageBox::Critical;
+        case Icon::Question:
+            return QMessageBox::Question;
+        case Icon::Information:
+            return QMessageBox::Information;
+        case Icon::None:
+            break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButtons ToQt(Buttons buttons) {
+    switch (buttons) {
+        case Buttons::OkCancel:
+            return QMessageBox::Ok | QMessageBox::Cancel;
+        case Buttons::YesNo:
+            return QMessageBox::Yes | QMessageBox::No;
+        case Buttons::YesNoCancel:
+            return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+        case Buttons::Ok:
+            break;
+    }
+    return QMessageBox::Ok;
+}
+
+/// What it means to close a box without pressing a button.
+Answer Closed(Buttons buttons) {
+    return buttons == Buttons::Ok      ? Answer::Ok
+           : buttons == Buttons::YesNo ? Answer::No
+                                       : Answer::Cancel;
+}
+
+/// Runs a dialog until it is closed, by whomever. Null if it is gone then: it belongs to the
+/// window in front, which a timer can take away meanwhile.
+template <typename Dialog>
+QPointer<Dialog> Run(Dialog* dialog) {
+    const QPointer<Dialog> still = dialog;
+    // A dialog takes the keyboard by itself. Where nobody manages windows, nobody else gives it
+    // back.
+    const QPointer<QWidget> before = QApplication::activeWindow();
+    dialog->exec();
+    if (still) {
+        still->deleteLater();
+    }
+    if (before && before->isVisible()) {
+        before->activateWindow();
+    }
+    return still;
+}
+
+}  // namespace
+
+Answer DesktopDialogs::Message(const std::string& text, const std::string& title, Icon icon,
+                               Buttons buttons) {
+    auto* const box = new QMessageBox(ToQt(icon), ToQt(title), ToQt(text), ToQt(buttons),
+                                      QApplication::activeWindow());
+    box->setTextFormat(Qt::PlainText);
+    const auto closed = Run(box);
+    switch (closed ? closed->result() : 0) {
+        case QMessageBox::Ok:
+            return Answer::Ok;
+        case QMessageBox::Cancel:
+            return Answer::Cancel;
+        case QMessageBox::Yes:
+            return Answer::Yes;
+        case QMessageBox::No:
+            return Answer::No;
+        default:
+            return Closed(buttons);
+    }
+}
+
+std::optional<Colour> DesktopDialogs::ChooseColour() {
+    auto* const dialog = new QColorDialog(Qt::black, QApplication::activeWindow());
+    dialog->setOption(QColorDialog::DontUseNativeDialog);
+    const auto closed = Run(dialog);
+    if (!closed || closed->result() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    const QColor colour = closed->selectedColor();
+    return Rgb(colour.red(), colour.green(), colour.blue());
+}
+
+void DesktopDialogs::Language(const std::string& locale) {
+    QCoreApplication::removeTranslator(&texts_);
+    const QLocale wanted(ToQt(locale));
+    // Of some languages there are only the texts of one country, which is better than none.
+    for (const QLocale& language : {wanted, QLocale(wanted.language())}) {
+        if (texts_.load(language, QStringLiteral("qtbase"), QStringLiteral("_"),
+                        QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+            QCoreApplication::installTranslator(&texts_);
+            return;
+        }
+    }
+}
+
+}  // namespace trameli

@@ -1,0 +1,52 @@
+#include "platform/qt/environment.h"
+
+#include <pwd.h>
+#include <unistd.h>
+
+#include <cstdlib>
+
+namespace fs = std::filesystem;
+
+namespace trameli {
+
+fs::path UserDataFolder() {
+    const char* data = std::getenv("XDG_DATA_HOME");
+    if (data && fs::path(data).is_absolute()) {
+        return fs::path(data) / "trameli";
+    }
+    const char* home = std::getenv("HOME");
+    if (!home || !*home) {
+        const passwd* user = getpwuid(getuid());
+        home = user ? user->pw_dir : "/";
+    }
+    return fs::path(home) / ".local" / "share" / "trameli";
+}
+
+fs::path ThisExecutable() {
+    std::error_code error;
+    return fs::read_symlink("/proc/self/exe", error);
+}
+
+fs::path FindProgramFolder(const fs::path& executable) {
+    // Run from where it was built, a program still finds its files; an installed one comes first,
+    // so that sources lying around never take the place of what belongs to it.
+    const fs::path installed = executable.parent_path().parent_path() / "share" / "trameli";
+    for (const fs::path& folder : {installed, fs::path(TRAMELI_SOURCE_ASSETS)}) {
+        std::error_code error;
+        if (folder.is_absolute() && fs::is_directory(folder, error)) {
+            return folder;
+        }
+    }
+    return {};
+}
+
+std::string LocaleOfMessages() {
+    for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+        if (const char* value = std::getenv(name); value && *value) {
+            return value;
+        }
+    }
+    return {};
+}
+
+}  // namespace trameli
