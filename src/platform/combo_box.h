@@ -6,7 +6,7 @@
 namespace trameli {
 
 /// A list that shows its chosen entry and drops down to choose another. Nothing can be typed.
-class ComboBox : public VisualControl {
+class ComboBox : public InteractiveControl {
 public:
     /// An empty list; the height of `bounds` is that of the closed one.
     ComboBox(Container& container, ControlName name, const Bounds& bounds);
@@ -30,6 +30,9 @@ public:
 
     /// An entry was chosen: by hand, be it the same one again, or by code that changed the choice.
     std::function<void()> Click;
+
+protected:
+    void Properties(PropertyAccess& access) override;
 };
 
 }  // namespace trameli

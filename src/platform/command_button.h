@@ -1,29 +1,26 @@
 // Push buttons.
 #pragma once
 
-#include "platform/control.h"
+#include "platform/captioned.h"
 
 namespace trameli {
 
 /// A button with a caption, a picture or both. The mouse presses it, or the release of Space or
 /// Enter whose press it received too: one stroke of a switch is one action.
-class CommandButton : public VisualControl {
+class CommandButton : public Captioned<InteractiveControl> {
 public:
     /// A button that can be pressed; without a caption it wants a picture and an AccessibleName.
     CommandButton(Container& container, ControlName name, const Bounds& bounds,
                   std::string caption = {});
 
-    /// The text; the letter behind an "&" presses the button together with Alt.
-    const std::string& Caption() const { return caption_; }
-    void Caption(const std::string& caption);
     /// Shown in its own proportions, as large as the button leaves room; above a caption.
     void Picture(const trameli::Picture& picture);
 
     /// The button was pressed, by mouse or keyboard. Code cannot press it.
     std::function<void()> Click;
 
-private:
-    std::string caption_;
+protected:
+    void ShowCaption() override;
 };
 
 }  // namespace trameli

@@ -5,15 +5,18 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "platform/colour.h"
 #include "platform/font.h"
 #include "platform/picture.h"
+#include "platform/property.h"
 
 namespace trameli {
 
 class Form;
 class Container;
+class PropertyAccess;
 
 /// Place and size in twips, relative to the container.
 struct Bounds {
@@ -54,20 +57,56 @@ public:
     const std::string& Tag() const { return tag_; }
     void Tag(std::string tag) { tag_ = std::move(tag); }
 
+    /// Reads or sets a property by its name, as code does that serves controls of any class.
+    PropertyCode Get(std::string_view property, PropertyValue& value) const;
+    PropertyCode Set(std::string_view property, const PropertyValue& value);
+
 protected:
     Control(Form& form, ControlName name);
 
+    /// Offers the properties of the class; a class with further ones calls its base's as well.
+    virtual void Properties(PropertyAccess& access);
+
 private:
+    int IndexNumber() const { return *name_.Index; }
+
     Form& form_;
     ControlName name_;
     std::string tag_;
 };
 
-/// A control that has a place on the form.
+/// A control that can be seen on the form.
 class VisualControl : public Control {
 public:
     ~VisualControl() override;
 
+    /// What was set, not what can be seen just now.
+    bool Visible() const { return visible_; }
+    void Visible(bool visible);
+
+    /// Puts it above or below all others of its container. A new control lies above the older ones.
+    void ToFront();
+    void ToBack();
+
+    struct Native;
+    /// The toolkit's side of the control; of use below `platform` only.
+    Native& NativePart() const { return *native_; }
+
+protected:
+    VisualControl(Container& container, ControlName name, std::unique_ptr<Native> native);
+
+    void Properties(PropertyAccess& access) override;
+    /// Lays the widget out over an area given in twips.
+    void Cover(const Bounds& area);
+
+private:
+    std::unique_ptr<Native> native_;
+    bool visible_ = true;
+};
+
+/// A control that takes a rectangle of its container.
+class PlacedControl : public VisualControl {
+public:
     // Place and size in twips, relative to the container. What is set is kept as it is; on the
     // screen each edge lies on the nearest pixel.
     double Left() const { return bounds_.Left; }
@@ -82,9 +121,19 @@ public:
     const Bounds& Place() const { return bounds_; }
     void Place(const Bounds& bounds);
 
-    /// What was set, not what can be seen just now.
-    bool Visible() const { return visible_; }
-    void Visible(bool visible);
+protected:
+    PlacedControl(Container& container, ControlName name, const Bounds& bounds,
+                  std::unique_ptr<Native> native);
+
+    void Properties(PropertyAccess& access) override;
+
+private:
+    Bounds bounds_;
+};
+
+/// A control that takes part in the play of mouse and keyboard, and has colours and a font.
+class InteractiveControl : public PlacedControl {
+public:
     /// What was set; a control on a disabled container keeps its own value.
     bool Enabled() const { return enabled_; }
     void Enabled(bool enabled);
@@ -102,6 +151,7 @@ public:
     const std::string& ToolTipText() const { return toolTipText_; }
     void ToolTipText(const std::string& text);
     /// What assistive technology calls the control where its caption does not say it.
+    const std::string& AccessibleName() const { return accessibleName_; }
     void AccessibleName(const std::string& name);
 
     /// Place in the order of the Tab key; equal ones go by creation.
@@ -126,23 +176,19 @@ public:
     /// ShiftBit. Comes after the form has seen the key.
     std::function<void(int, int)> KeyUp;
 
-    struct Native;
-    /// The toolkit's side of the control; of use below `platform` only.
-    Native& NativePart() const { return *native_; }
-
 protected:
-    VisualControl(Container& container, ControlName name, const Bounds& bounds,
-                  std::unique_ptr<Native> native);
+    InteractiveControl(Container& container, ControlName name, const Bounds& bounds,
+                       std::unique_ptr<Native> native);
+
+    void Properties(PropertyAccess& access) override;
 
 private:
-    std::unique_ptr<Native> native_;
-    Bounds bounds_;
-    bool visible_ = true;
     bool enabled_ = true;
     Colour backColor_ = ButtonFace;
     Colour foreColor_ = Black;
     trameli::Font font_;
     std::string toolTipText_;
+    std::string accessibleName_;
     int tabIndex_ = 0;
     std::optional<PointerImage> mouseIcon_;
 };

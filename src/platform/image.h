@@ -7,7 +7,7 @@ namespace trameli {
 
 /// A picture stretched to the control's size, whatever its own proportions. What lies under its
 /// transparent parts shows through.
-class Image : public VisualControl {
+class Image : public InteractiveControl {
 public:
     Image(Container& container, ControlName name, const Bounds& bounds,
           const trameli::Picture& picture = {});

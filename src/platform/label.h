@@ -1,7 +1,7 @@
 // Fixed text.
 #pragma once
 
-#include "platform/control.h"
+#include "platform/captioned.h"
 
 namespace trameli {
 
@@ -9,13 +9,11 @@ namespace trameli {
 enum class Alignment { Left, Right, Centre };
 
 /// A text of one or more lines that the player cannot change. It wraps at its width.
-class Label : public VisualControl {
+class Label : public Captioned<InteractiveControl> {
 public:
     /// Text on an opaque ground, its lines to the left.
     Label(Container& container, ControlName name, const Bounds& bounds, std::string caption);
 
-    const std::string& Caption() const { return caption_; }
-    void Caption(const std::string& caption);
     /// Lines begin at the top in any case.
     void TextAlignment(Alignment alignment);
     /// A transparent label lets what lies under it show between its letters.
@@ -27,8 +25,8 @@ public:
     /// The left mouse button was pressed and released on it.
     std::function<void()> Click;
 
-private:
-    std::string caption_;
+protected:
+    void ShowCaption() override;
 };
 
 }  // namespace trameli

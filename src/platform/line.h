@@ -5,8 +5,8 @@
 
 namespace trameli {
 
-/// A line between two points of its container. It lies under the other controls, and the mouse
-/// goes through it.
+/// A line between two points of its container. A new one lies under the other controls, and the
+/// mouse goes through it.
 class Line : public VisualControl {
 public:
     /// From (x1, y1) to (x2, y2), twips; borderWidth in pixels.
@@ -14,10 +14,14 @@ public:
          int borderWidth, Colour borderColor);
 
     // The two ends, twips, relative to the container.
-    double X1() const { return ends_.Left; }
-    double Y1() const { return ends_.Top; }
-    double X2() const { return ends_.Width; }
-    double Y2() const { return ends_.Height; }
+    double X1() const { return x1_; }
+    double Y1() const { return y1_; }
+    double X2() const { return x2_; }
+    double Y2() const { return y2_; }
+    void X1(double twips) { Ends(twips, y1_, x2_, y2_); }
+    void Y1(double twips) { Ends(x1_, twips, x2_, y2_); }
+    void X2(double twips) { Ends(x1_, y1_, twips, y2_); }
+    void Y2(double twips) { Ends(x1_, y1_, x2_, twips); }
     void Ends(double x1, double y1, double x2, double y2);
     /// Thickness in pixels, one at least.
     int BorderWidth() const { return borderWidth_; }
@@ -25,10 +29,16 @@ public:
     Colour BorderColor() const { return borderColor_; }
     void BorderColor(Colour colour);
 
+protected:
+    void Properties(PropertyAccess& access) override;
+
 private:
     void Lay();
 
-    Bounds ends_;  // x1, y1, x2, y2
+    double x1_;
+    double y1_;
+    double x2_;
+    double y2_;
     int borderWidth_;
     Colour borderColor_;
 };

@@ -8,7 +8,7 @@ namespace trameli {
 
 /// A surface on a form that keeps what is drawn on it, can hold other controls above the drawing,
 /// and can have the keyboard.
-class PictureBox : public VisualControl, public Container, public Surface {
+class PictureBox : public InteractiveControl, public Container, public Surface {
 public:
     /// A surface of the control's size, grey like a button's face and empty.
     PictureBox(Container& container, ControlName name, const Bounds& bounds);
@@ -16,7 +16,7 @@ public:
     PictureBox(PictureBox& model, int index);
 
     /// Setting the background clears the drawing.
-    using VisualControl::BackColor;
+    using InteractiveControl::BackColor;
     void BackColor(Colour colour) override;
 
     /// A picture shown at its own size from the upper left corner, under the drawing.

@@ -7,7 +7,7 @@ namespace trameli {
 
 /// A horizontal scroll bar: a number between two ends, set with the mouse. It never takes the
 /// keyboard, so the arrow keys stay with the form.
-class HScrollBar : public VisualControl {
+class HScrollBar : public InteractiveControl {
 public:
     /// Values go from `min` at the left to `max` at the right and begin at `min`; `largeChange` is
     /// the step of a click beside the handle.
@@ -20,6 +20,9 @@ public:
 
     /// The value is another one.
     std::function<void()> Change;
+
+protected:
+    void Properties(PropertyAccess& access) override;
 };
 
 }  // namespace trameli

@@ -9,7 +9,7 @@ namespace trameli {
 
 /// A row of text panels at the bottom edge of the form's client area, as wide as the form. Panels
 /// share the width where it is too small for all of them.
-class StatusBar : public VisualControl {
+class StatusBar : public InteractiveControl {
 public:
     /// One panel for each design text; panelWidth in twips.
     StatusBar(Form& form, ControlName name, double panelWidth,

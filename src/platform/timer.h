@@ -23,6 +23,9 @@ public:
     /// The interval has passed.
     std::function<void()> Tick;
 
+protected:
+    void Properties(PropertyAccess& access) override;
+
 private:
     friend class Forms;
 

@@ -175,7 +175,7 @@ void FormFinale::Centra() {
     const double pixel = Forms().Screen().TwipsPerPixelX();
     const double left = Margine(Width() - Dimensioni.Width, pixel);
     const double top = Margine(Height() - Dimensioni.Height, pixel);
-    for (VisualControl* controllo : std::initializer_list<VisualControl*>{
+    for (PlacedControl* controllo : std::initializer_list<PlacedControl*>{
              &Image1, &LabelNome, &Label1, &Label2, &Command1, &Command2}) {
         controllo->Left(controllo->Left() + left - margineSinistro_);
         controllo->Top(controllo->Top() + top - margineSuperiore_);

@@ -2,18 +2,15 @@
 
 #include <algorithm>
 
-#include "platform/line.h"
 #include "platform/status_bar.h"
 
 namespace trameli {
 
 namespace {
 
-/// True for the controls that have a place to scale: a status bar keeps to the form's edge by
-/// itself, and a line has ends instead.
-bool HaPosto(const VisualControl& controllo) {
-    return dynamic_cast<const StatusBar*>(&controllo) == nullptr &&
-           dynamic_cast<const Line*>(&controllo) == nullptr;
+double PuntiDi(const Control& controllo) {
+    const auto* const conScritta = dynamic_cast<const InteractiveControl*>(&controllo);
+    return conScritta != nullptr ? conScritta->Font().Points : 0;
 }
 
 }  // namespace
@@ -23,9 +20,10 @@ void EssResizer::Carica() {
     altezza_ = form_.Height();
     disegni_.clear();
     for (const Control* controllo : form_.Controls()) {
-        const auto* const visibile = dynamic_cast<const VisualControl*>(controllo);
-        if (visibile != nullptr && HaPosto(*visibile)) {
-            disegni_[visibile] = {visibile->Place(), visibile->Font().Points};
+        const auto* const posto = dynamic_cast<const PlacedControl*>(controllo);
+        // A status bar keeps to the form's edge by itself.
+        if (posto != nullptr && dynamic_cast<const StatusBar*>(controllo) == nullptr) {
+            disegni_[controllo] = {posto->Place(), PuntiDi(*controllo)};
         }
     }
 }
@@ -39,17 +37,19 @@ void EssResizer::Ridimensiona() {
     const double verticale = form_.Height() / altezza_;
     // Always from the record: scaling what was scaled before would add up the roundings.
     for (Control* controllo : form_.Controls()) {
-        auto* const visibile = dynamic_cast<VisualControl*>(controllo);
-        const auto disegno = disegni_.find(visibile);
+        const auto disegno = disegni_.find(controllo);
         if (disegno == disegni_.end()) {
             continue;
         }
         const auto& [posto, punti] = disegno->second;
-        visibile->Place({posto.Left * orizzontale, posto.Top * verticale, posto.Width * orizzontale,
-                         posto.Height * verticale});
-        Font carattere = visibile->Font();
-        carattere.Points = punti * std::min(orizzontale, verticale);
-        visibile->Font(carattere);
+        dynamic_cast<PlacedControl&>(*controllo)
+            .Place({posto.Left * orizzontale, posto.Top * verticale, posto.Width * orizzontale,
+                    posto.Height * verticale});
+        if (auto* const conScritta = dynamic_cast<InteractiveControl*>(controllo)) {
+            Font carattere = conScritta->Font();
+            carattere.Points = punti * std::min(orizzontale, verticale);
+            conScritta->Font(carattere);
+        }
     }
 }
 

@@ -24,13 +24,13 @@ private:
     /// A control as it was laid out.
     struct Disegno {
         Bounds Posto;
-        double Punti;
+        double Punti;  // 0 where nothing is written
     };
 
     Form& form_;
     double larghezza_ = 0;
     double altezza_ = 0;
-    std::map<const VisualControl*, Disegno> disegni_;
+    std::map<const Control*, Disegno> disegni_;
 };
 
 }  // namespace trameli

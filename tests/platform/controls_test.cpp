@@ -2,6 +2,7 @@
 #include <QAccessible>
 #include <QMouseEvent>
 #include <QTest>
+#include <cmath>
 #include <numeric>
 
 #include "platform/bare_program.h"
@@ -12,9 +13,12 @@
 #include "platform/image.h"
 #include "platform/label.h"
 #include "platform/line.h"
+#include "platform/menu.h"
 #include "platform/option_button.h"
 #include "platform/picture_box.h"
+#include "platform/scroll_bar.h"
 #include "platform/shape.h"
+#include "platform/timer.h"
 
 namespace trameli {
 namespace {
@@ -87,7 +91,8 @@ TEST_F(ControlsTest, MouseClicksWhatIsEnabledAndOnlyInside) {
     label.Click = Noting("Label");
     image.Click = Noting("Image");
     Bring();
-    for (VisualControl* control : std::initializer_list<VisualControl*>{&button, &label, &image}) {
+    for (InteractiveControl* control :
+         std::initializer_list<InteractiveControl*>{&button, &label, &image}) {
         SCOPED_TRACE(control->Name());
         QWidget& widget = WidgetOf(*control);
         QWindow* window = WindowOf(TheForm).windowHandle();
@@ -198,7 +203,7 @@ TEST_F(ControlsTest, TabKeyFollowsTheTabIndices) {
     b.TabIndex(1);
     c.TabIndex(3);
     d.TabIndex(3);
-    for (VisualControl* control : {&a, &b, &c, &d, &late}) {
+    for (InteractiveControl* control : {&a, &b, &c, &d, &late}) {
         control->GotFocus = Noting(control->Name());
     }
     Bring();
@@ -232,9 +237,9 @@ TEST_F(ControlsTest, MovesReachExactlyWhatIsUnderThePointer) {
     ComboBox combo(frame, "Combo", {2400, 3000, 900, 450});
     Shape shape(frame, "Shape", {4200, 600, 900, 900}, 10, Black);
     Line line(frame, "Line", 4200, 3000, 5100, 3000, 10, Black);
-    const std::initializer_list<VisualControl*> inTheWay{&label, &option, &button,
-                                                         &image, &box,    &combo};
-    for (VisualControl* control : inTheWay) {
+    const std::initializer_list<InteractiveControl*> inTheWay{&label, &option, &button,
+                                                              &image, &box,    &combo};
+    for (InteractiveControl* control : inTheWay) {
         control->MouseMove = Noting(control->Name());
     }
     frame.MouseMove = Noting("Frame");
@@ -244,7 +249,7 @@ TEST_F(ControlsTest, MovesReachExactlyWhatIsUnderThePointer) {
         MoveOver(widget, where);
         return Seen;
     };
-    for (VisualControl* control : inTheWay) {
+    for (InteractiveControl* control : inTheWay) {
         QWidget& widget = WidgetOf(*control);
         EXPECT_EQ(over(widget, {5, 5}), Names{control->Name()});
         // With a button held as well, as hands that tremble do.
@@ -262,7 +267,7 @@ TEST_F(ControlsTest, MovesReachExactlyWhatIsUnderThePointer) {
     option.Enabled(false);
     label.Visible(false);
     for (const VisualControl* control :
-         std::initializer_list<VisualControl*>{&shape, &option, &label}) {
+         std::initializer_list<const VisualControl*>{&shape, &option, &label}) {
         EXPECT_EQ(over(WidgetOf(*control), {3, 3}), Names{"Frame"}) << control->Name();
     }
     EXPECT_EQ(over(WidgetOf(frame), {310, 200}), Names{"Frame"}) << "lines are not in the way";
@@ -275,7 +280,7 @@ TEST_F(ControlsTest, PointerIsTheControlsOwnOrElseTheForms) {
     Label label(TheForm, "Label", {300, 300, 900, 600}, "text");
     Label other(TheForm, "Other", {1500, 300, 900, 600}, "text");
     Bring();
-    const auto pointerOver = [&](const VisualControl& control) {
+    const auto pointerOver = [&](const InteractiveControl& control) {
         MoveOver(control);
         return WindowOf(TheForm).windowHandle()->cursor();
     };
@@ -292,13 +297,82 @@ TEST_F(ControlsTest, PointerIsTheControlsOwnOrElseTheForms) {
     EXPECT_EQ(pointerOver(label).hotSpot(), QPoint(1, 2));
 }
 
+// Properties by name.
+
+TEST_F(ControlsTest, PropertiesAreReadAndSetByName) {
+    using enum PropertyCode;
+    using Text = std::string;
+    ControlArray<OptionButton> options("Option");
+    OptionButton& option = options.Add(TheForm, Bounds{300, 300, 900, 600}, "text");
+    OptionButton single(TheForm, "Single", {300, 300, 900, 600}, "text");
+    Line line(TheForm, "Line", 0, 15, 30, 45, 1, Black);
+    MenuItem menu(TheForm, "Menu", "text");
+    Timer timer(TheForm, "Timer", 100);
+    HScrollBar bar(TheForm, "Bar", {300, 300, 900, 600}, 2, 60, 4);
+    ComboBox combo(TheForm, "Combo", {300, 300, 900, 600});
+    struct Row {
+        Control& Of;
+        const char* Property;
+        PropertyValue Value;
+        PropertyCode Setting;
+        PropertyCode Reading = Done;
+    };
+    const Row rows[] = {
+        {option, "Caption", Text("x"), Done},
+        {option, "ToolTipText", Text("x"), Done},
+        {option, "Tag", Text("x"), Done},
+        {option, "AccessibleName", Text("x"), Done},
+        {option, "Left", 300.25, Done},
+        {option, "Height", 12.5, Done},
+        {option, "Visible", false, Done},
+        {option, "Enabled", false, Done},
+        {option, "Value", true, Done},
+        {option, "BackColor", 255.0, Done},
+        {option, "TabIndex", 7.0, Done},
+        {option, "Name", Text("Option"), ReadOnly},
+        {option, "Index", 0.0, ReadOnly},
+        {single, "Index", 0.0, NoSuchProperty, NoSuchProperty},
+        {option, "left", 300.0, NoSuchProperty, NoSuchProperty},
+        {option, "X1", 300.0, NoSuchProperty, NoSuchProperty},
+        {option, "Left", Text("300"), InvalidValue},
+        {option, "Left", std::nan(""), InvalidValue},
+        {option, "Caption", 300.0, InvalidValue},
+        {option, "Visible", 1.0, InvalidValue},
+        {line, "X1", 7.5, Done},
+        {line, "Y2", 7.5, Done},
+        {line, "BorderWidth", 3.0, Done},
+        {line, "Visible", false, Done},
+        {line, "Left", 7.5, NoSuchProperty, NoSuchProperty},
+        {line, "Caption", Text("x"), NoSuchProperty, NoSuchProperty},
+        {menu, "Caption", Text("x"), Done},
+        {menu, "Checked", true, Done},
+        {menu, "Enabled", false, Done},
+        {menu, "Visible", false, Done},
+        {menu, "Width", 7.5, NoSuchProperty, NoSuchProperty},
+        {menu, "ToolTipText", Text("x"), NoSuchProperty, NoSuchProperty},
+        {timer, "Interval", 20.0, Done},
+        {timer, "Enabled", true, Done},
+        {timer, "Caption", Text("x"), NoSuchProperty, NoSuchProperty},
+        {bar, "Value", 17.0, Done},
+        {combo, "ListIndex", -1.0, Done},
+        {combo, "Text", Text(), ReadOnly},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.Of.Name() + "." + row.Property);
+        EXPECT_EQ(row.Of.Set(row.Property, row.Value), row.Setting);
+        PropertyValue value = Text("nothing");
+        EXPECT_EQ(row.Of.Get(row.Property, value), row.Reading);
+        EXPECT_EQ(value == row.Value, row.Reading == Done && row.Setting != InvalidValue);
+    }
+}
+
 // Assistive technology.
 
 TEST_F(ControlsTest, PicturesAreTakenForPicturesByAssistiveTechnology) {
     Image image(TheForm, "Image", {300, 300, 900, 600}, {"sole.svg"});
     PictureBox box(TheForm, "Box", {300, 300, 900, 600});
     Bring();
-    for (VisualControl* control : std::initializer_list<VisualControl*>{&image, &box}) {
+    for (InteractiveControl* control : std::initializer_list<InteractiveControl*>{&image, &box}) {
         control->AccessibleName("Sole");
         auto* interface = QAccessible::queryAccessibleInterface(&WidgetOf(*control));
         ASSERT_NE(interface, nullptr);

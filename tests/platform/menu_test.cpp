@@ -107,6 +107,10 @@ TEST_F(MenuTest, EntriesComeAndGo) {
     Choose(3);
     EXPECT_EQ(Seen, Texts{std::string(100, 'x')});
     EXPECT_EQ(Entries(), (Texts{"Before", "User", "User 1", "User 3", "After"}));
+    entries.Unload(1);
+    entries.Unload(3);
+    const MenuItem between(Menu, "mnuBetween", "Between", 0, &after);
+    EXPECT_EQ(Entries(), (Texts{"Before", "User", "Between", "After"}));
 }
 
 }  // namespace

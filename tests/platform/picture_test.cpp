@@ -36,8 +36,8 @@ TEST_F(PictureTest, ControlsHaveTheirColoursAndArePaleWhereDisabled) {
     OptionButton option(TheForm, "Option", place, "Caption");
     Label label(TheForm, "Label", place, "Caption");
     Frame frame(TheForm, "Frame", place, "Caption");
-    for (VisualControl* control :
-         std::initializer_list<VisualControl*>{&frame, &label, &option, &button}) {
+    for (InteractiveControl* control :
+         std::initializer_list<InteractiveControl*>{&frame, &label, &option, &button}) {
         SCOPED_TRACE(control->Name());
         control->Font(Large);
         control->BackColor(White);

@@ -2,13 +2,14 @@
 
 #include <QComboBox>
 
+#include "platform/property_access.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/native.h"
 
 namespace trameli {
 
 ComboBox::ComboBox(Container& container, ControlName name, const Bounds& bounds)
-    : VisualControl(container, std::move(name), bounds, MakeNative<QComboBox>(container)) {
+    : InteractiveControl(container, std::move(name), bounds, MakeNative<QComboBox>(container)) {
     auto& widget = WidgetOf<QComboBox>(*this);
     widget.setFocusPolicy(Qt::StrongFocus);
     QPalette palette = widget.palette();
@@ -53,6 +54,12 @@ void ComboBox::ListIndex(int index) {
     }
     widget.setCurrentIndex(index);
     Fire(*this, Click);
+}
+
+void ComboBox::Properties(PropertyAccess& access) {
+    access.At("ListIndex", *this, &ComboBox::ListIndex, &ComboBox::ListIndex);
+    access.At("Text", *this, &ComboBox::Text);
+    InteractiveControl::Properties(access);
 }
 
 }  // namespace trameli

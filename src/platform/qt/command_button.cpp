@@ -88,15 +88,14 @@ private:
 
 CommandButton::CommandButton(Container& container, ControlName name, const Bounds& bounds,
                              std::string caption)
-    : VisualControl(container, std::move(name), bounds, MakeNative<ButtonWidget>(container)) {
+    : Captioned(container, std::move(name), bounds, MakeNative<ButtonWidget>(container)) {
     QObject::connect(&WidgetOf<ButtonWidget>(*this), &QPushButton::clicked,
                      [this] { Fire(*this, Click); });
     Caption(caption);
 }
 
-void CommandButton::Caption(const std::string& caption) {
-    caption_ = caption;
-    WidgetOf<ButtonWidget>(*this).setText(ToQt(caption));
+void CommandButton::ShowCaption() {
+    WidgetOf<ButtonWidget>(*this).setText(ToQt(Caption()));
 }
 
 void CommandButton::Picture(const trameli::Picture& picture) {

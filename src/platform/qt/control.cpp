@@ -8,6 +8,7 @@
 
 #include "base/rounding.h"
 #include "platform/forms.h"
+#include "platform/property_access.h"
 #include "platform/qt/control_events.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/form_window.h"
@@ -49,95 +50,151 @@ double TwipsPerPixel(const Form& form) {
     return form.Forms().Screen().TwipsPerPixelX();
 }
 
-VisualControl::VisualControl(Container& container, ControlName name, const Bounds& bounds,
-                             std::unique_ptr<Native> native)
+PropertyCode Control::Get(std::string_view property, PropertyValue& value) const {
+    PropertyAccess access(property, value);
+    // The list of properties serves reading and setting alike; an access that reads sets nothing.
+    const_cast<Control*>(this)->Properties(access);
+    return access.Code();
+}
+
+PropertyCode Control::Set(std::string_view property, const PropertyValue& value) {
+    PropertyAccess access(property, value);
+    Properties(access);
+    return access.Code();
+}
+
+void Control::Properties(PropertyAccess& access) {
+    access.At("Name", *this, &Control::Name);
+    access.At("Tag", *this, &Control::Tag, &Control::Tag);
+    if (Index()) {
+        access.At("Index", *this, &Control::IndexNumber);
+    }
+}
+
+VisualControl::VisualControl(Container& container, ControlName name, std::unique_ptr<Native> native)
     : Control(container.ContainerForm(), std::move(name)), native_(std::move(native)) {
-    QWidget* widget = native_->Widget;
-    widget->setObjectName(ToQt(Name()));
-    widget->setFont(ToQt(font_, TwipsPerPixel(OwnerForm())));
-    new ControlEvents(*this, widget);
-    Place(bounds);
-    BackColor(backColor_);
-    ForeColor(foreColor_);
+    native_->Widget->setObjectName(ToQt(Name()));
     // A widget made after its window was shown stays hidden unless it is told.
-    widget->show();
+    native_->Widget->show();
 }
 
 VisualControl::~VisualControl() = default;
-
-void VisualControl::Left(double twips) {
-    Place({twips, bounds_.Top, bounds_.Width, bounds_.Height});
-}
-
-void VisualControl::Top(double twips) {
-    Place({bounds_.Left, twips, bounds_.Width, bounds_.Height});
-}
-
-void VisualControl::Width(double twips) {
-    Place({bounds_.Left, bounds_.Top, twips, bounds_.Height});
-}
-
-void VisualControl::Height(double twips) {
-    Place({bounds_.Left, bounds_.Top, bounds_.Width, twips});
-}
-
-void VisualControl::Place(const Bounds& bounds) {
-    bounds_ = bounds;
-    // Both edges are rounded, not one edge and the size: what touches in twips touches in pixels.
-    const double twips = TwipsPerPixel(OwnerForm());
-    const int left = Nearest(bounds.Left / twips);
-    const int top = Nearest(bounds.Top / twips);
-    const int right = Nearest((bounds.Left + bounds.Width) / twips);
-    const int bottom = Nearest((bounds.Top + bounds.Height) / twips);
-    native_->Widget->setGeometry(left, top, std::max(0, right - left), std::max(0, bottom - top));
-}
 
 void VisualControl::Visible(bool visible) {
     visible_ = visible;
     native_->Widget->setVisible(visible);
 }
 
-void VisualControl::Enabled(bool enabled) {
+void VisualControl::ToFront() {
+    native_->Widget->raise();
+}
+
+void VisualControl::ToBack() {
+    native_->Widget->lower();
+}
+
+void VisualControl::Cover(const Bounds& area) {
+    // Both edges are rounded, not one edge and the size: what touches in twips touches in pixels.
+    const double twips = TwipsPerPixel(OwnerForm());
+    const int left = Nearest(area.Left / twips);
+    const int top = Nearest(area.Top / twips);
+    const int right = Nearest((area.Left + area.Width) / twips);
+    const int bottom = Nearest((area.Top + area.Height) / twips);
+    native_->Widget->setGeometry(left, top, std::max(0, right - left), std::max(0, bottom - top));
+}
+
+void VisualControl::Properties(PropertyAccess& access) {
+    access.At("Visible", *this, &VisualControl::Visible, &VisualControl::Visible);
+    Control::Properties(access);
+}
+
+PlacedControl::PlacedControl(Container& container, ControlName name, const Bounds& bounds,
+                             std::unique_ptr<Native> native)
+    : VisualControl(container, std::move(name), std::move(native)) {
+    Place(bounds);
+}
+
+void PlacedControl::Left(double twips) {
+    Place({twips, bounds_.Top, bounds_.Width, bounds_.Height});
+}
+
+void PlacedControl::Top(double twips) {
+    Place({bounds_.Left, twips, bounds_.Width, bounds_.Height});
+}
+
+void PlacedControl::Width(double twips) {
+    Place({bounds_.Left, bounds_.Top, twips, bounds_.Height});
+}
+
+void PlacedControl::Height(double twips) {
+    Place({bounds_.Left, bounds_.Top, bounds_.Width, twips});
+}
+
+void PlacedControl::Place(const Bounds& bounds) {
+    bounds_ = bounds;
+    Cover(bounds);
+}
+
+void PlacedControl::Properties(PropertyAccess& access) {
+    access.At("Left", *this, &PlacedControl::Left, &PlacedControl::Left);
+    access.At("Top", *this, &PlacedControl::Top, &PlacedControl::Top);
+    access.At("Width", *this, &PlacedControl::Width, &PlacedControl::Width);
+    access.At("Height", *this, &PlacedControl::Height, &PlacedControl::Height);
+    VisualControl::Properties(access);
+}
+
+InteractiveControl::InteractiveControl(Container& container, ControlName name, const Bounds& bounds,
+                                       std::unique_ptr<Native> native)
+    : PlacedControl(container, std::move(name), bounds, std::move(native)) {
+    QWidget* widget = NativePart().Widget;
+    widget->setFont(ToQt(font_, TwipsPerPixel(OwnerForm())));
+    new ControlEvents(*this, widget);
+    BackColor(backColor_);
+    ForeColor(foreColor_);
+}
+
+void InteractiveControl::Enabled(bool enabled) {
     enabled_ = enabled;
-    native_->Widget->setEnabled(enabled);
+    NativePart().Widget->setEnabled(enabled);
 }
 
-void VisualControl::BackColor(Colour colour) {
+void InteractiveControl::BackColor(Colour colour) {
     backColor_ = colour;
-    QPalette palette = native_->Widget->palette();
+    QPalette palette = NativePart().Widget->palette();
     palette.setColor(QPalette::Window, ToQt(colour));
-    native_->Widget->setPalette(palette);
+    NativePart().Widget->setPalette(palette);
 }
 
-void VisualControl::ForeColor(Colour colour) {
+void InteractiveControl::ForeColor(Colour colour) {
     foreColor_ = colour;
-    QPalette palette = native_->Widget->palette();
+    QPalette palette = NativePart().Widget->palette();
     palette.setColor(QPalette::WindowText, ToQt(colour));
     // What cannot be used is pale, whatever its colour.
     palette.setColor(QPalette::Disabled, QPalette::WindowText, Pale(ToQt(colour)));
-    native_->Widget->setPalette(palette);
+    NativePart().Widget->setPalette(palette);
 }
 
-void VisualControl::Font(const trameli::Font& font) {
+void InteractiveControl::Font(const trameli::Font& font) {
     font_ = font;
-    native_->Widget->setFont(ToQt(font, TwipsPerPixel(OwnerForm())));
+    NativePart().Widget->setFont(ToQt(font, TwipsPerPixel(OwnerForm())));
 }
 
-void VisualControl::ToolTipText(const std::string& text) {
+void InteractiveControl::ToolTipText(const std::string& text) {
     toolTipText_ = text;
-    native_->Widget->setToolTip(ToQt(text));
+    NativePart().Widget->setToolTip(ToQt(text));
 }
 
-void VisualControl::AccessibleName(const std::string& name) {
-    native_->Widget->setAccessibleName(ToQt(name));
+void InteractiveControl::AccessibleName(const std::string& name) {
+    accessibleName_ = name;
+    NativePart().Widget->setAccessibleName(ToQt(name));
 }
 
-void VisualControl::TabIndex(int index) {
+void InteractiveControl::TabIndex(int index) {
     tabIndex_ = index;
 }
 
-void VisualControl::SetFocus() {
-    QWidget* widget = native_->Widget;
+void InteractiveControl::SetFocus() {
+    QWidget* widget = NativePart().Widget;
     if (KeyboardTaken(OwnerForm())) {
         return;
     }
@@ -146,9 +203,20 @@ void VisualControl::SetFocus() {
     }
 }
 
-void VisualControl::MouseIcon(std::optional<PointerImage> icon) {
+void InteractiveControl::MouseIcon(std::optional<PointerImage> icon) {
     mouseIcon_ = std::move(icon);
-    SetPointer(*native_->Widget, mouseIcon_);
+    SetPointer(*NativePart().Widget, mouseIcon_);
+}
+
+void InteractiveControl::Properties(PropertyAccess& access) {
+    using Own = InteractiveControl;
+    access.At("Enabled", *this, &Own::Enabled, &Own::Enabled);
+    access.At("BackColor", *this, &Own::BackColor, &Own::BackColor);
+    access.At("ForeColor", *this, &Own::ForeColor, &Own::ForeColor);
+    access.At("ToolTipText", *this, &Own::ToolTipText, &Own::ToolTipText);
+    access.At("AccessibleName", *this, &Own::AccessibleName, &Own::AccessibleName);
+    access.At("TabIndex", *this, &Own::TabIndex, &Own::TabIndex);
+    PlacedControl::Properties(access);
 }
 
 }  // namespace trameli

@@ -9,7 +9,7 @@
 
 namespace trameli {
 
-ControlEvents::ControlEvents(VisualControl& control, QWidget* widget)
+ControlEvents::ControlEvents(InteractiveControl& control, QWidget* widget)
     : QObject(widget), control_(control) {
     widget->setMouseTracking(true);
     widget->setAttribute(Qt::WA_NoMousePropagation);

@@ -12,13 +12,13 @@ namespace trameli {
 class ControlEvents : public QObject {
 public:
     /// `widget` becomes the owner.
-    ControlEvents(VisualControl& control, QWidget* widget);
+    ControlEvents(InteractiveControl& control, QWidget* widget);
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
-    VisualControl& control_;
+    InteractiveControl& control_;
 };
 
 }  // namespace trameli

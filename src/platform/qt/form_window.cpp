@@ -281,11 +281,11 @@ bool FormWindow::focusNextPrevChild(bool next) {
 }
 
 /// Tells the toolkit of the order of the Tab key, and returns it.
-std::vector<const VisualControl*> FormWindow::OrderTabs() {
-    std::vector<const VisualControl*> controls;
+std::vector<const InteractiveControl*> FormWindow::OrderTabs() {
+    std::vector<const InteractiveControl*> controls;
     for (const Control* control : form_.Controls()) {
-        if (const auto* visual = dynamic_cast<const VisualControl*>(control)) {
-            controls.push_back(visual);
+        if (const auto* interactive = dynamic_cast<const InteractiveControl*>(control)) {
+            controls.push_back(interactive);
         }
     }
     std::stable_sort(controls.begin(), controls.end(),
@@ -297,7 +297,7 @@ std::vector<const VisualControl*> FormWindow::OrderTabs() {
 }
 
 void FormWindow::FocusFirst() {
-    for (const VisualControl* control : OrderTabs()) {
+    for (const InteractiveControl* control : OrderTabs()) {
         QWidget* widget = control->NativePart().Widget;
         if (widget->focusPolicy() != Qt::NoFocus && control->Visible() && control->Enabled()) {
             widget->setFocus();

@@ -55,7 +55,7 @@ private:
     void Settle();
     bool HasFinalSize() const;
     void Activate();
-    std::vector<const VisualControl*> OrderTabs();
+    std::vector<const InteractiveControl*> OrderTabs();
     void FocusFirst();
     void LookUpFonts();
 

@@ -45,13 +45,12 @@ protected:
 }  // namespace
 
 Frame::Frame(Container& container, ControlName name, const Bounds& bounds, std::string caption)
-    : VisualControl(container, std::move(name), bounds, MakeNative<FrameWidget>(container)) {
+    : Captioned(container, std::move(name), bounds, MakeNative<FrameWidget>(container)) {
     Caption(caption);
 }
 
-void Frame::Caption(const std::string& caption) {
-    caption_ = caption;
-    WidgetOf<FrameWidget>(*this).setTitle(ToQt(caption));
+void Frame::ShowCaption() {
+    WidgetOf<FrameWidget>(*this).setTitle(ToQt(Caption()));
 }
 
 void Frame::Border(bool border) {
@@ -60,7 +59,7 @@ void Frame::Border(bool border) {
 }
 
 Container::Native Frame::ContainerNative() {
-    return {VisualControl::NativePart().Widget};
+    return {NativePart().Widget};
 }
 
 }  // namespace trameli

@@ -34,7 +34,7 @@ protected:
 
 Image::Image(Container& container, ControlName name, const Bounds& bounds,
              const trameli::Picture& picture)
-    : VisualControl(container, std::move(name), bounds, MakeNative<ImageWidget>(container)) {
+    : InteractiveControl(container, std::move(name), bounds, MakeNative<ImageWidget>(container)) {
     WidgetOf<ImageWidget>(*this).Owner = this;
     Picture(picture);
 }

@@ -51,14 +51,13 @@ protected:
 }  // namespace
 
 Label::Label(Container& container, ControlName name, const Bounds& bounds, std::string caption)
-    : VisualControl(container, std::move(name), bounds, MakeNative<LabelWidget>(container)) {
+    : Captioned(container, std::move(name), bounds, MakeNative<LabelWidget>(container)) {
     WidgetOf<LabelWidget>(*this).Owner = this;
     Caption(caption);
 }
 
-void Label::Caption(const std::string& caption) {
-    caption_ = caption;
-    WidgetOf<LabelWidget>(*this).setText(ToQt(caption));
+void Label::ShowCaption() {
+    WidgetOf<LabelWidget>(*this).setText(ToQt(Caption()));
 }
 
 void Label::TextAlignment(Alignment alignment) {

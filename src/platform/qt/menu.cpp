@@ -19,11 +19,9 @@ const trameli::Font MenuFont{"Arial", 9, false};
 
 /// The window owns menus and actions; the entry's own goes with the entry.
 struct MenuItem::Native {
-    /// Behind the entry `previous`, or at the end.
-    explicit Native(QWidget* where, QAction* previous = nullptr)
-        : Where(where), Action(new QAction(where)) {
-        const qsizetype place = Where->actions().indexOf(previous);
-        Where->insertAction(place < 0 ? nullptr : Where->actions().value(place + 1), Action);
+    /// In front of the entry `before`, or at the end.
+    Native(QWidget* where, QAction* before) : Where(where), Action(new QAction(where)) {
+        Where->insertAction(before, Action);
     }
     ~Native() { delete Action.data(); }
     Native(const Native&) = delete;
@@ -39,6 +37,9 @@ struct MenuItem::Native {
         return Action->menu();
     }
 
+    /// The entry behind this one, nothing at the end.
+    QAction* Next() const { return Where->actions().value(Where->actions().indexOf(Action) + 1); }
+
     QWidget* Where;  // the bar or the menu that the entry stands in
     QPointer<QAction> Action;
 };
@@ -50,6 +51,10 @@ QMenuBar* BarOf(Form& form) {
     bar->setNativeMenuBar(false);
     bar->setFont(ToQt(MenuFont, TwipsPerPixel(form)));
     return bar;
+}
+
+QAction* ActionOf(const MenuItem* entry) {
+    return entry ? entry->NativePart().Action.data() : nullptr;
 }
 
 /// The entry of the model's array that comes before the element `index`.
@@ -67,15 +72,17 @@ const MenuItem& PreviousOf(const MenuItem& model, int index) {
 
 }  // namespace
 
-MenuItem::MenuItem(Form& form, ControlName name, std::string caption)
-    : Control(form, std::move(name)), native_(std::make_unique<Native>(BarOf(form))) {
+MenuItem::MenuItem(Form& form, ControlName name, std::string caption, const MenuItem* before)
+    : Captioned(form, std::move(name)),
+      native_(std::make_unique<Native>(BarOf(form), ActionOf(before))) {
     Listen();
     Caption(caption);
 }
 
-MenuItem::MenuItem(MenuItem& parent, ControlName name, std::string caption, char letter)
-    : Control(parent.OwnerForm(), std::move(name)),
-      native_(std::make_unique<Native>(parent.NativePart().Menu())) {
+MenuItem::MenuItem(MenuItem& parent, ControlName name, std::string caption, char letter,
+                   const MenuItem* before)
+    : Captioned(parent.OwnerForm(), std::move(name)),
+      native_(std::make_unique<Native>(parent.NativePart().Menu(), ActionOf(before))) {
     if (letter != 0) {
         // Held down, a key is one press and no more.
         native_->Action->setAutoRepeat(false);
@@ -86,9 +93,9 @@ MenuItem::MenuItem(MenuItem& parent, ControlName name, std::string caption, char
 }
 
 MenuItem::MenuItem(MenuItem& model, int index)
-    : Control(model.OwnerForm(), {model.Name(), index}),
+    : Captioned(model.OwnerForm(), {model.Name(), index}),
       native_(std::make_unique<Native>(model.NativePart().Where,
-                                       PreviousOf(model, index).NativePart().Action)) {
+                                       PreviousOf(model, index).NativePart().Next())) {
     Listen();
     Caption(model.Caption());
     Visible(false);
@@ -104,9 +111,8 @@ void MenuItem::Listen() {
     });
 }
 
-void MenuItem::Caption(const std::string& caption) {
-    caption_ = caption;
-    native_->Action->setText(ToQt(caption));
+void MenuItem::ShowCaption() {
+    native_->Action->setText(ToQt(Caption()));
 }
 
 void MenuItem::Enabled(bool enabled) {
@@ -123,6 +129,13 @@ void MenuItem::Checked(bool checked) {
     checked_ = checked;
     native_->Action->setCheckable(checked);
     native_->Action->setChecked(checked);
+}
+
+void MenuItem::Properties(PropertyAccess& access) {
+    access.At("Enabled", *this, &MenuItem::Enabled, &MenuItem::Enabled);
+    access.At("Visible", *this, &MenuItem::Visible, &MenuItem::Visible);
+    access.At("Checked", *this, &MenuItem::Checked, &MenuItem::Checked);
+    Captioned::Properties(access);
 }
 
 }  // namespace trameli

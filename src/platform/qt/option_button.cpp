@@ -54,7 +54,7 @@ protected:
 
 OptionButton::OptionButton(Container& container, ControlName name, const Bounds& bounds,
                            std::string caption)
-    : VisualControl(container, std::move(name), bounds, MakeNative<OptionWidget>(container)) {
+    : Captioned(container, std::move(name), bounds, MakeNative<OptionWidget>(container)) {
     QObject::connect(&WidgetOf<OptionWidget>(*this), &QRadioButton::toggled, [this](bool chosen) {
         if (chosen) {
             Fire(*this, Click);
@@ -63,9 +63,8 @@ OptionButton::OptionButton(Container& container, ControlName name, const Bounds&
     Caption(caption);
 }
 
-void OptionButton::Caption(const std::string& caption) {
-    caption_ = caption;
-    WidgetOf<OptionWidget>(*this).setText(ToQt(caption));
+void OptionButton::ShowCaption() {
+    WidgetOf<OptionWidget>(*this).setText(ToQt(Caption()));
 }
 
 bool OptionButton::Value() const {
@@ -78,6 +77,11 @@ void OptionButton::Value(bool chosen) {
     widget.setAutoExclusive(chosen);
     widget.setChecked(chosen);
     widget.setAutoExclusive(true);
+}
+
+void OptionButton::Properties(PropertyAccess& access) {
+    access.At("Value", *this, &OptionButton::Value, &OptionButton::Value);
+    Captioned::Properties(access);
 }
 
 }  // namespace trameli

@@ -41,7 +41,8 @@ protected:
 }  // namespace
 
 PictureBox::PictureBox(Container& container, ControlName name, const Bounds& bounds)
-    : VisualControl(container, std::move(name), bounds, MakeNative<PictureBoxWidget>(container)),
+    : InteractiveControl(container, std::move(name), bounds,
+                         MakeNative<PictureBoxWidget>(container)),
       container_(container) {
     auto& widget = WidgetOf<PictureBoxWidget>(*this);
     widget.Drawn = &SurfaceNative();
@@ -62,7 +63,7 @@ PictureBox::PictureBox(PictureBox& model, int index)
 }
 
 void PictureBox::BackColor(Colour colour) {
-    VisualControl::BackColor(colour);
+    InteractiveControl::BackColor(colour);
     SurfaceNative().Background(colour);
 }
 

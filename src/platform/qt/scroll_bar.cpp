@@ -2,14 +2,15 @@
 
 #include <QScrollBar>
 
+#include "platform/property_access.h"
 #include "platform/qt/native.h"
 
 namespace trameli {
 
 HScrollBar::HScrollBar(Container& container, ControlName name, const Bounds& bounds, int min,
                        int max, int largeChange)
-    : VisualControl(container, std::move(name), bounds,
-                    MakeNative<QScrollBar>(container, Qt::Horizontal)) {
+    : InteractiveControl(container, std::move(name), bounds,
+                         MakeNative<QScrollBar>(container, Qt::Horizontal)) {
     auto& widget = WidgetOf<QScrollBar>(*this);
     widget.setFocusPolicy(Qt::NoFocus);
     widget.setContextMenuPolicy(Qt::NoContextMenu);  // it would take the keys
@@ -24,6 +25,11 @@ int HScrollBar::Value() const {
 
 void HScrollBar::Value(int value) {
     WidgetOf<QScrollBar>(*this).setValue(value);
+}
+
+void HScrollBar::Properties(PropertyAccess& access) {
+    access.At("Value", *this, &HScrollBar::Value, &HScrollBar::Value);
+    InteractiveControl::Properties(access);
 }
 
 }  // namespace trameli

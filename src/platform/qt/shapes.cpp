@@ -3,6 +3,7 @@
 
 #include "base/rounding.h"
 #include "platform/line.h"
+#include "platform/property_access.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/native.h"
 #include "platform/shape.h"
@@ -53,7 +54,7 @@ public:
 
 Shape::Shape(Container& container, ControlName name, const Bounds& bounds, int borderWidth,
              Colour borderColor)
-    : VisualControl(container, std::move(name), bounds, MakeNative<ShapeWidget>(container)) {
+    : PlacedControl(container, std::move(name), bounds, MakeNative<ShapeWidget>(container)) {
     constexpr double usualTwips = 15;
     auto& widget = WidgetOf<ShapeWidget>(*this);
     widget.PenWidth = std::max(1, Nearest(borderWidth * usualTwips / TwipsPerPixel(OwnerForm())));
@@ -67,10 +68,18 @@ void Shape::BorderColor(Colour colour) {
     WidgetOf<ShapeWidget>(*this).update();
 }
 
+void Shape::Properties(PropertyAccess& access) {
+    access.At("BorderColor", *this, &Shape::BorderColor, &Shape::BorderColor);
+    PlacedControl::Properties(access);
+}
+
 Line::Line(Container& container, ControlName name, double x1, double y1, double x2, double y2,
            int borderWidth, Colour borderColor)
-    : VisualControl(container, std::move(name), {}, MakeNative<LineWidget>(container)),
-      ends_{x1, y1, x2, y2},
+    : VisualControl(container, std::move(name), MakeNative<LineWidget>(container)),
+      x1_(x1),
+      y1_(y1),
+      x2_(x2),
+      y2_(y2),
       borderWidth_(borderWidth) {
     WidgetOf<LineWidget>(*this).lower();
     BorderColor(borderColor);
@@ -78,7 +87,10 @@ Line::Line(Container& container, ControlName name, double x1, double y1, double 
 }
 
 void Line::Ends(double x1, double y1, double x2, double y2) {
-    ends_ = {x1, y1, x2, y2};
+    x1_ = x1;
+    y1_ = y1;
+    x2_ = x2;
+    y2_ = y2;
     Lay();
 }
 
@@ -99,12 +111,22 @@ void Line::Lay() {
     const double room = borderWidth_ * twips;
     const double left = std::min(X1(), X2()) - room;
     const double top = std::min(Y1(), Y2()) - room;
-    Place({left, top, std::abs(X2() - X1()) + 2 * room, std::abs(Y2() - Y1()) + 2 * room});
+    Cover({left, top, std::abs(X2() - X1()) + 2 * room, std::abs(Y2() - Y1()) + 2 * room});
     auto& widget = WidgetOf<LineWidget>(*this);
     widget.PenWidth = borderWidth_;
     widget.From = QPointF(X1() - left, Y1() - top) / twips;
     widget.To = QPointF(X2() - left, Y2() - top) / twips;
     widget.update();
+}
+
+void Line::Properties(PropertyAccess& access) {
+    access.At("X1", *this, &Line::X1, &Line::X1);
+    access.At("Y1", *this, &Line::Y1, &Line::Y1);
+    access.At("X2", *this, &Line::X2, &Line::X2);
+    access.At("Y2", *this, &Line::Y2, &Line::Y2);
+    access.At("BorderWidth", *this, &Line::BorderWidth, &Line::BorderWidth);
+    access.At("BorderColor", *this, &Line::BorderColor, &Line::BorderColor);
+    VisualControl::Properties(access);
 }
 
 }  // namespace trameli

@@ -67,8 +67,8 @@ public:
 
 StatusBar::StatusBar(Form& form, ControlName name, double panelWidth,
                      std::initializer_list<const char*> texts)
-    : VisualControl(form, std::move(name), {0, 0, 0, BarHeight},
-                    MakeNative<StatusBarWidget>(form)) {
+    : InteractiveControl(form, std::move(name), {0, 0, 0, BarHeight},
+                         MakeNative<StatusBarWidget>(form)) {
     auto& widget = WidgetOf<StatusBarWidget>(*this);
     widget.Owner = this;
     widget.PanelWidth = panelWidth;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/forms.h"
+#include "platform/property_access.h"
 #include "platform/qt/native.h"
 
 namespace trameli {
@@ -22,6 +23,12 @@ void Timer::Enabled(bool enabled) {
         enabled_ = enabled;
         Restart();
     }
+}
+
+void Timer::Properties(PropertyAccess& access) {
+    access.At("Interval", *this, &Timer::Interval, &Timer::Interval);
+    access.At("Enabled", *this, &Timer::Enabled, &Timer::Enabled);
+    Control::Properties(access);
 }
 
 void Timer::Restart() {
