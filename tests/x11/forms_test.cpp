@@ -128,7 +128,7 @@ TEST_F(FormsOnX11, SeeAHeldKeyAsOneStroke) {
     ASSERT_NO_FATAL_FAILURE(AwaitFront("A"));
     struct Row {
         const char* Key;
-        VisualControl& On;
+        InteractiveControl& On;
         Log Expected;
     };
     ScriptedForm& form = Get("A");
