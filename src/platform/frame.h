@@ -13,6 +13,10 @@ public:
     /// Without a border there is no caption either.
     void Border(bool border);
 
+    /// Takes a control that lies elsewhere on the form, with its place as it is, above those that
+    /// the frame has.
+    void Take(VisualControl& control);
+
     Form& ContainerForm() override { return OwnerForm(); }
     Container::Native ContainerNative() override;
 

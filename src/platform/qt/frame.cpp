@@ -58,6 +58,12 @@ void Frame::Border(bool border) {
     WidgetOf<FrameWidget>(*this).update();
 }
 
+void Frame::Take(VisualControl& control) {
+    QWidget* const widget = control.NativePart().Widget;
+    widget->setParent(ContainerNative().Widget);
+    widget->setVisible(control.Visible());
+}
+
 Container::Native Frame::ContainerNative() {
     return {NativePart().Widget};
 }
