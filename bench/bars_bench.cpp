@@ -55,8 +55,6 @@ struct Maze {
     CasualeConSeme Draws{1};
     Tramelo Walls{6, 9, Draws};
     Geometria Geometry = CalcolaGeometria(28800, 14250, 6, 9);
-    Misure Measures{Geometry.DimensioneCella, Geometry.MargineSinistro, Geometry.MargineSuperiore,
-                    10};
 };
 
 void RebuildBars(benchmark::State& state) {
@@ -70,7 +68,7 @@ void RebuildBars(benchmark::State& state) {
     const Maze maze;
     QWidget& surface = *static_cast<VisualControl&>(board.Surface).NativePart().Widget;
     QImage window(surface.size(), QImage::Format_RGB32);
-    const auto places = PostiBarre(maze.Walls, maze.Measures);
+    const auto places = PostiBarre(maze.Walls, maze.Geometry);
     for (auto _ : state) {
         while (board.Bars.Count() > 1) {
             board.Bars.Unload(board.Bars.Count() - 1);
@@ -90,7 +88,7 @@ void PaintBars(benchmark::State& state) {
     const Maze maze;
     const QImage texture(420, 420, QImage::Format_RGB32);
     QImage window(1920, 950, QImage::Format_RGB32);
-    const auto places = PostiBarre(maze.Walls, maze.Measures);
+    const auto places = PostiBarre(maze.Walls, maze.Geometry);
     for (auto _ : state) {
         window.fill(Qt::yellow);
         QPainter painter(&window);

@@ -35,8 +35,6 @@ struct Scene {
         Maze.Scava();
     }
 
-    Misure Measures() const { return MisureDi(Geometry, Thickness); }
-
     CasualeConSeme Draws{1};
     Tramelo Maze{Rows, Columns, Draws};
     Geometria Geometry = CalcolaGeometria(Width * Twips, Height* Twips, Rows, Columns);
@@ -56,7 +54,8 @@ void PaintStroke(QPainter& painter, const Segmento& stroke, int pen, Qt::PenCapS
 void DrawWalls(benchmark::State& state) {
     Scene scene;
     for (auto _ : state) {
-        DisegnaMuriALinee(scene.Canvas, scene.Maze, scene.Measures(), Estremi::Tondi, Black, Twips);
+        DisegnaMuriALinee(scene.Canvas, scene.Maze, scene.Geometry, scene.Thickness.SpessoreMuri,
+                          Estremi::Tondi, Black);
     }
 }
 
@@ -69,7 +68,7 @@ void PaintWalls(benchmark::State& state) {
             for (std::int16_t c = 1; c <= Columns; ++c) {
                 for (const Lato side : {Lato::Alto, Lato::Basso, Lato::Sinistra, Lato::Destra}) {
                     if (scene.Maze.Muri(r, c, side)) {
-                        PaintStroke(painter, SegmentoMuro({r, c}, side, scene.Measures(), 0),
+                        PaintStroke(painter, SegmentoMuro({r, c}, side, scene.Geometry),
                                     static_cast<int>(scene.Thickness.SpessoreMuri), Qt::RoundCap,
                                     Qt::black);
                     }
@@ -81,8 +80,7 @@ void PaintWalls(benchmark::State& state) {
 
 /// A trace of so many points, to and fro along one row.
 Traccia Walk(const Scene& scene, int points) {
-    Traccia trace;
-    trace.Alloca(Rows, Columns);
+    Traccia trace(Rows, Columns);
     const auto at = [&](int i) {
         const int round = i % (2 * (Columns - 1));
         const int column = round < Columns ? round : 2 * (Columns - 1) - round;

@@ -22,15 +22,15 @@ constexpr std::uint64_t Seme = 2024;
 constexpr int UltimoLivello = 15;
 
 void Genera(int livello, Tramelo& tramelo, Casuale& casuale) {
-    constexpr Misure misure{
-        .DimensioneCella = 600, .MargineSinistro = 700, .MargineSuperiore = 700, .SpessoreMuri = 4};
+    constexpr Geometria geometria{
+        .DimensioneCella = 600, .MargineSinistro = 700, .MargineSuperiore = 700};
     const Ricetta ricetta = RicettaDi(livello);
     tramelo.CreaNuovaGriglia();
     if (ricetta == Ricetta::ScatolaVuota) {
         tramelo.NessunMuro();
     }
     tramelo.NonEliminareMuriEsterni();
-    benchmark::DoNotOptimize(TrovaPartenzaArrivo(tramelo, casuale, misure));
+    benchmark::DoNotOptimize(TrovaPartenzaArrivo(tramelo, casuale, geometria, 4));
     if (ricetta == Ricetta::ScatolaVuota) {
         return;
     }

@@ -41,8 +41,7 @@ void Step(benchmark::State& state, bool withSound) {
     canvas.SurfaceNative().Resize(QSize(1280, 640), 1);
     const Spessori thickness = CalcolaSpessori(1, Cell, Twips, Pareti::Linee);
     const AspettoTraccia look = AspettoDi(thickness, Cell, Twips, false, White, Black);
-    Traccia walked;
-    walked.Alloca(Steps / Columns + 1, Columns);
+    Traccia walked(Steps / Columns + 1, Columns);
     walked.Comincia(At(0));
     for (int i = 1; i < Steps; ++i) {
         walked.Aggiungi(At(i), Black);

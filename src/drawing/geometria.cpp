@@ -16,9 +16,4 @@ Geometria CalcolaGeometria(double larghezza, double altezza, int righe, int colo
     return {cella, margine(larghezza, colonne), margine(altezza, righe)};
 }
 
-Misure MisureDi(const Geometria& geometria, const Spessori& spessori) {
-    return {geometria.DimensioneCella, geometria.MargineSinistro, geometria.MargineSuperiore,
-            spessori.SpessoreMuri};
-}
-
 }  // namespace trameli

@@ -27,20 +27,20 @@ constexpr std::array<Passata, 4> Passate{{
 
 }  // namespace
 
-Bounds PostoBarra(Cella cella, Lato lato, const Misure& misure) {
-    const int cellaIntera = misure.DimensioneCella;
+Bounds PostoBarra(Cella cella, Lato lato, const Geometria& geometria) {
+    const int cellaIntera = geometria.DimensioneCella;
     const int spessore = Quotient(cellaIntera, 3);
-    const Punto inizio = SegmentoMuro(cella, lato, misure, Quotient(cellaIntera, 6)).Da;
+    const int sporgenza = Quotient(cellaIntera, 6);
     const int centro = Quotient(spessore, 2);
-    if (lato == Lato::Alto || lato == Lato::Basso) {
-        return {static_cast<double>(inizio.X), static_cast<double>(inizio.Y - centro),
-                static_cast<double>(cellaIntera + spessore), static_cast<double>(spessore)};
-    }
-    return {static_cast<double>(inizio.X - centro), static_cast<double>(inizio.Y),
-            static_cast<double>(spessore), static_cast<double>(cellaIntera + spessore)};
+    const Punto inizio = SegmentoMuro(cella, lato, geometria).Da;
+    const bool orizzontale = lato == Lato::Alto || lato == Lato::Basso;
+    return {static_cast<double>(inizio.X - (orizzontale ? sporgenza : centro)),
+            static_cast<double>(inizio.Y - (orizzontale ? centro : sporgenza)),
+            static_cast<double>(orizzontale ? cellaIntera + spessore : spessore),
+            static_cast<double>(orizzontale ? spessore : cellaIntera + spessore)};
 }
 
-std::vector<Bounds> PostiBarre(const Tramelo& tramelo, const Misure& misure) {
+std::vector<Bounds> PostiBarre(const Tramelo& tramelo, const Geometria& geometria) {
     std::vector<Bounds> posti;
     for (const Passata& passata : Passate) {
         const std::int16_t righe = passata.TutteLeRighe ? tramelo.Righe() : std::int16_t{1};
@@ -48,7 +48,7 @@ std::vector<Bounds> PostiBarre(const Tramelo& tramelo, const Misure& misure) {
         for (std::int16_t r = 1; r <= righe; ++r) {
             for (std::int16_t c = 1; c <= colonne; ++c) {
                 if (tramelo.Muri(r, c, passata.Lato)) {
-                    posti.push_back(PostoBarra({r, c}, passata.Lato, misure));
+                    posti.push_back(PostoBarra({r, c}, passata.Lato, geometria));
                 }
             }
         }

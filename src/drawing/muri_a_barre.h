@@ -12,10 +12,10 @@ namespace trameli {
 /// The place of the bar that is the wall on one side of a cell: a third of a cell thick, centred on
 /// the wall, and longer than it by a sixth of a cell at each end, so that bars meet in corners
 /// without a gap.
-Bounds PostoBarra(Cella cella, Lato lato, const Misure& misure);
+Bounds PostoBarra(Cella cella, Lato lato, const Geometria& geometria);
 
 /// The places of the bars of all walls that stand, one for each wall: those of the upper edge, the
 /// left edge, the lower sides of all cells and their right sides.
-std::vector<Bounds> PostiBarre(const Tramelo& tramelo, const Misure& misure);
+std::vector<Bounds> PostiBarre(const Tramelo& tramelo, const Geometria& geometria);
 
 }  // namespace trameli

@@ -26,31 +26,29 @@ constexpr std::array Ordine{Lato::Alto, Lato::Basso, Lato::Sinistra, Lato::Destr
 
 }  // namespace
 
-Segmento SegmentoMuro(Cella cella, Lato lato, const Misure& misure, int sporgenza) {
+Segmento SegmentoMuro(Cella cella, Lato lato, const Geometria& geometria) {
     const Spigoli& spigoli = Lati[static_cast<std::size_t>(lato)];
     const auto x = [&](int spigolo) {
-        return Saturated((cella.Colonna - 1 + spigolo) * misure.DimensioneCella +
-                         misure.MargineSinistro);
+        return Saturated((cella.Colonna - 1 + spigolo) * geometria.DimensioneCella +
+                         geometria.MargineSinistro);
     };
     const auto y = [&](int spigolo) {
-        return Saturated((cella.Riga - 1 + spigolo) * misure.DimensioneCella +
-                         misure.MargineSuperiore);
+        return Saturated((cella.Riga - 1 + spigolo) * geometria.DimensioneCella +
+                         geometria.MargineSuperiore);
     };
-    return Allunga({{x(spigoli.X1), y(spigoli.Y1)}, {x(spigoli.X2), y(spigoli.Y2)}}, sporgenza,
-                   sporgenza);
+    return {{x(spigoli.X1), y(spigoli.Y1)}, {x(spigoli.X2), y(spigoli.Y2)}};
 }
 
-void DisegnaMuriALinee(Surface& superficie, const Tramelo& tramelo, const Misure& misure,
-                       Estremi estremi, Colour colore, double twipsPerPixelX) {
-    const int sporgenza =
-        estremi == Estremi::Quadri ? MetaPenna(misure.SpessoreMuri, twipsPerPixelX) : 0;
-    superficie.DrawWidth(Nearest(misure.SpessoreMuri));
+void DisegnaMuriALinee(Surface& superficie, const Tramelo& tramelo, const Geometria& geometria,
+                       double spessoreMuri, Estremi estremi, Colour colore) {
+    const auto disegna = estremi == Estremi::Quadri ? &Surface::DrawBox : &Surface::DrawLine;
+    superficie.DrawWidth(Nearest(spessoreMuri));
     for (std::int16_t r = 1; r <= tramelo.Righe(); ++r) {
         for (std::int16_t c = 1; c <= tramelo.Colonne(); ++c) {
             for (const Lato lato : Ordine) {
                 if (tramelo.Muri(r, c, lato)) {
-                    Disegna(superficie, SegmentoMuro({r, c}, lato, misure, sporgenza), estremi,
-                            colore, twipsPerPixelX);
+                    const auto [da, a] = SegmentoMuro({r, c}, lato, geometria);
+                    (superficie.*disegna)(da.X, da.Y, a.X, a.Y, colore);
                 }
             }
         }

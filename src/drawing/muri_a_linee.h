@@ -8,14 +8,12 @@
 
 namespace trameli {
 
-/// The place of the wall on one side of a cell, from corner to corner, and `sporgenza` twips longer
-/// at each end.
-Segmento SegmentoMuro(Cella cella, Lato lato, const Misure& misure, int sporgenza);
+/// The place of the wall on one side of a cell, from corner to corner.
+Segmento SegmentoMuro(Cella cella, Lato lato, const Geometria& geometria);
 
-/// Draws all walls that stand; openings are left as they are. The surface is not cleared before.
-/// Square-ended walls are longer by half their thickness at each end, so that they meet in square
-/// corners.
-void DisegnaMuriALinee(Surface& superficie, const Tramelo& tramelo, const Misure& misure,
-                       Estremi estremi, Colour colore, double twipsPerPixelX);
+/// Draws all walls that stand, with a pen of so many pixels; openings are left as they are. The
+/// surface is not cleared before. Each wall ends half a pen beyond its corners, round or square.
+void DisegnaMuriALinee(Surface& superficie, const Tramelo& tramelo, const Geometria& geometria,
+                       double spessoreMuri, Estremi estremi, Colour colore);
 
 }  // namespace trameli

@@ -16,6 +16,11 @@ int Segno(int x) {
 
 }  // namespace
 
+Punto Sposta(Punto punto, Lato verso, int twips) {
+    const auto [riga, colonna] = Vicina({0, 0}, verso);
+    return {Saturated(punto.X + colonna * twips), Saturated(punto.Y + riga * twips)};
+}
+
 Segmento Allunga(const Segmento& segmento, int indietro, int avanti) {
     const auto& [da, a] = segmento;
     const int dx = Segno(a.X - da.X);

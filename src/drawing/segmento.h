@@ -13,6 +13,9 @@ struct Segmento {
     bool operator==(const Segmento&) const = default;
 };
 
+/// The point so many twips further in that direction.
+Punto Sposta(Punto punto, Lato verso, int twips);
+
 /// The stroke with its first end moved backward and its second end moved forward by so many twips;
 /// negative ones shorten it. A stroke of length zero has no direction and stays as it is.
 Segmento Allunga(const Segmento& segmento, int indietro, int avanti);
@@ -20,12 +23,11 @@ Segmento Allunga(const Segmento& segmento, int indietro, int avanti);
 /// Half the thickness of a pen in twips.
 int MetaPenna(double pixel, double twipsPerPixel);
 
-/// How a stroke ends: with the round end of the pen beyond its two points, or cut off square right
-/// at them.
+/// How a stroke ends.
 enum class Estremi { Tondi, Quadri };
 
-/// Draws the stroke with the pen that the surface has. One of length zero is a point of the pen's
-/// width, round or square.
+/// Draws the stroke with the pen that the surface has: with its round end beyond the two points, or
+/// cut off square right at them. One of length zero is a point of the pen's width, round or square.
 void Disegna(Surface& superficie, const Segmento& segmento, Estremi estremi, Colour colore,
              double twipsPerPixel);
 

@@ -8,13 +8,13 @@
 
 namespace trameli {
 
-/// How the maze lies on its picture box. Lengths in twips, but SpessoreMuri in pixels: it goes into
-/// the sums of twips unconverted, and the places below are meant so.
-struct Misure {
-    std::int16_t DimensioneCella;   ///< side of a cell
-    std::int16_t MargineSinistro;   ///< left edge of the box to the left outside wall
-    std::int16_t MargineSuperiore;  ///< top edge of the box to the upper outside wall
-    double SpessoreMuri;            ///< thickness of the walls, pixels
+/// How the grid lies on its picture box, twips.
+struct Geometria {
+    std::int16_t DimensioneCella = 0;   ///< side of a cell
+    std::int16_t MargineSinistro = 0;   ///< left edge of the box to the grid
+    std::int16_t MargineSuperiore = 0;  ///< top edge of the box to the grid
+
+    bool operator==(const Geometria&) const = default;
 };
 
 /// A place on the picture box, twips.
@@ -46,21 +46,22 @@ struct PartenzaArrivo {
 inline constexpr int NumeroConfigurazioni = 8;
 
 /// Configuration k, 0 to 7, on a grid of that size: 0 to 3 lead from top to bottom or back, 4 to 7
-/// from side to side. What does not fit into 16 bits stops at their limit. Another k throws
-/// std::out_of_range.
-PartenzaArrivo Configurazione(int k, int righe, int colonne, const Misure& misure);
+/// from side to side. `spessoreMuri` is the thickness of the walls in pixels: it goes into the sums
+/// of twips unconverted, and the places are meant so. What does not fit into 16 bits stops at their
+/// limit.
+PartenzaArrivo Configurazione(int k, int righe, int colonne, const Geometria& geometria,
+                              double spessoreMuri);
 
 /// Draws one of the eight configurations (one draw) and opens start and finish in `tramelo`.
-PartenzaArrivo TrovaPartenzaArrivo(Tramelo& tramelo, Casuale& casuale, const Misure& misure);
+PartenzaArrivo TrovaPartenzaArrivo(Tramelo& tramelo, Casuale& casuale, const Geometria& geometria,
+                                   double spessoreMuri);
 
 /// The same for the timed form, where the way always leads downwards: configuration 0, no draw, and
 /// a finish picture a little nearer to the left than elsewhere.
-PartenzaArrivo TrovaPartenzaArrivoATempo(Tramelo& tramelo, const Misure& misure);
+PartenzaArrivo TrovaPartenzaArrivoATempo(Tramelo& tramelo, const Geometria& geometria,
+                                         double spessoreMuri);
 
 /// Side of the square finish picture, twips, whatever the shape of its source.
-std::int16_t LatoArrivoImmagine(const Misure& misure);
-
-/// Which of `quante` pictures (1 or more) marks the finish: one draw, 0 to quante - 1.
-int IndiceImmagineArrivo(Casuale& casuale, int quante);
+std::int16_t LatoArrivoImmagine(std::int16_t dimensioneCella, double spessoreMuri);
 
 }  // namespace trameli

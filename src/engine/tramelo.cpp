@@ -4,8 +4,6 @@
 #include <array>
 #include <bit>
 #include <cassert>
-#include <limits>
-#include <stdexcept>
 
 namespace trameli {
 
@@ -14,21 +12,13 @@ namespace {
 constexpr int NumeroLati = 4;
 constexpr std::uint8_t TuttiILati = 0b1111;
 
-int NumeroCelleDi(int righe, int colonne) {
-    constexpr int massimo = std::numeric_limits<std::int16_t>::max();
-    if (righe < 1 || colonne < 1 || righe > massimo / colonne) {
-        throw std::invalid_argument("a maze has 1 to 32767 cells");
-    }
-    return righe * colonne;
-}
-
 }  // namespace
 
 Tramelo::Tramelo(int righe, int colonne, Casuale& casuale)
     : casuale_(casuale),
       righe_(static_cast<std::int16_t>(righe)),
       colonne_(static_cast<std::int16_t>(colonne)),
-      numeroCelle_(static_cast<std::int16_t>(NumeroCelleDi(righe, colonne))),
+      numeroCelle_(static_cast<std::int16_t>(righe * colonne)),
       passo_(static_cast<std::size_t>(colonne) + 1),
       griglia_((static_cast<std::size_t>(righe) + 1) * passo_),
       muri_(griglia_.size()),
@@ -165,10 +155,6 @@ void Tramelo::Scava() {
 
 void Tramelo::Apri(Cella cella, Lato lato) {
     Togli({Indice(cella.Riga, cella.Colonna), lato});
-}
-
-bool Tramelo::Esterno(Cella cella, Lato lato) const {
-    return Ha(esterni_, {Indice(cella.Riga, cella.Colonna), lato});
 }
 
 }  // namespace trameli

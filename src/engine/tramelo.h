@@ -49,8 +49,7 @@ constexpr Cella Vicina(Cella cella, Lato lato) {
 class Tramelo {
 public:
     /// Allocates the grid, all zero and false: no maze before CreaNuovaGriglia. Both sizes are 1 or
-    /// more, and their product at most 32767; otherwise std::invalid_argument. `casuale` is kept
-    /// and must outlive the maze.
+    /// more, and their product fits into 16 bits. `casuale` is kept and must outlive the maze.
     Tramelo(int righe, int colonne, Casuale& casuale);
 
     /// The size of the grid, in cells.
@@ -96,8 +95,6 @@ public:
     void Scava();
     /// Clears one flag of Muri: an opening in the outside wall. It stays protected.
     void Apri(Cella cella, Lato lato);
-    /// Whether this side of a cell is an outside wall, by its position; says nothing of the flag.
-    bool Esterno(Cella cella, Lato lato) const;
 
 private:
     // A wall as one of its cells sees it: the cell's entry in the arrays below, and the side.

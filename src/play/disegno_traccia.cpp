@@ -48,11 +48,9 @@ void DisegnaPasso(Surface& superficie, Traccia& traccia, Punto destinazione, Col
     const Punto testa = traccia.Testa();
     superficie.DrawWidth(aspetto.PennaTraccia);
     superficie.DrawLine(testa.X, testa.Y, testa.X, testa.Y, aspetto.ColoreSfondo);
-    if (aspetto.TestaQuadra) {
-        superficie.DrawWidth(aspetto.PennaSimbolo);
-        Disegna(superficie, {testa, testa}, Estremi::Quadri, aspetto.ColoreSfondo,
-                aspetto.TwipsPerPixel);
-    }
+    // The symbol has corners if the picture was painted anew since the last step.
+    superficie.DrawWidth(aspetto.PennaSimbolo);
+    superficie.DrawBox(testa.X, testa.Y, testa.X, testa.Y, aspetto.ColoreSfondo);
     traccia.Aggiungi(destinazione, colore);
     DisegnaTratti(superficie, traccia, aspetto);
     DisegnaSimbolo(superficie, traccia.Testa(), aspetto);

@@ -14,8 +14,7 @@ struct AspettoTraccia {
     int PennaTraccia;  ///< pixels; it also takes the symbol away from the old head
     int PennaSimbolo;  ///< pixels
     Estremi EstremiTratti;
-    bool TestaQuadra;  ///< the symbol may have corners, from a picture painted anew between steps
-    int Indietro;      ///< twips by which a segment begins behind its first point
+    int Indietro;  ///< twips by which a segment begins behind its first point
     double TwipsPerPixel;
     Colour ColoreSfondo;
     Colour ColoreSimbolo;

@@ -1,6 +1,5 @@
 #include "play/form_a_passi.h"
 
-#include <array>
 #include <cstddef>
 
 #include "base/rounding.h"
@@ -10,14 +9,25 @@
 namespace trameli {
 
 FormAPassi::FormAPassi(trameli::Forms& forms, Servizi& servizi, Casuale& casuale,
-                       const DisegnoTrm& disegno)
-    : FormTrm(forms, servizi, casuale, disegno) {
+                       const DisegnoTrm& disegno, DimensioniGriglia griglia,
+                       const Bounds& automatica, const Bounds& manuale)
+    : FormTrm(forms, servizi, casuale, disegno, griglia),
+      PictureScansioneAutomatica(*this, "PictureScansioneAutomatica", automatica),
+      PictureScansioneManuale(*this, "PictureScansioneManuale", manuale) {
     Timer1.Tick = [this] { Timer1_Timer(); };
-    PictureScansioneManuale->KeyUp = [this](int keyCode, int) {
-        PictureScansioneManuale_KeyUp(keyCode);
-    };
-    PictureScansioneAutomatica->KeyUp = [this](int keyCode, int) {
+    int ordine = 2;
+    for (PictureBox* tasti : {&PictureScansioneAutomatica, &PictureScansioneManuale}) {
+        tasti->TabIndex(ordine++);
+        tasti->Visible(false);
+        tasti->ToBack();
+    }
+    PictureScansioneAutomatica.AccessibleName("Scansione automatica");
+    PictureScansioneAutomatica.KeyUp = [this](int keyCode, int) {
         PictureScansioneAutomatica_KeyUp(keyCode);
+    };
+    PictureScansioneManuale.AccessibleName("Scansione manuale");
+    PictureScansioneManuale.KeyUp = [this](int keyCode, int) {
+        PictureScansioneManuale_KeyUp(keyCode);
     };
 }
 
@@ -31,10 +41,10 @@ bool FormAPassi::Form_KeyDown(int keyCode, int /*shift*/) {
     if (BottoneAvanti.Visible()) {
         BottoneAvanti.SetFocus();
     } else if (stato_.ModoInput == ScansioneManuale) {
-        PictureScansioneManuale->SetFocus();
+        PictureScansioneManuale.SetFocus();
     } else if (offerto_) {
         // Not before: nobody can take what was not yet offered.
-        PictureScansioneAutomatica->SetFocus();
+        PictureScansioneAutomatica.SetFocus();
     }
     return false;
 }
@@ -47,58 +57,40 @@ void FormAPassi::Form_KeyUp(int keyCode, int /*shift*/) {
         BottoneAvanti.SetFocus();
         return;
     }
-    if (giocatore_.TrameloRisolto() || !HaTramelo()) {
-        return;
-    }
-    ColoreTratto = Nearest(stato_.ColoreAvanti);
-    if (const auto direzione = DirezioneDi(keyCode)) {
+    const auto direzione = DirezioneDi(keyCode);
+    if (direzione && InGioco()) {
         Muovi(*direzione);
-    }
-}
-
-void FormAPassi::Sgombra() {
-    offerto_ = false;
-    FormTrm::Sgombra();
-}
-
-void FormAPassi::AvviaTramelo() {
-    if (stato_.ModoInput == ScansioneAutomatica) {
-        Timer1.Enabled(true);
-    } else if (stato_.ModoInput == ScansioneManuale) {
-        RidisegnaRotazione();
     }
 }
 
 void FormAPassi::Timer1_Timer() {
     if (stato_.ModoInput == ScansioneManuale) {
-        PictureScansioneManuale->SetFocus();
-    } else if (stato_.ModoInput == ScansioneAutomatica && HaTramelo()) {
+        PictureScansioneManuale.SetFocus();
+    } else if (stato_.ModoInput == ScansioneAutomatica && stato_.TrameloDisegnato) {
         OffriProssima();
         offerto_ = true;
-        PictureScansioneAutomatica->SetFocus();
+        PictureScansioneAutomatica.SetFocus();
     }
 }
 
 void FormAPassi::PictureScansioneManuale_KeyUp(int keyCode) {
-    if (stato_.ModoInput != ScansioneManuale || !HaTramelo()) {
+    if (stato_.ModoInput != ScansioneManuale || !stato_.TrameloDisegnato) {
         return;
     }
     if (BottoneAvanti.Visible()) {
         BottoneAvanti_Click();
     } else if (keyCode == KeySpace) {
         OffriProssima();
-    } else if (keyCode == KeyEnter && !giocatore_.TrameloRisolto()) {
+    } else if (keyCode == KeyEnter && InGioco()) {
         PrendiOfferta();
     }
 }
 
 void FormAPassi::PictureScansioneAutomatica_KeyUp(int keyCode) {
-    if (stato_.ModoInput != ScansioneAutomatica || keyCode != KeySpace ||
-        giocatore_.TrameloRisolto() || !HaTramelo()) {
-        return;
+    if (stato_.ModoInput == ScansioneAutomatica && keyCode == KeySpace && InGioco()) {
+        TogliLineeRotazione();
+        PrendiOfferta();
     }
-    TogliLineeRotazione();
-    PrendiOfferta();
 }
 
 void FormAPassi::DisponiControlli(double altezza, double scartoCoppe) {
@@ -126,52 +118,37 @@ void FormAPassi::ImpostaModoInput() {
             Timer1.Enabled(false);
             break;
     }
-    PictureScansioneManuale->Visible(stato_.ModoInput == ScansioneManuale);
-    PictureScansioneAutomatica->Visible(stato_.ModoInput == ScansioneAutomatica);
+    PictureScansioneManuale.Visible(stato_.ModoInput == ScansioneManuale);
+    PictureScansioneAutomatica.Visible(stato_.ModoInput == ScansioneAutomatica);
+}
+
+void FormAPassi::AvviaScansione() {
+    offerto_ = false;
+    if (stato_.ModoInput == ScansioneAutomatica) {
+        Timer1.Enabled(true);
+    } else if (stato_.ModoInput == ScansioneManuale) {
+        RidisegnaRotazione();
+    }
 }
 
 void FormAPassi::OffriProssima() {
-    constexpr std::array offerte{&FormAPassi::LineaASinistra, &FormAPassi::LineaInAlto,
-                                 &FormAPassi::LineaADestra, &FormAPassi::LineaInBasso};
+    const Punto testa = traccia_.Testa();
+    const AspettoScansione aspetto = AspettoTratti();
+    TogliTrattoScansione(pictureTramelo, testa, DirezioneScansione, aspetto);
     DirezioneScansione = DirezioneDopo(DirezioneScansione);
-    (this->*offerte.at(static_cast<std::size_t>(DirezioneScansione)))();
-}
-
-void FormAPassi::LineaASinistra() {
-    Offri(0);
-}
-
-void FormAPassi::LineaInAlto() {
-    Offri(1);
-}
-
-void FormAPassi::LineaADestra() {
-    Offri(2);
-}
-
-void FormAPassi::LineaInBasso() {
-    Offri(3);
-}
-
-void FormAPassi::Offri(std::int16_t direzione) {
-    const Punto testa = giocatore_.PuntoCorrente();
-    TogliTrattoScansione(pictureTramelo, testa, DirezionePrima(direzione), AspettoTratti());
     DisegnaPercorsoPerStampa(pictureTramelo, traccia_, Aspetto());
-    DisegnaTrattoScansione(pictureTramelo, testa, direzione, AspettoTratti());
+    DisegnaTrattoScansione(pictureTramelo, testa, DirezioneScansione, aspetto);
     DisegnaSimbolo(pictureTramelo, testa, Aspetto());
 }
 
 void FormAPassi::TogliLineeRotazione() {
     for (std::int16_t direzione = 0; direzione < NumeroDirezioni; ++direzione) {
-        TogliTrattoScansione(pictureTramelo, giocatore_.PuntoCorrente(), direzione,
-                             AspettoTratti());
+        TogliTrattoScansione(pictureTramelo, traccia_.Testa(), direzione, AspettoTratti());
     }
     DisegnaPercorsoPerStampa(pictureTramelo, traccia_, Aspetto());
 }
 
-/// The form may be unloaded afterwards.
 void FormAPassi::PrendiOfferta() {
-    ColoreTratto = Nearest(stato_.ColoreAvanti);
     Muovi(DirezioniScansione.at(static_cast<std::size_t>(DirezioneScansione)));
 }
 

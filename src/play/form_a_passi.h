@@ -9,16 +9,22 @@ namespace trameli {
 /// through the pictures that hold the keys for them. With two switches one goes from direction to
 /// direction and the other takes the one on offer; with a single one, Timer1 does the going.
 class FormAPassi : public FormTrm {
+public:
+    // These two do nothing but have the keyboard while scanning. They lie under the maze, where
+    // they hide no part of it.
+    PictureBox PictureScansioneAutomatica;
+    PictureBox PictureScansioneManuale;
+
 protected:
-    FormAPassi(trameli::Forms& forms, Servizi& servizi, Casuale& casuale,
-               const DisegnoTrm& disegno);
+    FormAPassi(trameli::Forms& forms, Servizi& servizi, Casuale& casuale, const DisegnoTrm& disegno,
+               DimensioniGriglia griglia, const Bounds& automatica, const Bounds& manuale);
 
     bool Form_KeyDown(int keyCode, int shift) override;
     void Form_KeyUp(int keyCode, int shift) override;
     /// With one switch, offers the next direction; with either number, fetches the keyboard.
     void Timer1_Timer();
     // A switch was released: Space offers the next direction and Enter takes it, or Space takes
-    // what the timer has offered. The form may be unloaded afterwards.
+    // what the timer has offered.
     void PictureScansioneManuale_KeyUp(int keyCode);
     void PictureScansioneAutomatica_KeyUp(int keyCode);
 
@@ -27,20 +33,13 @@ protected:
     void DisponiControlli(double altezza, double scartoCoppe);
     /// Readies timer and pictures for the player's way to move.
     void ImpostaModoInput();
-    void Sgombra() override;
-    void AvviaTramelo() override;
-
-    // Each takes the stroke of the direction before it away and offers its own.
-    void LineaASinistra();
-    void LineaInAlto();
-    void LineaADestra();
-    void LineaInBasso();
+    /// Begins to offer directions in a new maze.
+    void AvviaScansione();
     /// Takes all strokes away; the direction on offer stays.
     void TogliLineeRotazione();
 
 private:
     void OffriProssima();
-    void Offri(std::int16_t direzione);
     void PrendiOfferta();
 
     bool offerto_ = false;  ///< the timer has offered a direction in this maze

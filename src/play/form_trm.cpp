@@ -1,22 +1,87 @@
 #include "play/form_trm.h"
 
+#include <initializer_list>
 #include <string>
 
 #include "base/rounding.h"
+#include "drawing/geometria.h"
 #include "platform/forms.h"
+#include "shell/puntatori.h"
 
 namespace trameli {
 
+namespace {
+
+constexpr const char* Separatore = "----------------------";
+constexpr double LarghezzaPannello = 2540;
+constexpr std::initializer_list<const char*> Pannelli{"", "Livello", "Boing", "Passi"};
+constexpr std::initializer_list<const char*> PannelliConRipartenze{"", "Livello", "Boing", "Passi",
+                                                                   ""};
+constexpr int IntervalloTimer = 100;  // milliseconds
+
+}  // namespace
+
 FormTrm::FormTrm(trameli::Forms& forms, Servizi& servizi, Casuale& casuale,
-                 const DisegnoTrm& disegno)
-    : TavolaTrm(forms, servizi, casuale, disegno) {
-    mnuNuovo.Click = [this] { mnuNuovo_Click(); };
+                 const DisegnoTrm& disegno, DimensioniGriglia griglia)
+    : Form(forms, disegno.Nome, disegno.Dimensioni),
+      mnuTrameli(*this, "mnuTrameli", "Trameli"),
+      mnuNuovo(mnuTrameli, "mnuNuovo", "Nuovo", 'N'),
+      mnuRicomincia(mnuTrameli, "mnuRicomincia", "Ricomincia", 'R'),
+      mnuColora(mnuTrameli, "mnuColora", "Colora l'intera casella", 'C'),
+      mnuLinea1(mnuTrameli, "mnuLinea1", Separatore),
+      mnuLinee(mnuTrameli, "mnuLinee", "Modifica spessore linee", 'L'),
+      mnulinea2(mnuTrameli, "mnulinea2", Separatore),
+      mnuStampa(mnuTrameli, "mnuStampa", "Stampa", 'S'),
+      mnuEsci(*this, "mnuEsci", "Torna al menù"),
+      pictureTramelo(*this, "pictureTramelo", disegno.pictureTramelo),
+      pictureStampa(*this, "pictureStampa", {600, 480, 3495, 2295}),
+      Image2(pictureTramelo, "Image2", disegno.Image2),
+      Image1("Image1"),
+      BottoneAvanti(*this, "BottoneAvanti", disegno.BottoneAvanti),
+      Timer1(*this, "Timer1", IntervalloTimer),
+      StatusBar1(*this, "StatusBar1", LarghezzaPannello,
+                 disegno.ConRipartenze ? PannelliConRipartenze : Pannelli),
+      servizi_(servizi),
+      stato_(servizi.Stato),
+      casuale_(casuale),
+      tramelo_(griglia.Righe, griglia.Colonne, casuale),
+      traccia_(griglia.Righe, griglia.Colonne),
+      attesaIniziale_(disegno.AttesaIniziale) {
+    BackColor(White);
+    mnuNuovo.Click = [this] {
+        if (!DaPreparare()) {  // else chosen before the window was laid out
+            mnuNuovo_Click();
+        }
+    };
     mnuRicomincia.Click = [this] { mnuRicomincia_Click(); };
     mnuColora.Click = [this] { mnuColora_Click(); };
     mnuLinee.Click = [this] { mnuLinee_Click(); };
     mnuEsci.Click = [this] { mnuEsci_Click(); };
+    mnuLinea1.Enabled(false);
+    mnulinea2.Enabled(false);
+    mnuStampa.Enabled(false);  // until there is a way to print
+
+    pictureTramelo.TabIndex(1);
+    pictureTramelo.AccessibleName("Tramelo");
+    pictureStampa.Visible(false);
+    pictureStampa.AccessibleName("Stampa");
+    Image2.Visible(disegno.Image2Visibile);
+    Image2.AccessibleName("Arrivo");
+    for (const double left : disegno.LeftCoppe) {
+        Image& coppa =
+            Image1.Add(*this, Bounds{left, disegno.TopCoppe, disegno.LatoCoppe, disegno.LatoCoppe},
+                       Picture{"coppa.svg"});
+        coppa.Visible(false);
+        coppa.AccessibleName("Coppa " + std::to_string(Image1.Count()));
+    }
+    BottoneAvanti.TabIndex(5);
+    BottoneAvanti.Visible(false);
+    BottoneAvanti.Picture({"menu/inizio.svg"});
+    BottoneAvanti.AccessibleName("Avanti");
+    BottoneAvanti.MouseIcon(FrecciaGrande());
     BottoneAvanti.Click = [this] { BottoneAvanti_Click(); };
     BottoneAvanti.GotFocus = [this] { BottoneAvanti_GotFocus(); };
+    StatusBar1.AccessibleName("Barra di stato");
 }
 
 void FormTrm::Form_Load() {
@@ -27,70 +92,47 @@ void FormTrm::Form_Load() {
 }
 
 void FormTrm::Form_Activate() {
-    ScriviIntestazione();
-    if (DaPreparare()) {
-        PreparaGioco();
-    }
-}
-
-bool FormTrm::DaPreparare() const {
-    return !stato_.TrameloDisegnato && !preparando_;
-}
-
-void FormTrm::ScriviIntestazione() {
     StatusBar1.Panel(1, stato_.NomeGiocatore);
     StatusBar1.Panel(2, servizi_.Lingue.TestoLingua("0022") + std::to_string(stato_.Livello + 1));
-}
-
-void FormTrm::PreparaGioco() {
-    preparando_ = true;
+    if (!DaPreparare()) {
+        return;
+    }
+    preparato_ = true;
     BackColor(Nearest(stato_.ColoreSfondo));
-    Alloca();
     TrameliRisolti = 0;
     Disponi();
-    ImpostaGeometria();
+    geometria_ = CalcolaGeometria(pictureTramelo.Width(), pictureTramelo.Height(), tramelo_.Righe(),
+                                  tramelo_.Colonne());
     ImpostaSpessori();
     pictureTramelo.Left(0);
     pictureTramelo.Top(0);
     pictureTramelo.BackColor(Nearest(stato_.ColoreSfondo));
-    if (!Attesa(AttesaIniziale())) {
+    if (!Attesa(attesaIniziale_)) {
         return;
     }
-    preparando_ = false;
     mnuNuovo_Click();
-    if (Loaded() && stato_.ModoInput == ScansioneManuale && HaTramelo()) {
+    if (Loaded() && stato_.ModoInput == ScansioneManuale) {
         RidisegnaRotazione();
     }
 }
 
-void FormTrm::mnuNuovo_Click() {
-    if (!tramelo_) {
-        return;  // chosen before the form was activated
-    }
-    Sgombra();
-    ScegliMuri();
-    GeneraTramelo();
-    InserisciPartenza();
-    AvviaTramelo();
-}
-
 void FormTrm::Sgombra() {
     BottoneAvanti.Visible(false);
-    AzzeraContatori();
+    ContaPassi = 0;
+    ScriviPassi();
+    ContaBoing = 0;
+    ScriviBoing("boing ");
     pictureTramelo.Cls();
 }
 
 void FormTrm::mnuRicomincia_Click() {
     pictureTramelo.Cls();
-    if (SpessoriAllaRipartenza()) {
-        ImpostaSpessori();
-    }
-    if (!HaTramelo()) {
+    ImpostaSpessori();
+    if (!stato_.TrameloDisegnato) {
         return;
     }
     DisegnaTramelo();
     AzzeraVariabili();
-    giocatore_.TornaAllaPartenza();
     InserisciPartenza();
 }
 
@@ -102,9 +144,6 @@ void FormTrm::mnuColora_Click() {
 
 void FormTrm::mnuLinee_Click() {
     stato_.SpessoreLinee = static_cast<std::int16_t>((stato_.SpessoreLinee + 1) % NumeroSpessori);
-    if (!SpessoriAllaRipartenza()) {
-        ImpostaSpessori();
-    }
     mnuRicomincia_Click();
 }
 
@@ -125,13 +164,6 @@ void FormTrm::BottoneAvanti_GotFocus() {
 void FormTrm::BottoneAvanti_Click() {
     Timer1.Enabled(StatoTimerSalvato);
     mnuNuovo_Click();
-}
-
-void FormTrm::AzzeraContatori() {
-    ContaBoing = 0;
-    ContaPassi = 0;
-    ScriviPassi();
-    ScriviBoing("boing ");
 }
 
 void FormTrm::ScriviBoing(const char* parola) {

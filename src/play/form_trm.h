@@ -1,27 +1,99 @@
 // What the play forms have in common.
 #pragma once
 
+#include <array>
 #include <cstdint>
 
+#include "base/griglie.h"
+#include "drawing/spessori.h"
+#include "engine/casuale.h"
+#include "engine/tramelo.h"
+#include "platform/command_button.h"
+#include "platform/control_array.h"
+#include "platform/form.h"
+#include "platform/image.h"
+#include "platform/menu.h"
+#include "platform/picture_box.h"
+#include "platform/status_bar.h"
+#include "platform/timer.h"
+#include "play/disegno_traccia.h"
+#include "play/giocatore.h"
 #include "play/scansione.h"
-#include "play/tavola_trm.h"
+#include "play/traccia.h"
+#include "shell/servizi.h"
 
 namespace trameli {
 
-/// A game at one level: five mazes one after the other, with the counters of each. The forms
-/// differ in single steps of the routines; these are the virtual ones.
-class FormTrm : public TavolaTrm {
+class FormArchivio;
+
+/// What a play form has of its own in the window that all share. Places are those before the first
+/// activation moves the controls, in twips.
+struct DisegnoTrm {
+    const char* Nome;
+    Form::DesignSize Dimensioni;
+    Bounds pictureTramelo;
+    Bounds Image2;
+    bool Image2Visibile;
+    std::array<double, 4> LeftCoppe;
+    double TopCoppe;
+    double LatoCoppe;
+    Bounds BottoneAvanti;
+    bool ConRipartenze;     ///< a fifth panel in the status bar
+    double AttesaIniziale;  ///< seconds that the window is shown empty before the first maze
+};
+
+/// A game at one level: five mazes one after the other, with the counters of each.
+///
+/// A routine that leads on to another maze or window can find the form unloaded when it is done,
+/// and so can whoever called it: Muovi and mnuNuovo_Click and all that end in one of them. Nothing
+/// of the form is touched after them without asking Loaded.
+class FormTrm : public Form {
+public:
+    MenuItem mnuTrameli;
+    MenuItem mnuNuovo;
+    MenuItem mnuRicomincia;
+    MenuItem mnuColora;
+    MenuItem mnuLinea1;
+    MenuItem mnuLinee;
+    MenuItem mnulinea2;
+    MenuItem mnuStampa;
+    MenuItem mnuEsci;
+
+    PictureBox pictureTramelo;    ///< the playing surface
+    PictureBox pictureStampa;     ///< carries the maze to the printer; never seen
+    Image Image2;                 ///< the finish mark
+    ControlArray<Image> Image1;   ///< the cups, one for each solved maze
+    CommandButton BottoneAvanti;  ///< shown after a solved maze; leads to the next one
+    Timer Timer1;
+    StatusBar StatusBar1;
+
 protected:
-    FormTrm(trameli::Forms& forms, Servizi& servizi, Casuale& casuale, const DisegnoTrm& disegno);
+    /// `servizi` and `casuale` must outlive it. All its mazes have the size `griglia`.
+    FormTrm(trameli::Forms& forms, Servizi& servizi, Casuale& casuale, const DisegnoTrm& disegno,
+            DimensioniGriglia griglia);
+
+    // What differs from form to form.
+
+    /// Places the controls in the window's final size and lets the settings take effect.
+    virtual void Disponi() = 0;
+    /// A new maze at the same level, with its counters at 0.
+    virtual void mnuNuovo_Click() = 0;
+    /// Chooses start and finish of a new maze and opens them in its walls.
+    virtual PartenzaArrivo TrovaPartenzaArrivo();
+    /// What the walls are made of just now.
+    virtual Pareti AspettoPareti() const { return Pareti::Linee; }
+    /// Draws the walls; the surface is not cleared before.
+    virtual void DisegnaTramelo();
+    /// Counts a hit, with its sound.
+    virtual void ColpitoMuro();
+
+    // The window.
 
     void Form_Load() override;
     void Form_Activate() override;
-    /// On to the next maze. The form may be unloaded afterwards.
     void BottoneAvanti_Click();
     /// Keeps the timer from taking the keyboard away again.
     void BottoneAvanti_GotFocus();
-    /// A new maze at the same level, with its counters at 0. The form may be unloaded afterwards.
-    void mnuNuovo_Click();
     /// The same maze from its start. Counters, timer and button stay as they are.
     void mnuRicomincia_Click();
     // Another look of trace or walls, and the same maze from its start.
@@ -30,53 +102,59 @@ protected:
     /// Back to the menu: unloads the form.
     void mnuEsci_Click();
 
-    /// Whether an activation finds no maze, and no other activation is about to make one.
-    bool DaPreparare() const;
-    /// Writes the panels that name the player and the level.
-    void ScriviIntestazione();
-    /// The set-up of such an activation, up to the first maze. The form may be unloaded afterwards.
-    void PreparaGioco();
-    /// Places the controls in the window's final size and lets the settings take effect.
-    virtual void Disponi() = 0;
-    /// Seconds that the window is shown empty before the first maze.
-    virtual double AttesaIniziale() const = 0;
-    /// The first half of a new maze: what belongs to the one before goes.
-    virtual void Sgombra();
-    /// Hits and steps are 0, on their panels too.
-    void AzzeraContatori();
-    /// Chooses what the walls of the next maze look like.
-    virtual void ScegliMuri() {}
-    /// The end of a new maze: it is on show, and play begins. The form may be unloaded afterwards.
-    virtual void AvviaTramelo() = 0;
-    /// When a changed thickness takes effect: at every restart of the maze, or only when the menu
-    /// entry changes it.
-    virtual bool SpessoriAllaRipartenza() const = 0;
-
-    /// A wish to go somewhere, from keyboard, switch or clock. The caller has set ColoreTratto to
-    /// the colour of a way forward. The form may be unloaded afterwards.
-    void Muovi(Lato lato);
-    // A step within the grid, or the one out of it. The form may be unloaded afterwards.
-    void Sinistra();
-    void Alto();
-    void Destra();
-    void Basso();
-    /// Counts a hit, with its sound. The form may be unloaded afterwards where a hit costs more.
-    virtual void ColpitoMuro();
-    /// Counts a step and draws it in ColoreTratto, with its sound; the player stands there already.
-    void DisegnaLinea();
-    /// A solved maze: a cup and the way to the next one, or after the fifth the congratulations in
-    /// place of the form, which is then unloaded.
-    void MostraFrameTrameloRisolto();
-    /// Shows the direction on offer as a stroke at the head of the trace; nothing is taken away.
-    void RidisegnaRotazione();
-    /// The look of those strokes in this maze.
-    AspettoScansione AspettoTratti() const;
+    /// Whether an activation makes the first maze: none did so before.
+    bool DaPreparare() const { return !preparato_; }
+    /// What belongs to the maze before goes, to make room for a new one.
+    void Sgombra();
     /// Writes `parola`, with a blank at its end, and the number of hits on their panel.
     void ScriviBoing(const char* parola);
     /// Writes the number of steps on its panel.
     void ScriviPassi();
 
-    Colour ColoreTratto = 0;          ///< of the step under way
+    // The maze on `pictureTramelo`.
+
+    /// The store of pictures, which no window shows.
+    FormArchivio& Archivio() const;
+    /// Works the thicknesses out from the settings and the cells' size.
+    void ImpostaSpessori();
+    /// The look of trace and symbol with the settings and thicknesses as they are now.
+    AspettoTraccia Aspetto() const;
+    /// Makes and draws a new maze of the level.
+    void GeneraTramelo();
+    /// Forgets what was played of this maze; walls, start and finish stay.
+    void AzzeraVariabili();
+    /// Draws the symbol at the start.
+    void InserisciPartenza();
+    /// Chooses the picture that marks the finish by a draw, and puts it there.
+    void InserisciArrivo();
+
+    // The moves.
+
+    /// Whether there is a maze, and not yet a solved one. The window is up before it is activated,
+    /// and activation may wait: menu entries and keys can come before the first maze.
+    bool InGioco() const { return stato_.TrameloDisegnato && !giocatore_.TrameloRisolto(); }
+    /// A wish to go somewhere, from keyboard, switch or clock.
+    void Muovi(Lato lato);
+    /// Counts a step and draws it, with its sound.
+    void DisegnaLinea(Lato lato, int lunghezza, double colore);
+    /// A solved maze: a cup and the way to the next one, or after the fifth the congratulations in
+    /// place of the form.
+    void MostraFrameTrameloRisolto();
+    /// Shows the direction on offer as a stroke at the head of the trace; nothing is taken away.
+    void RidisegnaRotazione();
+    /// The look of those strokes in this maze.
+    AspettoScansione AspettoTratti() const;
+
+    Servizi& servizi_;
+    Stato& stato_;
+    Casuale& casuale_;
+
+    Tramelo tramelo_;
+    Geometria geometria_;
+    Spessori spessori_;
+    Giocatore giocatore_;
+    Traccia traccia_;
+
     std::int16_t ContaBoing = 0;      ///< wall hits in this maze
     std::int16_t ContaPassi = 0;      ///< steps in this maze
     std::int16_t TrameliRisolti = 0;  ///< since the activation, 0 to 4
@@ -85,10 +163,8 @@ protected:
     std::int16_t DirezioneScansione = 0;
 
 private:
-    void PrimoPasso(Lato lato);
-    void Passo(Lato lato);
-
-    bool preparando_ = false;        ///< an activation waits for the first maze
+    double attesaIniziale_;
+    bool preparato_ = false;         ///< the first activation has come
     bool StatoTimerSalvato = false;  ///< Timer1 as it was before BottoneAvanti stopped it
 };
 

@@ -16,19 +16,22 @@ constexpr DisegnoTrm Disegno{
     .pictureTramelo = {120, 120, 5325, 4725},
     .Image2 = {600, 3120, 855, 735},
     .Image2Visibile = false,
-    .Image1 = {{240, 1080, 2040, 2880}, 5400, 615},
+    .LeftCoppe = {240, 1080, 2040, 2880},
+    .TopCoppe = 5400,
+    .LatoCoppe = 615,
     .BottoneAvanti = {7320, 5400, 1725, 660},
-    .PictureScansioneAutomatica = Bounds{7320, 2400, 495, 495},
-    .PictureScansioneManuale = Bounds{6120, 1920, 615, 495},
-    .ConMuri = true,
+    .ConRipartenze = false,
+    .AttesaIniziale = 0.5,
 };
 
 }  // namespace
 
 frmTrm0::frmTrm0(trameli::Forms& forms, Servizi& servizi, Casuale& casuale)
-    : FormAPassi(forms, servizi, casuale, Disegno) {
+    : FormAPassi(forms, servizi, casuale, Disegno, {6, 9}, {7320, 2400, 495, 495},
+                 {6120, 1920, 615, 495}),
+      mnuLineeMuri(mnuTrameli, "mnuLineeMuri", "Usa linee", 'M', &mnuLinee) {
+    mnuLineeMuri.Click = [this] { mnuLineeMuri_Click(); };
     PictureMuri.Add(pictureTramelo, Bounds{4080, 480, 900, 900}).Visible(false);
-    mnuLineeMuri->Click = [this] { mnuLineeMuri_Click(); };
 }
 
 void frmTrm0::Disponi() {
@@ -38,20 +41,20 @@ void frmTrm0::Disponi() {
     ImpostaModoInput();
 }
 
+void frmTrm0::mnuNuovo_Click() {
+    Sgombra();
+    if (!LineeMuri) {
+        IndiceMuro = static_cast<std::int16_t>(casuale_.FinoA(Archivio().PictureMuro.Count()));
+    }
+    GeneraTramelo();
+    InserisciPartenza();
+    // A second draw: this picture, not the one that came with the maze, is the one that stays.
+    InserisciArrivo();
+    AvviaScansione();
+}
+
 Pareti frmTrm0::AspettoPareti() const {
     return LineeMuri ? Pareti::Linee : Pareti::Barre;
-}
-
-void frmTrm0::InserisciArrivo() {
-    FormAPassi::InserisciArrivo();
-    Image2.Visible(true);
-}
-
-void frmTrm0::ScegliMuri() {
-    if (!LineeMuri) {
-        const FormArchivio& archivio = Archivio();
-        IndiceMuro = static_cast<std::int16_t>(casuale_.FinoA(archivio.PictureMuro.Count()));
-    }
 }
 
 void frmTrm0::DisegnaTramelo() {
@@ -62,12 +65,6 @@ void frmTrm0::DisegnaTramelo() {
     }
 }
 
-void frmTrm0::AvviaTramelo() {
-    // A second draw: this picture, not the one that came with the maze, is the one that stays.
-    InserisciArrivo();
-    FormAPassi::AvviaTramelo();
-}
-
 void frmTrm0::DisegnaConLinee() {
     TogliMuri();
     FormAPassi::DisegnaTramelo();
@@ -75,11 +72,10 @@ void frmTrm0::DisegnaConLinee() {
 
 void frmTrm0::SistemaMuri() {
     TogliMuri();
-    const FormArchivio& archivio = Archivio();
     PictureMuri(0).Width(geometria_.DimensioneCella);
     PictureMuri(0).Height(geometria_.DimensioneCella);
-    PictureMuri(0).Picture(archivio.PictureMuro(IndiceMuro).Picture());
-    for (const Bounds& posto : PostiBarre(*tramelo_, MisureDi(geometria_, spessori_))) {
+    PictureMuri(0).Picture(Archivio().PictureMuro(IndiceMuro).Picture());
+    for (const Bounds& posto : PostiBarre(tramelo_, geometria_)) {
         PictureBox& muro = PictureMuri.Load(++ContaPezziMuro);
         muro.AccessibleName("Muro");
         muro.Enabled(false);  // a click on a wall takes the keyboard from nobody
@@ -91,10 +87,9 @@ void frmTrm0::SistemaMuri() {
 
 /// The bars of an earlier drawing go, whatever the next one is made of.
 void frmTrm0::TogliMuri() {
-    while (PictureMuri.Count() > 1) {
-        PictureMuri.Unload(PictureMuri.Count() - 1);
+    for (; ContaPezziMuro > 0; --ContaPezziMuro) {
+        PictureMuri.Unload(ContaPezziMuro);
     }
-    ContaPezziMuro = 0;
 }
 
 void frmTrm0::mnuLineeMuri_Click() {
@@ -107,7 +102,7 @@ void frmTrm0::ScriviLineeMuri() {
     const std::string testo = servizi_.Lingue.TestoLingua(LineeMuri ? "0018" : "0017");
     // An entry without a caption could not be told from a gap in the menu.
     if (!testo.empty()) {
-        mnuLineeMuri->Caption(testo);
+        mnuLineeMuri.Caption(testo);
     }
 }
 

@@ -12,6 +12,7 @@ public:
     /// `servizi` and `casuale` must outlive it.
     frmTrm0(trameli::Forms& forms, Servizi& servizi, Casuale& casuale);
 
+    MenuItem mnuLineeMuri;
     /// The bars of the walls. Element 0 is never seen: it is what the others are made like.
     ControlArray<PictureBox> PictureMuri{"PictureMuri"};
 
@@ -20,13 +21,9 @@ protected:
     void mnuLineeMuri_Click();
 
     void Disponi() override;
-    double AttesaIniziale() const override { return 0.5; }
-    bool SpessoriAllaRipartenza() const override { return true; }
+    void mnuNuovo_Click() override;
     trameli::Pareti AspettoPareti() const override;
-    void InserisciArrivo() override;
-    void ScegliMuri() override;
     void DisegnaTramelo() override;
-    void AvviaTramelo() override;
 
 private:
     void ScriviLineeMuri();

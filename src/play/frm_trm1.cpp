@@ -4,7 +4,6 @@
 #include <string>
 
 #include "base/rounding.h"
-#include "drawing/geometria.h"
 #include "platform/forms.h"
 #include "play/tasti.h"
 
@@ -18,18 +17,17 @@ constexpr DisegnoTrm Disegno{
     .pictureTramelo = {0, 0, 5325, 4725},
     .Image2 = {3000, 3240, 855, 735},
     .Image2Visibile = true,
-    .Image1 = {{360, 960, 1560, 2160}, 720, 495},
+    .LeftCoppe = {360, 960, 1560, 2160},
+    .TopCoppe = 720,
+    .LatoCoppe = 495,
     .BottoneAvanti = {7320, 240, 1725, 780},
-    .FrameSotto = Bounds{120, 4800, 9255, 1455},
-    .PictureScansioneAutomatica = std::nullopt,
-    .PictureScansioneManuale = std::nullopt,
-    .ConMuri = false,
+    .ConRipartenze = true,
+    .AttesaIniziale = 0,
 };
 
 constexpr std::array<double, 5> LeftSoli{240, 840, 1440, 2040, 2640};
 constexpr double TopSoli = 120;
 constexpr double LatoSole = 495;
-constexpr std::int16_t TuttiISoli = LeftSoli.size();
 
 constexpr int VelocitaMinima = 1;
 constexpr int VelocitaMassima = 25;
@@ -43,37 +41,44 @@ constexpr double TempoPerGuardare = 3;  // seconds
 }  // namespace
 
 frmTrm1::frmTrm1(trameli::Forms& forms, Servizi& servizi, Casuale& casuale)
-    : FormTrm(forms, servizi, casuale, Disegno),
-      HScroll1(*FrameSotto, "HScroll1", {3360, 360, 3375, 270}, VelocitaMinima, VelocitaMassima,
+    : FormTrm(forms, servizi, casuale, Disegno, {8, 11}),
+      mnuPausa(*this, "mnuPausa", "&Pausa", &mnuEsci),
+      FrameSotto(*this, "FrameSotto", {120, 4800, 9255, 1455}),
+      HScroll1(FrameSotto, "HScroll1", {3360, 360, 3375, 270}, VelocitaMinima, VelocitaMassima,
                SaltoVelocita),
-      Label1(*FrameSotto, "Label1", {3360, 720, 855, 255}, "lento"),
-      Label2(*FrameSotto, "Label2", {5880, 720, 855, 255}, "veloce") {
+      Label1(FrameSotto, "Label1", {3360, 720, 855, 255}, "lento"),
+      Label2(FrameSotto, "Label2", {5880, 720, 855, 255}, "veloce") {
+    mnuPausa.Click = [this] { mnuPausa_Click(); };
+
+    FrameSotto.Border(false);
+    FrameSotto.AccessibleName("Sotto il tramelo");
+    Image1.ForEach([this](Image& coppa) { FrameSotto.Take(coppa); });
+    FrameSotto.Take(BottoneAvanti);
     for (const double left : LeftSoli) {
-        Image& sole = ImageSole.Add(*FrameSotto, Bounds{left, TopSoli, LatoSole, LatoSole},
+        Image& sole = ImageSole.Add(FrameSotto, Bounds{left, TopSoli, LatoSole, LatoSole},
                                     Picture{"sole.svg"});
         sole.AccessibleName("Sole " + std::to_string(ImageSole.Count()));
     }
     HScroll1.AccessibleName("Velocità");
+    HScroll1.Change = [this] { HScroll1_Change(); };
     Label1.Transparent(true);
     Label2.Transparent(true);
     Label2.TextAlignment(Alignment::Right);
 
-    HScroll1.Change = [this] { HScroll1_Change(); };
     Timer1.Tick = [this] { Timer1_Timer(); };
-    mnuPausa->Click = [this] { mnuPausa_Click(); };
 }
 
 void frmTrm1::Disponi() {
     Timer1.Enabled(false);
     ContaRipartenze = 0;
     pictureTramelo.Width(Width());
-    pictureTramelo.Height(Height() - 2 * StatusBar1.Height() - FrameSotto->Height());
-    FrameSotto->Top(pictureTramelo.Height());
-    FrameSotto->Width(Width());
+    pictureTramelo.Height(Height() - 2 * StatusBar1.Height() - FrameSotto.Height());
+    FrameSotto.Top(pictureTramelo.Height());
+    FrameSotto.Width(Width());
     BottoneAvanti.Left(Width() - 2 * BottoneAvanti.Width());
     Image1.ForEach([](Image& coppa) { coppa.Visible(false); });
     HScroll1.Value(VelocitaIniziale);
-    FrameSotto->BackColor(Nearest(stato_.ColoreSfondo));
+    FrameSotto.BackColor(Nearest(stato_.ColoreSfondo));
 }
 
 void frmTrm1::Form_KeyUp(int keyCode, int /*shift*/) {
@@ -81,10 +86,9 @@ void frmTrm1::Form_KeyUp(int keyCode, int /*shift*/) {
         BottoneAvanti.SetFocus();
         return;
     }
-    if (giocatore_.TrameloRisolto()) {
-        return;
+    if (!giocatore_.TrameloRisolto()) {
+        Direzione = DirezioneDi(keyCode).value_or(Direzione);
     }
-    Direzione = DirezioneDi(keyCode).value_or(Direzione);
 }
 
 void frmTrm1::HScroll1_Change() {
@@ -94,40 +98,30 @@ void frmTrm1::HScroll1_Change() {
 void frmTrm1::Timer1_Timer() {
     Timer1.Interval(Lentezza * DecimoDiSecondo);
     // The pause can start the clock before there is a maze.
-    if (giocatore_.TrameloRisolto() || !HaTramelo()) {
-        return;
+    if (InGioco()) {
+        Muovi(Direzione);
     }
-    ColoreTratto = Nearest(stato_.ColoreAvanti);
-    Muovi(Direzione);
 }
 
 void frmTrm1::mnuPausa_Click() {
     const bool pausa = Timer1.Enabled();
     Timer1.Enabled(!pausa);
-    mnuPausa->Caption(pausa ? "Ri&prendi" : "&Pausa");
+    mnuPausa.Caption(pausa ? "Ri&prendi" : "&Pausa");
 }
 
-void frmTrm1::Sgombra() {
+void frmTrm1::mnuNuovo_Click() {
     Timer1.Enabled(false);
-    AzzeraContatori();
-    BottoneAvanti.Visible(false);
-    pictureTramelo.Cls();
+    Sgombra();
+    GeneraTramelo();
+    TuttiISoli();
+    InserisciPartenza();
+    trameloNuovo_ = true;
+    AttendiEParti();
 }
 
 PartenzaArrivo frmTrm1::TrovaPartenzaArrivo() {
     Direzione = Lato::Basso;
-    return TrovaPartenzaArrivoATempo(*tramelo_, MisureDi(geometria_, spessori_));
-}
-
-void frmTrm1::CompletaTramelo() {
-    FormTrm::CompletaTramelo();
-    SoliRimasti = TuttiISoli;
-    MostraSoli();
-}
-
-void frmTrm1::AvviaTramelo() {
-    trameloNuovo_ = true;
-    AttendiEParti();
+    return TrovaPartenzaArrivoATempo(tramelo_, geometria_, spessori_.SpessoreMuri);
 }
 
 void frmTrm1::ColpitoMuro() {
@@ -146,17 +140,16 @@ void frmTrm1::Sbagliato() {
     Timer1.Enabled(false);
     pictureTramelo.Cls();
     AzzeraVariabili();
-    giocatore_.TornaAllaPartenza();
     InserisciPartenza();
-    SoliRimasti = TuttiISoli;
     ContaRipartenze = Saturated(ContaRipartenze + 1);
     StatusBar1.Panel(5, "Ripartito da zero " + std::to_string(ContaRipartenze) + " volte");
-    MostraSoli();
+    TuttiISoli();
     DisegnaTramelo();
     AttendiEParti();
 }
 
-void frmTrm1::MostraSoli() {
+void frmTrm1::TuttiISoli() {
+    SoliRimasti = Saturated(ImageSole.Count());
     ImageSole.ForEach([](Image& sole) { sole.Visible(true); });
 }
 

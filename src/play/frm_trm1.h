@@ -3,6 +3,7 @@
 
 #include <optional>
 
+#include "platform/frame.h"
 #include "platform/label.h"
 #include "platform/scroll_bar.h"
 #include "play/form_trm.h"
@@ -17,6 +18,8 @@ public:
     /// `servizi` and `casuale` must outlive it.
     frmTrm1(trameli::Forms& forms, Servizi& servizi, Casuale& casuale);
 
+    MenuItem mnuPausa;
+    Frame FrameSotto;                            ///< the band under the maze
     ControlArray<Image> ImageSole{"ImageSole"};  ///< the suns left; the last goes first
     HScrollBar HScroll1;                         ///< the speed
     Label Label1;                                ///< its slow end
@@ -26,27 +29,21 @@ protected:
     void Form_KeyUp(int keyCode, int shift) override;
     /// The new pace takes effect at the next tick.
     void HScroll1_Change();
-    /// One step. The form may be unloaded afterwards.
+    /// One step.
     void Timer1_Timer();
     void mnuPausa_Click();
 
     void Disponi() override;
-    double AttesaIniziale() const override { return 0; }
-    bool SpessoriAllaRipartenza() const override { return false; }
-    void Sgombra() override;
-    void AvviaTramelo() override;
+    void mnuNuovo_Click() override;
     PartenzaArrivo TrovaPartenzaArrivo() override;
-    void CompletaTramelo() override;
-    /// A sun less and back to the start. The form may be unloaded afterwards.
+    /// A sun less and back to the start.
     void ColpitoMuro() override;
-    /// The suns have run out: the same maze from zero, with all of them. The form may be unloaded
-    /// afterwards.
+    /// The suns have run out: the same maze from zero, with all of them.
     void Sbagliato();
 
 private:
-    void MostraSoli();
-    /// Leaves the player three seconds to look, then starts the clock. The form may be unloaded
-    /// afterwards.
+    void TuttiISoli();
+    /// Leaves the player three seconds to look, then starts the clock.
     void AttendiEParti();
 
     Lato Direzione = Lato::Basso;          ///< of the next step

@@ -12,27 +12,26 @@ constexpr DisegnoTrm Disegno{
     .pictureTramelo = {120, 120, 5325, 4725},
     .Image2 = {600, 3120, 855, 735},
     .Image2Visibile = true,
-    .Image1 = {{120, 1080, 2040, 2880}, 5160, 615},
+    .LeftCoppe = {120, 1080, 2040, 2880},
+    .TopCoppe = 5160,
+    .LatoCoppe = 615,
     .BottoneAvanti = {4440, 5040, 1725, 780},
-    .PictureScansioneAutomatica = Bounds{7200, 3600, 495, 495},
-    .PictureScansioneManuale = Bounds{6360, 4440, 615, 495},
-    .ConMuri = false,
+    .ConRipartenze = false,
+    .AttesaIniziale = 0,
 };
 
 }  // namespace
 
 frmTrm3::frmTrm3(trameli::Forms& forms, Servizi& servizi, Casuale& casuale)
-    : FormAPassi(forms, servizi, casuale, Disegno) {}
+    : FormAPassi(forms, servizi, casuale, Disegno,
+                 {servizi.Stato.RigheGriglia, servizi.Stato.ColonneGriglia}, {7200, 3600, 495, 495},
+                 {6360, 4440, 615, 495}) {}
 
+/// Coming back to the front, it leaves even the panels as they are.
 void frmTrm3::Form_Activate() {
     if (DaPreparare()) {
-        ScriviIntestazione();
-        PreparaGioco();
+        FormAPassi::Form_Activate();
     }
-}
-
-DimensioniGriglia frmTrm3::Griglia() const {
-    return {stato_.RigheGriglia, stato_.ColonneGriglia};
 }
 
 void frmTrm3::Disponi() {
@@ -41,17 +40,14 @@ void frmTrm3::Disponi() {
     ImpostaModoInput();
 }
 
-void frmTrm3::CompletaTramelo() {
-    DisegnaTramelo();
-    AzzeraVariabili();
-    InserisciArrivo();
-}
-
-void frmTrm3::AvviaTramelo() {
+void frmTrm3::mnuNuovo_Click() {
+    Sgombra();
+    GeneraTramelo();
+    InserisciPartenza();
     if (stato_.ModoInput == ScansioneManuale) {
         Timer1.Enabled(true);
     }
-    FormAPassi::AvviaTramelo();
+    AvviaScansione();
 }
 
 }  // namespace trameli

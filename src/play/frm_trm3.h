@@ -13,13 +13,8 @@ public:
 
 protected:
     void Form_Activate() override;
-
-    DimensioniGriglia Griglia() const override;
     void Disponi() override;
-    double AttesaIniziale() const override { return 0; }
-    bool SpessoriAllaRipartenza() const override { return false; }
-    void CompletaTramelo() override;
-    void AvviaTramelo() override;
+    void mnuNuovo_Click() override;
 };
 
 }  // namespace trameli

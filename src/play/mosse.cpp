@@ -1,4 +1,4 @@
-// The moves of FormTrm, and what they end in.
+// The moves of a play form, and what they end in.
 #include "base/rounding.h"
 #include "platform/forms.h"
 #include "play/form_trm.h"
@@ -6,66 +6,23 @@
 namespace trameli {
 
 void FormTrm::Muovi(Lato lato) {
-    if (giocatore_.PrimaMossa()) {
-        PrimoPasso(lato);
-        return;
-    }
-    switch (lato) {
-        case Lato::Sinistra:
-            Sinistra();
-            break;
-        case Lato::Alto:
-            Alto();
-            break;
-        case Lato::Destra:
-            Destra();
-            break;
-        case Lato::Basso:
-            Basso();
-            break;
-    }
-}
-
-void FormTrm::Sinistra() {
-    Passo(Lato::Sinistra);
-}
-
-void FormTrm::Alto() {
-    Passo(Lato::Alto);
-}
-
-void FormTrm::Destra() {
-    Passo(Lato::Destra);
-}
-
-void FormTrm::Basso() {
-    Passo(Lato::Basso);
-}
-
-void FormTrm::PrimoPasso(Lato lato) {
-    // The half cell through the opening walks no passage, so that it always has the first colour.
-    if (giocatore_.PrimoPasso(lato, *tramelo_) == Esito::Passo) {
-        DisegnaLinea();
-    } else {
-        ColpitoMuro();
-    }
-}
-
-void FormTrm::Passo(Lato lato) {
     const Passaggio passaggio = PassaggioDa(giocatore_.CellaCorrente(), lato);
-    switch (giocatore_.Passo(lato, *tramelo_)) {
+    const int cella = geometria_.DimensioneCella;
+    switch (giocatore_.Muovi(lato, tramelo_)) {
         case Esito::Urto:
             ColpitoMuro();
             break;
-        case Esito::Passo:
-            if (stato_.CambiaColoreRitorno) {
-                const bool avanti = traccia_.Attraversa(passaggio);
-                ColoreTratto = Nearest(avanti ? stato_.ColoreAvanti : stato_.ColoreRitorno);
-            }
-            DisegnaLinea();
+        case Esito::Entrata:
+            DisegnaLinea(lato, Quotient(cella, 2), stato_.ColoreAvanti);
             break;
+        case Esito::Passo: {
+            // The ways through the openings walk no passage, so that they are always ways forward.
+            const bool avanti = !stato_.CambiaColoreRitorno || traccia_.Attraversa(passaggio);
+            DisegnaLinea(lato, cella, avanti ? stato_.ColoreAvanti : stato_.ColoreRitorno);
+            break;
+        }
         case Esito::Arrivo:
-            DisegnaLinea();
+            DisegnaLinea(lato, cella, stato_.ColoreAvanti);
             MostraFrameTrameloRisolto();
             break;
     }
@@ -77,11 +34,12 @@ void FormTrm::ColpitoMuro() {
     ScriviBoing("Boing ");
 }
 
-void FormTrm::DisegnaLinea() {
+void FormTrm::DisegnaLinea(Lato lato, int lunghezza, double colore) {
     servizi_.Suoni.SuonoPasso();
     ContaPassi = Saturated(ContaPassi + 1);
     ScriviPassi();
-    DisegnaPasso(pictureTramelo, traccia_, giocatore_.PuntoCorrente(), ColoreTratto, Aspetto());
+    DisegnaPasso(pictureTramelo, traccia_, Sposta(traccia_.Testa(), lato, lunghezza),
+                 Nearest(colore), Aspetto());
     if (stato_.ModoInput == ScansioneManuale) {
         RidisegnaRotazione();
     }
@@ -94,8 +52,7 @@ AspettoScansione FormTrm::AspettoTratti() const {
 }
 
 void FormTrm::RidisegnaRotazione() {
-    DisegnaTrattoScansione(pictureTramelo, giocatore_.PuntoCorrente(), DirezioneScansione,
-                           AspettoTratti());
+    DisegnaTrattoScansione(pictureTramelo, traccia_.Testa(), DirezioneScansione, AspettoTratti());
 }
 
 void FormTrm::MostraFrameTrameloRisolto() {

@@ -42,11 +42,8 @@ AspettoScansione AspettoScansioneDi(const Spessori& spessori, std::int16_t dimen
 }
 
 Segmento TrattoScansione(Punto testa, std::int16_t direzione, const AspettoScansione& aspetto) {
-    const Lato lato = DirezioniScansione.at(static_cast<std::size_t>(direzione));
-    const auto [riga, colonna] = Vicina({0, 0}, lato);
-    return {testa,
-            {Saturated(testa.X + colonna * aspetto.Lunghezza),
-             Saturated(testa.Y + riga * aspetto.Lunghezza)}};
+    const Lato verso = DirezioniScansione.at(static_cast<std::size_t>(direzione));
+    return {testa, Sposta(testa, verso, aspetto.Lunghezza)};
 }
 
 void DisegnaTrattoScansione(Surface& superficie, Punto testa, std::int16_t direzione,

@@ -18,12 +18,9 @@ inline constexpr std::array<Lato, 4> DirezioniScansione{Lato::Sinistra, Lato::Al
 
 inline constexpr auto NumeroDirezioni = static_cast<std::int16_t>(DirezioniScansione.size());
 
-/// The direction offered after this one, or before it.
+/// The direction offered after this one.
 constexpr std::int16_t DirezioneDopo(std::int16_t direzione) {
     return static_cast<std::int16_t>((direzione + 1) % NumeroDirezioni);
-}
-constexpr std::int16_t DirezionePrima(std::int16_t direzione) {
-    return static_cast<std::int16_t>((direzione + NumeroDirezioni - 1) % NumeroDirezioni);
 }
 
 /// How long and thick the strokes are, and their colours.

@@ -31,11 +31,10 @@ public:
     /// Index of the last point that there is room for.
     static constexpr int MassimoPunti = 1000;
 
-    /// Makes room for the passages of a grid of R rows and C columns, none of them walked.
-    void Alloca(int righe, int colonne);
-    /// Forgets all points and passages; the grid stays.
-    void Azzera();
-    /// Sets point 0, where the trace begins.
+    /// Makes room for the passages of a grid of R rows and C columns.
+    Traccia(int righe, int colonne);
+
+    /// Forgets all points and passages, and begins with point 0.
     void Comincia(Punto punto);
     /// The newest point, and the colour of the segment that leads to it.
     void Aggiungi(Punto punto, Colour colore);
@@ -43,36 +42,24 @@ public:
     /// Notes a walk through a passage. True after the first, third, fifth: a way forward. Only the
     /// count decides, not the direction.
     bool Attraversa(const Passaggio& passaggio);
-    /// Whether the passage was walked an odd number of times; rows and columns from 0 on.
-    bool Passaggi(int riga, int colonna, int verso) const;
 
     /// Index of the last point, 0 to MassimoPunti.
-    std::int16_t ContaPunti() const { return contaPunti_; }
-    /// Point i, twips; 0 beyond ContaPunti.
-    std::int16_t PercorsoX(int i) const { return percorsoX_[static_cast<std::size_t>(i)]; }
-    std::int16_t PercorsoY(int i) const { return percorsoY_[static_cast<std::size_t>(i)]; }
+    int ContaPunti() const { return contaPunti_; }
+    /// Point i, twips.
+    Punto Percorso(int i) const { return percorso_[static_cast<std::size_t>(i)]; }
     /// Colour of segment i, which ends at point i; entry 0 means nothing.
-    Colour PercorsoColore(int i) const { return percorsoColore_[static_cast<std::size_t>(i)]; }
-    /// The last point.
-    Punto Testa() const { return {PercorsoX(contaPunti_), PercorsoY(contaPunti_)}; }
+    Colour PercorsoColore(int i) const { return colori_[static_cast<std::size_t>(i)]; }
+    /// The last point: where the symbol is.
+    Punto Testa() const { return Percorso(contaPunti_); }
 
     /// Segment i, 1 to ContaPunti: to point i, from `indietro` twips behind point i - 1.
     Segmento Tratto(int i, int indietro) const;
 
 private:
-    template <typename T>
-    using Elenco = std::array<T, MassimoPunti + 1>;
-
-    std::size_t Indice(int riga, int colonna, int verso) const {
-        return (static_cast<std::size_t>(riga) * passo_ + static_cast<std::size_t>(colonna)) * 2 +
-               static_cast<std::size_t>(verso);
-    }
-
-    Elenco<std::int16_t> percorsoX_{};
-    Elenco<std::int16_t> percorsoY_{};
-    Elenco<Colour> percorsoColore_{};
-    std::int16_t contaPunti_ = 0;
-    std::size_t passo_ = 0;  // entries from one row to the next, column 0 included
+    std::array<Punto, MassimoPunti + 1> percorso_{};
+    std::array<Colour, MassimoPunti + 1> colori_{};
+    int contaPunti_ = 0;
+    std::size_t passo_;  // entries from one row to the next, column 0 included
     std::vector<bool> passaggi_;
 };
 

@@ -7,32 +7,25 @@
 namespace trameli {
 namespace {
 
-constexpr Misure Usuali{750, 1625, 740, 7};
+constexpr Geometria Usuali{750, 1625, 740};
 
-TEST(MuriALinee, RunFromCornerToCornerAndGrowAlongThemselves) {
-    struct {
-        Lato Dove;
-        int Sporgenza;
-        Segmento Atteso;
-    } const casi[] = {
-        {Lato::Alto, 0, {{3125, 1490}, {3875, 1490}}},
-        {Lato::Destra, 52, {{3875, 1438}, {3875, 2292}}},
-        {Lato::Basso, 52, {{3073, 2240}, {3927, 2240}}},
-        {Lato::Sinistra, 0, {{3125, 1490}, {3125, 2240}}},
+TEST(MuriALinee, RunFromCornerToCorner) {
+    const std::pair<Lato, Segmento> casi[] = {
+        {Lato::Alto, {{3125, 1490}, {3875, 1490}}},
+        {Lato::Destra, {{3875, 1490}, {3875, 2240}}},
+        {Lato::Basso, {{3125, 2240}, {3875, 2240}}},
+        {Lato::Sinistra, {{3125, 1490}, {3125, 2240}}},
     };
-    for (const auto& [lato, sporgenza, atteso] : casi) {
-        EXPECT_EQ(SegmentoMuro({2, 3}, lato, Usuali, sporgenza), atteso);
+    for (const auto& [lato, atteso] : casi) {
+        EXPECT_EQ(SegmentoMuro({2, 3}, lato, Usuali), atteso);
     }
-    constexpr Misure grandi{32767, 32767, -32768, 7};
-    EXPECT_EQ(SegmentoMuro({3, 2}, Lato::Basso, grandi, 0),
-              (Segmento{{32767, 32767}, {32767, 32767}}));
 }
 
 TEST(MuriABarre, LieCentredOnTheirWallsForBothCells) {
     // A third of 761 is 253, half of that 126, a sixth 126.
-    constexpr Misure dispari{761, 100, 200, 7};
+    constexpr Geometria dispari{761, 100, 200};
     struct {
-        Misure Come;
+        Geometria Come;
         Cella Dove;
         Lato Parete;
         Bounds Posto;

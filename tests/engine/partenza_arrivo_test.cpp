@@ -10,8 +10,9 @@ namespace {
 
 // An odd cell and a margin of its own on each side, so that no two terms can stand for each other:
 // half a cell is 300, a sixth 100, half a wall 2. The grid is 6 by 9.
-constexpr Misure Dispari{
-    .DimensioneCella = 601, .MargineSinistro = 705, .MargineSuperiore = 333, .SpessoreMuri = 5};
+constexpr Geometria Dispari{
+    .DimensioneCella = 601, .MargineSinistro = 705, .MargineSuperiore = 333};
+constexpr double Spessore = 5;
 
 // Start cell and side, finish cell and side, first cell, first point, finish picture.
 constexpr PartenzaArrivo Casi[] = {
@@ -56,7 +57,7 @@ TEST(TrovaPartenzaArrivo, ChoosesByOneDrawAndOpensTwoWalls) {
             Tramelo tramelo(6, 9, casuale);
             tramelo.CreaNuovaGriglia();
             tramelo.NonEliminareMuriEsterni();
-            AttendiUguale(TrovaPartenzaArrivo(tramelo, casuale, Dispari), Casi[k]);
+            AttendiUguale(TrovaPartenzaArrivo(tramelo, casuale, Dispari, Spessore), Casi[k]);
             EXPECT_EQ(casuale.Rimasti(), 1U);
             AttendiAperture(tramelo, Casi[k]);
         }
@@ -70,7 +71,7 @@ TEST(TrovaPartenzaArrivoATempo, AlwaysLeadsDownWithoutADraw) {
     tramelo.NonEliminareMuriEsterni();
     const PartenzaArrivo attesa{{1, 1}, Lato::Alto,  {8, 11},     Lato::Basso,
                                 {0, 1}, {1005, 333}, {5143, 6720}};
-    AttendiUguale(TrovaPartenzaArrivoATempo(tramelo, Dispari), attesa);
+    AttendiUguale(TrovaPartenzaArrivoATempo(tramelo, Dispari, Spessore), attesa);
     AttendiAperture(tramelo, attesa);
 }
 
@@ -88,21 +89,14 @@ TEST(SpessoreMuri, IsRoundedBeforeItIsHalved) {
     };
     for (const auto& [spessore, immagine, sinistraATempo, latoImmagine] : casi) {
         SCOPED_TRACE(spessore);
-        const Misure misure{600, 51, 40, spessore};
-        EXPECT_EQ(Configurazione(0, 3, 4, misure).PosizioneArrivo, immagine);
-        EXPECT_EQ(LatoArrivoImmagine(misure), latoImmagine);
+        constexpr Geometria geometria{600, 51, 40};
+        EXPECT_EQ(Configurazione(0, 3, 4, geometria, spessore).PosizioneArrivo, immagine);
+        EXPECT_EQ(LatoArrivoImmagine(600, spessore), latoImmagine);
         CasualeFinto casuale;
         Tramelo tramelo(3, 4, casuale);
-        EXPECT_EQ(TrovaPartenzaArrivoATempo(tramelo, misure).PosizioneArrivo.Sinistra,
+        EXPECT_EQ(TrovaPartenzaArrivoATempo(tramelo, geometria, spessore).PosizioneArrivo.Sinistra,
                   sinistraATempo);
     }
-}
-
-TEST(Configurazione, StopsAtTheLimitsOf16Bits) {
-    const Misure grandi{32767, -32768, -32768, 4};
-    EXPECT_EQ(Configurazione(1, 15, 20, grandi).PuntoIniziale, (Punto{32767, 32767}));
-    EXPECT_EQ(Configurazione(1, 15, 20, grandi).PosizioneArrivo.Alto, -32768);
-    EXPECT_EQ(Configurazione(5, 15, 20, grandi).PosizioneArrivo.Sinistra, -32768);
 }
 
 }  // namespace

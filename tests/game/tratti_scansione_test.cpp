@@ -36,17 +36,14 @@ void UnaCella(Surface& superficie, std::int16_t lato, Punto testa, const Spessor
     const int pixel = static_cast<int>(2 * lato / schermo.Twips) + 4;
     superficie.SurfaceNative().Resize({pixel, pixel}, schermo.Ratio);
     superficie.Cls();
-    superficie.DrawWidth(static_cast<int>(spessori.SpessoreMuri));
     // Round-ended walls and square-ended ones in turn.
     const Estremi estremi = lato % 2 == 0 ? Estremi::Tondi : Estremi::Quadri;
-    const int sporgenza =
-        estremi == Estremi::Quadri ? MetaPenna(spessori.SpessoreMuri, schermo.Twips) : 0;
     const auto margine = static_cast<std::int16_t>(testa.X - lato / 2);
-    for (const Lato muro : DirezioniScansione) {
-        const Misure misure{lato, margine, margine, spessori.SpessoreMuri};
-        Disegna(superficie, SegmentoMuro({1, 1}, muro, misure, sporgenza), estremi, Black,
-                schermo.Twips);
-    }
+    CasualeConSeme casuale(1);
+    Tramelo tramelo(1, 1, casuale);
+    tramelo.CreaNuovaGriglia();
+    DisegnaMuriALinee(superficie, tramelo, {lato, margine, margine}, spessori.SpessoreMuri, estremi,
+                      Black);
 }
 
 TEST_P(OgniSchermo, AStrokeGoesToTheLastPixelAndTouchesNoWall) {

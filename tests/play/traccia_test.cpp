@@ -13,28 +13,19 @@ Punto PuntoNumero(int i) {
 }
 
 TEST(Traccia, IsFullWithAThousandPointsAndThenLosesTheOldest) {
-    Traccia traccia;
-    traccia.Alloca(3, 4);
+    Traccia traccia(3, 4);
     EXPECT_TRUE(traccia.Attraversa({3, 4, 1}));  // the last one that there is room for
     traccia.Comincia(PuntoNumero(0));
+    EXPECT_TRUE(traccia.Attraversa({3, 4, 1}));
     for (int i = 1; i <= 1002; ++i) {
         traccia.Aggiungi(PuntoNumero(i), i);
         const int persi = std::max(0, i - 1000);
         ASSERT_EQ(traccia.ContaPunti(), i - persi);
-        ASSERT_EQ(traccia.PercorsoX(0), persi);
-        ASSERT_EQ(traccia.PercorsoY(0), -persi);
+        ASSERT_EQ(traccia.Percorso(0), PuntoNumero(persi));
         ASSERT_EQ(traccia.PercorsoColore(1), persi + 1);
         ASSERT_EQ(traccia.PercorsoColore(i - persi), i);
         ASSERT_EQ(traccia.Testa(), PuntoNumero(i));
     }
-    traccia.Azzera();
-    EXPECT_EQ(traccia.ContaPunti(), 0);
-    for (int i = 0; i <= Traccia::MassimoPunti; ++i) {
-        ASSERT_EQ(traccia.PercorsoX(i), 0);
-        ASSERT_EQ(traccia.PercorsoY(i), 0);
-        ASSERT_EQ(traccia.PercorsoColore(i), 0);
-    }
-    EXPECT_FALSE(traccia.Passaggi(3, 4, 1));
 }
 
 }  // namespace

@@ -1,0 +1,76 @@
+// The maze of a play form, as it is made and drawn.
+#include "base/rounding.h"
+#include "drawing/muri_a_linee.h"
+#include "engine/ricette.h"
+#include "platform/forms.h"
+#include "play/form_archivio.h"
+#include "play/form_trm.h"
+
+namespace trameli {
+
+FormArchivio& FormTrm::Archivio() const {
+    return static_cast<FormArchivio&>(Forms().Load("FormArchivio"));
+}
+
+void FormTrm::ImpostaSpessori() {
+    spessori_ = CalcolaSpessori(stato_.SpessoreLinee, geometria_.DimensioneCella,
+                                Forms().Screen().TwipsPerPixelY(), AspettoPareti());
+}
+
+AspettoTraccia FormTrm::Aspetto() const {
+    return AspettoDi(spessori_, geometria_.DimensioneCella, Forms().Screen().TwipsPerPixelX(),
+                     stato_.ColoraCasella, Nearest(stato_.ColoreSfondo),
+                     Nearest(stato_.ColoreSimbolo));
+}
+
+void FormTrm::GeneraTramelo() {
+    const Ricetta ricetta = RicettaDi(stato_.Livello);
+    tramelo_.CreaNuovaGriglia();
+    if (ricetta == Ricetta::ScatolaVuota) {
+        tramelo_.NessunMuro();
+    }
+    tramelo_.NonEliminareMuriEsterni();
+    giocatore_.Colloca(TrovaPartenzaArrivo());
+    if (ricetta != Ricetta::ScatolaVuota) {
+        tramelo_.Scava();
+    }
+    if (ricetta == Ricetta::ScavataEAllargata) {
+        tramelo_.ContaMuriRimasti();
+        tramelo_.AbbattiAltriMuri(QuantiMuriDaAbbattere(stato_.Livello, tramelo_.MuriRimasti()));
+    }
+    AzzeraVariabili();
+    InserisciArrivo();
+    DisegnaTramelo();
+}
+
+PartenzaArrivo FormTrm::TrovaPartenzaArrivo() {
+    return trameli::TrovaPartenzaArrivo(tramelo_, casuale_, geometria_, spessori_.SpessoreMuri);
+}
+
+void FormTrm::AzzeraVariabili() {
+    giocatore_.Azzera();
+    traccia_.Comincia(giocatore_.Percorso().PuntoIniziale);
+}
+
+void FormTrm::InserisciPartenza() {
+    DisegnaSimbolo(pictureTramelo, traccia_.Testa(), Aspetto());
+}
+
+void FormTrm::InserisciArrivo() {
+    const FormArchivio& archivio = Archivio();
+    const int i = casuale_.FinoA(archivio.Image2.Count());
+    const double lato = LatoArrivoImmagine(geometria_.DimensioneCella, spessori_.SpessoreMuri);
+    const auto [alto, sinistra] = giocatore_.Percorso().PosizioneArrivo;
+    Image2.Place({static_cast<double>(sinistra), static_cast<double>(alto), lato, lato});
+    Image2.Picture(archivio.Image2(i).Picture());
+    Image2.Visible(true);
+}
+
+void FormTrm::DisegnaTramelo() {
+    DisegnaMuriALinee(pictureTramelo, tramelo_, geometria_, spessori_.SpessoreMuri,
+                      stato_.ColoraCasella ? Estremi::Quadri : Estremi::Tondi,
+                      Nearest(stato_.ColorePareti));
+    stato_.TrameloDisegnato = true;
+}
+
+}  // namespace trameli
