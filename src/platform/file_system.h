@@ -12,9 +12,16 @@ namespace trameli {
 inline constexpr char ProgramFolder[] = "P:";
 
 /// The service for files. Paths are the program's own: "C:\..." with backslashes, UTF-8, without
-/// regard to case. "C:\" stands for the folder `trameli` in the user's data folder. "P:\" stands
-/// for the program folder, where nothing can be made or changed. A path with a part that could lead
-/// out of its folder ("..", a slash, a zero character) names nothing. No call throws.
+/// regard to case. Where several names differ in case alone, one whose case differs from the path's
+/// in the extension at most comes before the others; otherwise the first in alphabetical order
+/// counts.
+///
+/// "C:\" stands for the folder `trameli` in the user's data folder. "P:\" stands for the program
+/// folder. What is written there goes into a folder of the user's own, and what lies in that counts
+/// before what came with the program.
+///
+/// A path with a part that could lead out of its folder ("..", a slash, a zero character) names
+/// nothing. No call throws.
 class FileSystem {
 public:
     virtual ~FileSystem() = default;
@@ -33,7 +40,8 @@ public:
 
     /// Makes `bytes` the content of the file, whole or not at all: whatever happens in between,
     /// the file holds either what it held before or what it is given. A new file gets its
-    /// extension in small letters. False if it could not.
+    /// extension in small letters. False if it could not; there must be a folder for it, but for
+    /// the program folder one is made.
     virtual bool Replace(const std::string& path, const std::string& bytes) = 0;
 
     /// Names in a folder, files and folders, that end in `ending` (without regard to case), in

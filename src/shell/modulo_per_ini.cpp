@@ -16,9 +16,7 @@ void ModuloPerIni::ImpostaPredefiniti() {
 
 void ModuloPerIni::ScriviUtente() {
     const std::string chiave = Capitals(stato_.FileUtente);
-    const bool risparmiato = nonLetti_.contains(chiave) && EsisteFile(stato_.FileUtente);
-    if (!risparmiato && fileSystem_.Replace(stato_.FileUtente, Testo(stato_))) {
-        Conosciuto(chiave);
+    if (!illeggibili_.contains(chiave) && fileSystem_.Replace(stato_.FileUtente, Testo(stato_))) {
         nonSalvati_.erase(chiave);
         return;
     }
@@ -33,18 +31,12 @@ void ModuloPerIni::ScriviUtente() {
 
 void ModuloPerIni::LeggiUtente() {
     const std::string chiave = Capitals(stato_.FileUtente);
-    std::optional<std::string> testo;
-    if (EsisteFile(stato_.FileUtente)) {
-        testo = fileSystem_.Read(stato_.FileUtente, LimiteLettura);
-    }
-    if (!testo && !conosciuti_.contains(chiave)) {
-        nonLetti_.insert(chiave);
-    } else if (testo && nonLetti_.contains(chiave)) {
+    const auto testo = fileSystem_.Read(stato_.FileUtente, LimiteLettura);
+    if (!testo && EsisteFile(stato_.FileUtente)) {
+        illeggibili_.insert(chiave);
+    } else if (illeggibili_.erase(chiave) > 0 && testo) {
         // What its user once saved is there after all, and counts more than what stood in for it.
         nonSalvati_.erase(chiave);
-    }
-    if (testo) {
-        Conosciuto(chiave);
     }
     std::optional<Impostazioni> lette = testo ? Leggi(*testo) : std::nullopt;
     if (const auto trovato = nonSalvati_.find(chiave); trovato != nonSalvati_.end()) {
@@ -55,12 +47,6 @@ void ModuloPerIni::LeggiUtente() {
     } else {
         ImpostaPredefiniti();
     }
-}
-
-/// From now on the run knows what is in the file.
-void ModuloPerIni::Conosciuto(const std::string& chiave) {
-    conosciuti_.insert(chiave);
-    nonLetti_.erase(chiave);
 }
 
 bool ModuloPerIni::EsisteFile(const std::string& percorso) const {

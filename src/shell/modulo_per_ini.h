@@ -53,8 +53,6 @@ public:
     void VerificaCartelle();
 
 private:
-    void Conosciuto(const std::string& chiave);
-
     Stato& stato_;
     FileSystem& fileSystem_;
     Dialogs& dialogs_;
@@ -64,11 +62,9 @@ private:
     /// menu, which saves and reads the current user whenever it is shown, would bring back the old
     /// settings of a file that cannot be written.
     std::map<std::string, Impostazioni> nonSalvati_;
-    /// Files whose content this run has read or written, by the path in capitals.
-    std::set<std::string> conosciuti_;
-    /// Files that were asked for and could not be read, or were missing. What is or turns up there
-    /// was saved by somebody, and is not replaced by the defaults that stand in for it.
-    std::set<std::string> nonLetti_;
+    /// Files that were there and could not be read, by the path in capitals. What they hold is not
+    /// replaced by the defaults that stand in for it.
+    std::set<std::string> illeggibili_;
     bool avvisato_ = false;
 };
 

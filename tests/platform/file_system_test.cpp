@@ -9,6 +9,7 @@
 
 #include "platform/qt/environment.h"
 #include "platform/qt/local_file_system.h"
+#include "platform/text.h"
 #include "support/stage.h"
 
 namespace fs = std::filesystem;
@@ -99,23 +100,26 @@ TEST_F(FileSystemTest, NeverLeavesItsFolder) {
     EXPECT_EQ(std::distance(fs::recursive_directory_iterator(Folder.Path()), {}), 5);
 }
 
-TEST_F(FileSystemTest, ChangesNothingInTheProgramFolder) {
-    Write(Program / "Boing.wav", "sound");
-    EXPECT_EQ(Files.Read("P:\\boing.WAV", 10), "sound");
-    EXPECT_FALSE(Files.Replace("P:\\boing.wav", "other"));
-    EXPECT_FALSE(Files.Replace("p:\\new.wav", "other"));
-    EXPECT_FALSE(Files.CreateFolder("P:\\new"));
-    EXPECT_EQ(std::distance(fs::directory_iterator(Program), {}), 1);
-    EXPECT_EQ(BytesOf(Program / "Boing.wav"), "sound");
-    EXPECT_FALSE(Files.FileExists("C:\\boing.wav"));
-}
+TEST_F(FileSystemTest, TheUsersOwnProgramFolderCountsBeforeTheInstalledOne) {
+    const fs::path own = Root / "programma" / "Texts";
+    fs::create_directory(Program / "texts");
+    Write(Program / "texts" / "A.lng", "shipped");
+    Write(Program / "texts" / "b.lng", "shipped");
+    // As on a machine where programs are installed for all: nothing else comes into that folder.
+    EXPECT_TRUE(Files.Replace("P:\\Texts\\Set.INI", "mine"));
+    EXPECT_EQ(BytesOf(own / "Set.ini"), "mine");
+    EXPECT_TRUE(Files.Replace("p:\\texts\\B.lng", "mine"));
+    EXPECT_TRUE(Files.CreateFolder("P:\\new"));
+    EXPECT_TRUE(Files.FolderExists("P:\\new"));
+    EXPECT_EQ(std::distance(fs::recursive_directory_iterator(Program), {}), 3);
 
-TEST_F(FileSystemTest, NamesNothingInAProgramFolderThatThereIsNot) {
-    const fs::path before = fs::current_path();
-    fs::current_path(Program);  // where a path without a beginning would lead
-    Write(Program / "boing.wav", "sound");
-    EXPECT_EQ(LocalFileSystem(Root).Read("P:\\boing.wav", 10), std::nullopt);
-    fs::current_path(before);
+    EXPECT_EQ(Files.Read("P:\\texts\\b.lng", 10), "mine");
+    EXPECT_EQ(Files.Read("P:\\texts\\a.lng", 10), "shipped");
+    EXPECT_EQ(Files.List("P:\\texts", ".lng"), (std::vector<std::string>{"A.lng", "B.lng"}));
+    EXPECT_EQ(Files.OnThisMachine("P:\\texts\\a.lng"), Program / "texts" / "A.lng");
+    fs::create_directory(own / "a.lng");
+    EXPECT_EQ(Files.Read("P:\\texts\\a.lng", 10), "shipped") << "a folder is no file";
+    EXPECT_FALSE(Files.FileExists("C:\\texts\\a.lng"));
 }
 
 TEST_F(FileSystemTest, ProgramFolderLiesBesideAnInstalledProgramOrInTheSources) {
@@ -141,35 +145,38 @@ TEST_F(FileSystemTest, ReadsNoMoreThanItIsAllowedTo) {
     EXPECT_LT(bytes->capacity(), 100000U);
 }
 
-TEST_F(FileSystemTest, ListsInAlphabeticalOrderWithoutRegardToCase) {
+TEST_F(FileSystemTest, DisregardsCase) {
     for (const char* name : {"b.ini", "A.ini", "C.INI", "_first.ini", "a.txt", "ini", "à.ini",
-                             ".ini", "B.ini", "x.inii", ".a.ini.new"}) {
+                             ".ini", "B.ini", "x.inii", ".a.ini.new", "c.ini"}) {
         Write(Root / name, name);
     }
     EXPECT_EQ(Files.List("c:\\", ".INI"),
               (std::vector<std::string>{".ini", "_first.ini", "A.ini", "B.ini", "C.INI", "à.ini"}));
-    EXPECT_EQ(Files.Read("C:\\b.ini", 10), "B.ini") << "the first of those that differ in case";
     EXPECT_EQ(Files.List("C:\\", "").size(), 10U);
     EXPECT_TRUE(Files.List("C:\\none", ".ini").empty());
     EXPECT_TRUE(Files.List("C:\\a.txt", ".ini").empty());
+    // Of several the one that the path spells, apart from the extension, else the first.
+    for (const auto& [path, name] : {std::pair{"C:\\b.ini", "b.ini"},
+                                     {"C:\\B.INI", "B.ini"},
+                                     {"C:\\C.ini", "C.INI"},
+                                     {"C:\\B.Ini", "B.ini"},
+                                     {"C:\\a.INI", "A.ini"},
+                                     {"C:\\À.ini", "à.ini"}}) {
+        EXPECT_EQ(Files.Read(path, 20), name) << path;
+    }
 }
 
 TEST_F(FileSystemTest, ListsOddNamesThatItCanName) {
     const std::string longest = std::string(251, 'l') + ".ini";
     const std::string odd[] = {"new\nline.ini", " .ini", "..ini", "*?\".ini", longest, "日本.ini"};
     for (const std::string& name : odd) {
-        Write(Root / name, name);
+        EXPECT_TRUE(Files.Replace("C:\\" + name, name)) << name;
+        EXPECT_EQ(BytesOf(Root / name), name);
     }
     Write(Root / "\xFF\xFE.ini", "not text");
     Write(Root / "back\\slash.ini", "not to be named");
     const auto names = Files.List("C:\\", ".ini");
-    EXPECT_EQ(names.size(), std::size(odd));
-    for (const std::string& name : odd) {
-        EXPECT_EQ(std::count(names.begin(), names.end(), name), 1) << name;
-        EXPECT_EQ(Files.Read("C:\\" + name, 1000), name);
-        EXPECT_TRUE(Files.Replace("C:\\" + name, "new")) << name;
-        EXPECT_EQ(BytesOf(Root / name), "new");
-    }
+    EXPECT_TRUE(std::is_permutation(names.begin(), names.end(), std::begin(odd), std::end(odd)));
 }
 
 TEST(UserDataFolderTest, FollowsTheEnvironmentIfThatIsAbsolute) {
@@ -186,6 +193,24 @@ TEST(UserDataFolderTest, FollowsTheEnvironmentIfThatIsAbsolute) {
     unsetenv("HOME");
     EXPECT_TRUE(UserDataFolder().is_absolute()) << "the system's own list knows the home folder";
     setenv("HOME", home.c_str(), 1);
+}
+
+TEST(CapitalsTest, NameTheSameFileInEveryScript) {
+    for (const auto& [text, capitals] :
+         {std::pair{"&Avvio 09", "&AVVIO 09"},
+          {"àçñöþÿ÷ łőșạ", "ÀÇÑÖÞŸ÷ ŁŐȘẠ"},
+          {"άς я", "ΆΣ Я"},
+          {"straße ışık 日本 🙂", "STRAßE ıŞıK 日本 🙂"},
+          {"a\xC3", "a\xC3"}}) {
+        EXPECT_EQ(Capitals(text), capitals);
+    }
+    for (char32_t letter = 0; letter <= 0x1FFFF; ++letter) {
+        if (!QChar::isSurrogate(letter)) {
+            const QString text = QString::fromUcs4(&letter, 1);
+            const QString capital = QString::fromStdString(Capitals(text.toStdString()));
+            ASSERT_EQ(capital.toCaseFolded(), text.toCaseFolded()) << static_cast<unsigned>(letter);
+        }
+    }
 }
 
 TEST(LocaleOfMessagesTest, IsTheFirstVariableThatSaysSomething) {

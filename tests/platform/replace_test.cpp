@@ -4,8 +4,6 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
-#include <thread>
-
 #include "platform/in_child.h"
 #include "platform/qt/local_file_system.h"
 #include "support/stage.h"
@@ -69,15 +67,12 @@ TEST_F(ReplaceTest, WritesOverWhatACrashLeft) {
         void (*Make)(const fs::path&);
     };
     const Leftover leftovers[] = {
-        {"half a file", [](const fs::path& path) { Write(path, std::string(5000, 'x')); }},
         {"read-only",
          [](const fs::path& path) {
              Write(path, "half");
              fs::permissions(path, fs::perms::owner_read);
          }},
         {"link", [](const fs::path& path) { fs::create_symlink("victim", path); }},
-        {"second name of a file",
-         [](const fs::path& path) { fs::create_hard_link(path.parent_path() / "victim", path); }},
         {"pipe", [](const fs::path& path) { mkfifo(path.c_str(), 0600); }},
     };
     fs::permissions(Root, fs::perms::all);
@@ -132,46 +127,6 @@ TEST_F(ReplaceTest, KeepsTheOldFileWhenTheDiskIsFull) {
               0);
     EXPECT_EQ(BytesOf(Root / "file.ini"), "old");
     EXPECT_EQ(EntriesLeft(), 1) << "and nothing else";
-}
-
-TEST_F(ReplaceTest, IsWholeWhenTheProgramIsKilledInTheMiddle) {
-    // Each version has its own length and bytes, so a mixture or a part of one shows.
-    const auto version = [](int i) {
-        return std::string(static_cast<std::size_t>(20000 + i % 26),
-                           static_cast<char>('a' + i % 26));
-    };
-    Write(Root / "file.ini", version(0));
-    for (int round = 0; round < 20; ++round) {
-        int ready[2];
-        ASSERT_EQ(pipe(ready), 0);
-        const pid_t child = StartChild([&] {
-            for (int i = 0; Files.Replace("C:\\file.ini", version(i)); ++i) {
-                if (write(ready[1], "x", 1) != 1) {
-                    break;
-                }
-            }
-            return 1;
-        });
-        close(ready[1]);
-        // Killed somewhere in the replacement after a few whole ones, each round a bit later.
-        char byte = 0;
-        for (int i = 0; i < 1 + round % 4; ++i) {
-            ASSERT_EQ(read(ready[0], &byte, 1), 1);
-        }
-        for (int i = 0; i < round * 20; ++i) {
-            std::this_thread::yield();
-        }
-        kill(child, SIGKILL);
-        EXPECT_EQ(ExitOf(child), -1);
-        close(ready[0]);
-
-        const std::string bytes = BytesOf(Root / "file.ini");
-        ASSERT_FALSE(bytes.empty());
-        EXPECT_EQ(bytes, version(bytes.front() - 'a'));
-        EXPECT_LE(EntriesLeft(), 2);
-        EXPECT_TRUE(Files.Replace("C:\\file.ini", version(round)));
-        EXPECT_EQ(EntriesLeft(), 1);
-    }
 }
 
 }  // namespace

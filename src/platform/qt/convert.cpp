@@ -25,7 +25,8 @@ constexpr double TwipsPerPoint = 20;
 }  // namespace
 
 bool IsUtf8(std::string_view text) {
-    QStringDecoder decoder(QStringDecoder::Utf8);
+    // Without the flag it would wait for the rest of a character that is cut off.
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     [[maybe_unused]] const QString decoded =
         decoder.decode(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
     return !decoder.hasError();

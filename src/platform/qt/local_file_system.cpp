@@ -1,3 +1,5 @@
+#include "platform/qt/local_file_system.h"
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -5,9 +7,10 @@
 #include <QString>
 #include <algorithm>
 #include <map>
+#include <set>
 
 #include "platform/qt/convert.h"
-#include "platform/qt/local_file_system.h"
+#include "platform/text.h"
 
 namespace fs = std::filesystem;
 
@@ -18,6 +21,9 @@ namespace {
 constexpr std::string_view UserDrive = "C:\\";
 constexpr std::size_t DriveLength = UserDrive.size();
 
+/// The folder on "C:\" for what belongs into the program folder, where nobody may write.
+constexpr const char* OwnProgramFolder = "programma";
+
 /// Longest name that a file can have on the disk, in bytes.
 constexpr std::size_t LongestName = 255;
 
@@ -26,6 +32,20 @@ constexpr std::size_t LongestPath = 4000;
 
 QString Folded(const std::string& name) {
     return ToQt(name).toCaseFolded();
+}
+
+bool IsAscii(const std::string& text) {
+    return std::all_of(text.begin(), text.end(), [](char c) { return (c & 0x80) == 0; });
+}
+
+/// True for two names that are the same where case is disregarded. Asked for every file of a
+/// folder, so plain letters are compared as they are.
+bool IsSame(const std::string& a, const std::string& b) {
+    if (IsAscii(a) && IsAscii(b)) {
+        // Not with the locale's letters: in some the small I is another one.
+        return a.size() == b.size() && qstricmp(a.c_str(), b.c_str()) == 0;
+    }
+    return Folded(a) == Folded(b);
 }
 
 /// A part of a path that stays inside its folder on every file system.
@@ -59,42 +79,71 @@ std::optional<std::vector<std::string>> PartsOf(std::string_view path) {
     return parts;
 }
 
-/// Names in a folder by themselves without regard to case.
-using Names = std::map<QString, std::string>;
-
-/// The names in a folder that the program can name too; of several that differ only in case the
-/// first in alphabetical order. A folder that is not there has none; nothing if the folder cannot
-/// be looked through.
-std::optional<Names> NamesIn(const fs::path& folder) {
-    Names names;
+/// Calls `action` with each name in a folder that the program can name too. A folder that is not
+/// there has none; false if the folder cannot be looked through.
+template <typename Action>
+bool ForEachName(const fs::path& folder, Action action) {
     std::error_code error;
     for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
          entry.increment(error)) {
-        std::string name = entry->path().filename().string();
-        if (!IsUtf8(name) || name.find('\\') != std::string::npos) {
-            continue;
-        }
-        const auto [place, isNew] = names.try_emplace(Folded(name), name);
-        if (!isNew && name < place->second) {
-            place->second = std::move(name);
+        const std::string name = entry->path().filename().string();
+        if (name.find('\\') == std::string::npos && (IsAscii(name) || IsUtf8(name))) {
+            action(name);
         }
     }
-    if (error && error != std::errc::no_such_file_or_directory &&
-        error != std::errc::not_a_directory) {
-        return std::nullopt;
-    }
-    return names;
+    return !error || error == std::errc::no_such_file_or_directory ||
+           error == std::errc::not_a_directory;
+}
+
+bool Exists(const fs::path& place) {
+    std::error_code error;
+    return fs::exists(fs::symlink_status(place, error));
+}
+
+std::string WithExtension(const std::string& name, std::string (*spelled)(const std::string&)) {
+    const std::size_t dot = std::min(name.rfind('.'), name.size());
+    return name.substr(0, dot) + spelled(name.substr(dot));
+}
+
+std::string SmallLetters(const std::string& text) {
+    return FromQt(ToQt(text).toLower());
 }
 
 /// The entry of that name in any case, else the name as it is. Nothing if that cannot be told: a
 /// file in another spelling must not be taken for a missing one.
 std::optional<fs::path> Within(const fs::path& folder, const std::string& name) {
-    const auto names = NamesIn(folder);
-    if (!names) {
+    // Folders can be large, so the spellings that files really have come first. Extensions in
+    // capitals come from other systems, with files that are copied from there.
+    const std::set<std::string> likely{WithExtension(name, Capitals), name,
+                                       WithExtension(name, SmallLetters)};
+    for (const std::string& spelling : likely) {
+        if (Exists(folder / spelling)) {
+            return folder / spelling;
+        }
+    }
+    std::optional<std::string> first;
+    const bool complete = ForEachName(folder, [&](const std::string& entry) {
+        if (IsSame(entry, name) && (!first || entry < *first)) {
+            first = entry;
+        }
+    });
+    if (!complete) {
         return std::nullopt;
     }
-    const auto found = names->find(Folded(name));
-    return folder / (found == names->end() ? name : found->second);
+    return folder / first.value_or(name);
+}
+
+/// Where a path leads, with `folder` for its drive; nothing if it names nothing.
+std::optional<fs::path> Below(const fs::path& folder, std::string_view path) {
+    const auto parts = PartsOf(path);
+    std::optional<fs::path> place = folder;
+    for (std::size_t i = 0; parts && place && i < parts->size(); ++i) {
+        place = Within(*place, parts->at(i));
+        if (place && place->native().size() > LongestPath) {
+            place.reset();
+        }
+    }
+    return parts ? place : std::nullopt;
 }
 
 /// Where a chain of links ends, be there a file or not; nothing if it never does.
@@ -108,12 +157,6 @@ std::optional<fs::path> EndOfLinks(fs::path place) {
         place = place.parent_path() / fs::read_symlink(place, error);
     }
     return std::nullopt;
-}
-
-/// The extension of a new file in small letters, whatever a path literal spells.
-std::string WithSmallExtension(const std::string& name) {
-    const std::size_t dot = std::min(name.rfind('.'), name.size());
-    return name.substr(0, dot) + FromQt(ToQt(name.substr(dot)).toLower());
 }
 
 /// A file that is closed when it goes out of scope.
@@ -160,58 +203,74 @@ bool WriteAll(int handle, std::string_view bytes) {
 
 }  // namespace
 
-std::optional<fs::path> LocalFileSystem::Find(const std::string& path) const {
-    const bool inProgramFolder = IsInProgramFolder(path) && !program_.empty();
-    if (!inProgramFolder && !IsOnUserDrive(path)) {
-        return std::nullopt;
+std::vector<fs::path> LocalFileSystem::FoldersOf(std::string_view path) const {
+    if (IsOnUserDrive(path)) {
+        return {root_};
     }
-    const auto parts = PartsOf(path);
-    if (!parts) {
-        return std::nullopt;
+    if (!IsInProgramFolder(path)) {
+        return {};
     }
-    std::optional<fs::path> place = inProgramFolder ? program_ : root_;
-    for (const std::string& part : *parts) {
-        place = Within(*place, part);
-        if (!place || place->native().size() > LongestPath) {
-            return std::nullopt;
-        }
+    // What a user puts beside the program counts before what came with it.
+    std::vector<fs::path> folders{root_ / OwnProgramFolder};
+    if (!program_.empty()) {
+        folders.push_back(program_);
     }
-    return place;
+    return folders;
 }
 
-std::optional<fs::path> LocalFileSystem::FindOrName(const std::string& path) const {
-    auto place = Find(path);
-    std::error_code error;
-    if (place && fs::symlink_status(*place, error).type() == fs::file_type::not_found) {
-        place->replace_filename(WithSmallExtension(place->filename().string()));
+std::vector<fs::path> LocalFileSystem::PlacesOf(const std::string& path) const {
+    std::vector<fs::path> places;
+    for (const fs::path& folder : FoldersOf(path)) {
+        if (const auto place = Below(folder, path); place && Exists(*place)) {
+            places.push_back(*place);
+        }
+    }
+    return places;
+}
+
+std::optional<fs::path> LocalFileSystem::FindFile(const std::string& path) const {
+    for (const fs::path& place : PlacesOf(path)) {
+        std::error_code error;
+        if (fs::is_regular_file(place, error)) {
+            return place;
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<fs::path> LocalFileSystem::PlaceToMake(const std::string& path) const {
+    const auto folders = FoldersOf(path);
+    return folders.empty() ? std::nullopt : Below(folders.front(), path);
+}
+
+std::optional<fs::path> LocalFileSystem::PlaceToWrite(const std::string& path) const {
+    auto place = PlaceToMake(path);
+    if (place && !Exists(*place)) {
+        place->replace_filename(WithExtension(place->filename().string(), SmallLetters));
     }
     return place;
 }
 
 bool LocalFileSystem::FileExists(const std::string& path) const {
-    const auto place = Find(path);
-    std::error_code error;
-    return place && fs::is_regular_file(*place, error);
+    return FindFile(path).has_value();
 }
 
 bool LocalFileSystem::FolderExists(const std::string& path) const {
-    const auto place = Find(path);
-    std::error_code error;
-    return place && fs::is_directory(*place, error);
+    const auto places = PlacesOf(path);
+    return std::any_of(places.begin(), places.end(), [](const fs::path& place) {
+        std::error_code error;
+        return fs::is_directory(place, error);
+    });
 }
 
 bool LocalFileSystem::CreateFolder(const std::string& path) {
-    const auto place = Find(path);
-    if (!place || IsInProgramFolder(path)) {
-        return false;
-    }
+    const auto place = PlaceToMake(path);
     std::error_code error;
-    fs::create_directories(*place, error);
-    return fs::is_directory(*place, error);
+    return place && (fs::create_directories(*place, error), fs::is_directory(*place, error));
 }
 
 std::optional<std::string> LocalFileSystem::Read(const std::string& path, std::size_t limit) const {
-    const auto place = Find(path);
+    const auto place = FindFile(path);
     if (!place) {
         return std::nullopt;
     }
@@ -242,16 +301,19 @@ std::optional<std::string> LocalFileSystem::Read(const std::string& path, std::s
 }
 
 bool LocalFileSystem::Replace(const std::string& path, const std::string& bytes) {
-    auto place = FindOrName(path);
-    if (!place || IsInProgramFolder(path)) {
+    auto place = PlaceToWrite(path);
+    if (!place) {
         return false;
+    }
+    std::error_code error;
+    if (IsInProgramFolder(path)) {
+        fs::create_directories(place->parent_path(), error);
     }
     // What a link points to is replaced, not the link.
     place = EndOfLinks(*place);
     if (!place) {
         return false;
     }
-    std::error_code error;
     // A file that somebody made read-only stays as it is.
     if (fs::exists(*place, error) &&
         (!fs::is_regular_file(*place, error) || access(place->c_str(), W_OK) != 0)) {
@@ -278,19 +340,34 @@ bool LocalFileSystem::Replace(const std::string& path, const std::string& bytes)
 
 std::vector<std::string> LocalFileSystem::List(const std::string& folder,
                                                const std::string& ending) const {
-    std::vector<std::string> names;
-    if (const auto place = Find(folder)) {
-        for (const auto& [folded, name] : NamesIn(*place).value_or(Names())) {
-            if (folded.endsWith(Folded(ending))) {
-                names.push_back(name);
+    const QString foldedEnding = Folded(ending);
+    std::map<QString, std::string> names;
+    for (const fs::path& place : PlacesOf(folder)) {
+        std::map<QString, std::string> here;
+        ForEachName(place, [&](const std::string& name) {
+            const QString folded = Folded(name);
+            if (!folded.endsWith(foldedEnding)) {
+                return;
             }
-        }
+            const auto [first, isNew] = here.try_emplace(folded, name);
+            if (!isNew && name < first->second) {
+                first->second = name;
+            }
+        });
+        names.merge(here);
     }
-    return names;
+    std::vector<std::string> sorted;
+    for (auto& [folded, name] : names) {
+        sorted.push_back(std::move(name));
+    }
+    return sorted;
 }
 
 std::string LocalFileSystem::OnThisMachine(const std::string& path) const {
-    const auto place = FindOrName(path);
+    auto place = FindFile(path);
+    if (!place) {
+        place = PlaceToWrite(path);
+    }
     return place ? place->string() : path;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string_view>
 
 #include "platform/file_system.h"
 
@@ -11,7 +12,7 @@ namespace trameli {
 class LocalFileSystem final : public FileSystem {
 public:
     /// `root` is the folder that "C:\" stands for. It is made when something is first put into it.
-    /// `program` is the program folder; without one, paths into it name nothing.
+    /// `program` is the program folder as it was installed, if there is one.
     explicit LocalFileSystem(std::filesystem::path root, std::filesystem::path program = {})
         : root_(std::move(root)), program_(std::move(program)) {}
 
@@ -25,11 +26,18 @@ public:
     std::string OnThisMachine(const std::string& path) const override;
 
 private:
-    /// The place on the disk; parts that exist in other letters' case are taken as they stand
-    /// there. Nothing for a path that names nothing.
-    std::optional<std::filesystem::path> Find(const std::string& path) const;
-    /// The same for a file, under the name that it gets if there is none yet.
-    std::optional<std::filesystem::path> FindOrName(const std::string& path) const;
+    /// The folders in which a path is looked for, in this order; the first one is written to. None
+    /// for a path that names nothing.
+    std::vector<std::filesystem::path> FoldersOf(std::string_view path) const;
+    /// Where something of that path lies; parts that exist in other letters' case are taken as
+    /// they stand there.
+    std::vector<std::filesystem::path> PlacesOf(const std::string& path) const;
+    /// The first of them that is an ordinary file.
+    std::optional<std::filesystem::path> FindFile(const std::string& path) const;
+    /// Where a folder of that path is made; nothing if it cannot be.
+    std::optional<std::filesystem::path> PlaceToMake(const std::string& path) const;
+    /// Where a file of that path is replaced or made.
+    std::optional<std::filesystem::path> PlaceToWrite(const std::string& path) const;
 
     std::filesystem::path root_;
     std::filesystem::path program_;
