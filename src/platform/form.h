@@ -13,6 +13,12 @@ namespace trameli {
 
 class Forms;
 
+/// How a form stands on the screen.
+enum class FormStyle {
+    Maximised,  ///< as large as the desktop lets it be
+    Windowed,   ///< where and as large as the form says
+};
+
 /// A window of the program. A class of its own declares the controls as members, and overrides
 /// the event routines that it needs.
 ///
@@ -28,7 +34,8 @@ public:
     };
 
     /// Not loaded yet and not on the screen. `name` is the one it is registered under.
-    Form(trameli::Forms& forms, std::string name, DesignSize size);
+    Form(trameli::Forms& forms, std::string name, DesignSize size,
+         FormStyle style = FormStyle::Maximised);
     ~Form() override;
     Form(const Form&) = delete;
     Form& operator=(const Form&) = delete;
@@ -38,10 +45,38 @@ public:
     /// True from `Form_Load` until the form is unloaded or the program ended.
     bool Loaded() const;
 
+    /// Place of the window on the screen in twips.
+    double Left() const;
+    double Top() const;
     /// Size of the client area in twips, without menu bar and window frame, whose measures belong
     /// to the desktop. A maximised form has its final size from `Form_Activate` on.
     double Width() const;
     double Height() const;
+    double ScaleWidth() const { return Width(); }
+    double ScaleHeight() const { return Height(); }
+    // A maximised form stays as it is whatever is set. One that is made to cover the whole screen
+    // gets what the desktop leaves of it, like a maximised one, and learns of that size by
+    // `Form_Resize`.
+    void Left(double twips);
+    void Top(double twips);
+    void Width(double twips);
+    void Height(double twips);
+    /// Normal, minimised or maximised.
+    enum WindowStates { Normal = 0, Minimised = 1, Maximised = 2 };
+    int WindowState() const;
+    void WindowState(int state);
+
+    /// While one lives, nothing of the form is painted again; for placing many controls.
+    class HoldPainting {
+    public:
+        explicit HoldPainting(Form& form);
+        ~HoldPainting();
+        HoldPainting(const HoldPainting&) = delete;
+        HoldPainting& operator=(const HoldPainting&) = delete;
+
+    private:
+        Form& form_;
+    };
 
     /// The text in the window's frame.
     const std::string& Caption() const { return caption_; }
@@ -72,9 +107,11 @@ protected:
     // Event routines, in the order in which they arrive.
     /// The form is there, in its design size and not on the screen yet.
     virtual void Form_Load() {}
-    /// The client area has another size.
+    /// The client area has another size, by the desktop or by code.
     virtual void Form_Resize() {}
-    /// The form has come to the front and has its final size; again whenever it comes back.
+    /// The form has come to the front and has its final size; again whenever it comes back. The
+    /// first time of a windowed form is just before it is seen, so that it can still choose its
+    /// size.
     virtual void Form_Activate() {}
     /// A key was pressed; holding it down is one press. True keeps the key for the form: neither
     /// its press nor its release reaches the control that has the focus.
@@ -83,6 +120,9 @@ protected:
     virtual void Form_KeyUp(int keyCode, int shift);
     /// The pointer moved over the form itself, not over a control.
     virtual void Form_MouseMove() {}
+    /// Somebody closes the window by its frame. Unloads the form; one that overrides this decides
+    /// itself what becomes of it.
+    virtual void Form_QueryClose();
     /// The form goes, by code or because its window was closed. It is still loaded.
     virtual void Form_Unload() {}
 
@@ -104,6 +144,8 @@ private:
     std::optional<PointerImage> mouseIcon_;
     std::vector<Control*> controls_;
     bool loaded_ = false;
+    bool loading_ = false;  // its Form_Load is under way
+    bool awaited_ = false;  // to be shown as soon as it is loaded
     bool unloading_ = false;
     std::unique_ptr<Native> native_;
 };

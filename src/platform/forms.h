@@ -13,6 +13,9 @@
 
 namespace trameli {
 
+/// Whether a form lets others have the keyboard and the pointer while it is shown.
+enum class Modality { Modeless, Modal };
+
 /// All forms of one program, by name. Each exists at most once. Forms open each other through this
 /// class and so need not know of each other.
 class Forms {
@@ -35,12 +38,18 @@ public:
     bool Knows(const std::string& name) const { return makers_.contains(name); }
 
     /// Loads the form if it is not loaded, and brings it to the front; returns before its
-    /// `Form_Activate`. A name that is not known shows nothing.
-    void Show(const std::string& name);
+    /// `Form_Activate`. A form whose `Form_Load` is still under way, serving events, comes to the
+    /// front when that has returned. A name that is not known shows nothing.
+    ///
+    /// Shown `Modal`, it alone has keyboard and pointer, and this returns when it is unloaded or
+    /// the program ended: the caller's own form may be gone by then.
+    void Show(const std::string& name, Modality modality = Modality::Modeless);
     /// The form of that name, loaded but not shown if it was not loaded before. It must be known.
     Form& Load(const std::string& name);
     /// The form of that name if it is loaded, else nothing.
     Form* Find(const std::string& name) const;
+    /// All forms that are loaded just now, the one in front last.
+    std::vector<Form*> Loaded() const;
     /// Runs the form's `Form_Unload` and takes it from the screen. None of its routines is started
     /// any more; it is destroyed when the last one under way has returned. The program ends when
     /// no form is left on the screen.
@@ -53,6 +62,13 @@ public:
 
     /// Serves events until the program ends.
     void Run();
+    /// Serves the events that are waiting, without waiting for any. Afterwards the caller's form
+    /// and its controls may be gone.
+    void ServeEvents();
+
+    /// Calls `action` with each control that the form has now, in the order of their making, and
+    /// leaves out those that are gone when it is their turn. Stops when the form is unloaded.
+    void ForEachControl(Form& form, const std::function<void(Control&)>& action);
 
     /// Runs an event routine of `form` if the form is loaded; of use below `platform` only.
     void Dispatch(Form& form, const std::function<void()>& routine);
@@ -61,6 +77,9 @@ private:
     using Place = std::vector<std::unique_ptr<Form>>::iterator;
 
     Place PlaceOf(const Form& form);
+    Form& Open(const std::string& name, bool wanted);
+    void Present(Form& form);
+    void AwaitUnload(const Form& form);
     void Bury();
     void BringLastToFront();
     void StopIfDeserted();

@@ -4,6 +4,8 @@
 #include <QTimer>
 #include <QWindow>
 
+#include "platform/control_array.h"
+#include "platform/label.h"
 #include "platform/scripted_form.h"
 
 namespace trameli {
@@ -13,9 +15,7 @@ class FormTest : public ScriptedProgram {
 protected:
     /// Shows A in a further program, which has no other form.
     ScriptedForm& BringIn(Forms& program) {
-        program.Register("A", [this](Forms& forms) {
-            return std::make_unique<ScriptedForm>(forms, "A", Scripts["A"], Seen);
-        });
+        Introduce(program);
         program.Show("A");
         Pump();
         auto& form = dynamic_cast<ScriptedForm&>(*program.Find("A"));
@@ -77,15 +77,77 @@ TEST_F(FormTest, IsActivatedAgainWhenItComesBackToTheFront) {
     }
 }
 
-TEST_F(FormTest, UnloadedInItsOwnLoadNeverShows) {
-    Bring("A");
-    Scripts["B"].Load = [](ScriptedForm& form) { form.Forms().Unload(form); };
-    Program.Show("B");
-    Pump();
-    EXPECT_EQ(Seen, (Log{"B Load", "B Unload"}));
-    EXPECT_EQ(Program.Find("B"), nullptr);
-    EXPECT_EQ(ScriptedForm::Alive, 1);
-    EXPECT_FALSE(Program.Ended());
+TEST_F(FormTest, IsPresentedAfterItsLoadWhateverHappensMeanwhile) {
+    struct Case {
+        const char* What;
+        std::function<void(Forms&)> Meanwhile;
+        Log Seen;
+    };
+    const Log shown{"B Load", "B Load over", "B Resize", "B Activate"};
+    const Case cases[] = {
+        {"shown again", [](Forms& forms) { forms.Show("B"); }, shown},
+        {"loaded again", [](Forms& forms) { forms.Load("B"); }, shown},
+        {"the last form on the screen goes",
+         [](Forms& forms) { forms.Unload(*forms.Find("A")); },
+         {"B Load", "A Unload", "B Load over", "B Resize", "B Activate"}},
+        {"unloaded",
+         [](Forms& forms) { forms.Unload(*forms.Find("B")); },
+         {"B Load", "B Unload", "B Load over"}},
+        {"the end", [](Forms& forms) { forms.End(); }, {"B Load", "B Load over"}},
+    };
+    for (const Case& one : cases) {
+        SCOPED_TRACE(one.What);
+        Forms program{Time, Display};
+        BringIn(program);
+        Scripts["B"].Load = [&](ScriptedForm& form) {
+            one.Meanwhile(program);
+            program.ServeEvents();
+            EXPECT_FALSE(WindowOf(form).isVisible());
+            form.Note("Load over");
+        };
+        program.Show("B");
+        Pump();
+        EXPECT_EQ(Seen, one.Seen);
+    }
+}
+
+TEST_F(FormTest, ComesUpByItselfIfShownInALoadThatWasNoShow) {
+    Scripts["B"].Load = [](ScriptedForm& form) { form.Forms().Show("B"); };
+    ScriptedForm& form = dynamic_cast<ScriptedForm&>(Program.Load("B"));
+    EXPECT_TRUE(WindowOf(form).isVisible());
+}
+
+TEST_F(FormTest, ControlsAreWalkedOverThoughTheyGo) {
+    ScriptedForm& form = Bring("A");
+    ControlArray<Label> labels("Labels");
+    for (int i = 0; i < 4; ++i) {
+        labels.Add(form, Bounds{0, 0, 100, 100}, "");
+    }
+    Log walked;
+    const auto walk = [&](const std::function<void(int)>& at) {
+        walked.clear();
+        Program.ForEachControl(form, [&](Control& control) {
+            if (control.Index()) {
+                walked.push_back(std::to_string(*control.Index()));
+                at(*control.Index());
+            }
+        });
+        return walked;
+    };
+    EXPECT_EQ(walk([](int) {}), (Log{"0", "1", "2", "3"}));
+    EXPECT_EQ(walk([&](int index) {
+                  if (index == 1) {
+                      labels.Unload(0);
+                      labels.Unload(1);
+                      labels.Unload(2);
+                  }
+              }),
+              (Log{"0", "1", "3"}));
+    EXPECT_EQ(walk([&](int) {
+                  Program.Unload(form);
+                  Program.ServeEvents();
+              }),
+              Log{"3"});
 }
 
 TEST_F(FormTest, RunsItsUnloadOnceWhateverHappensInIt) {

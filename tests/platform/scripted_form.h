@@ -31,12 +31,14 @@ public:
         Routine Resize;
         Routine Activate;
         Routine Unload;
+        Routine QueryClose;
+        FormStyle Style = FormStyle::Maximised;
         std::function<bool(ScriptedForm&, int)> KeyDown;
         std::function<void(ScriptedForm&, int)> KeyUp;
     };
 
     ScriptedForm(trameli::Forms& forms, const std::string& name, Script& script, Log& log)
-        : Form(forms, name, {6000, 3000}),
+        : Form(forms, name, {6000, 3000}, script.Style),
           Menu(*this, "Menu", "&Menu"),
           Entry(Menu, "Entry", "&Entry", 'E'),
           Other(Menu, "Other", "&Other"),
@@ -77,6 +79,13 @@ protected:
     void Form_Resize() override { Do("Resize", script_.Resize); }
     void Form_Activate() override { Do("Activate", script_.Activate); }
     void Form_Unload() override { Do("Unload", script_.Unload); }
+    void Form_QueryClose() override {
+        if (script_.QueryClose) {
+            script_.QueryClose(*this);
+        } else {
+            Form::Form_QueryClose();
+        }
+    }
     void Form_MouseMove() override { Note("MouseMove"); }
     bool Form_KeyDown(int keyCode, int) override {
         return script_.KeyDown && script_.KeyDown(*this, keyCode);
@@ -107,8 +116,13 @@ protected:
     /// On another screen than the one without a desktop.
     explicit ScriptedProgram(Screen* screen) : Program(Time, screen ? *screen : Display) {
         ScriptedForm::Alive = 0;
+        Introduce(Program);
+    }
+
+    /// Makes A and B known to a program.
+    void Introduce(Forms& program) {
         for (const char* name : {"A", "B"}) {
-            Program.Register(name, [this, name](Forms& forms) {
+            program.Register(name, [this, name](Forms& forms) {
                 return std::make_unique<ScriptedForm>(forms, name, Scripts[name], Seen);
             });
         }

@@ -1,5 +1,7 @@
 #include "platform/form.h"
 
+#include <QRect>
+
 #include "base/rounding.h"
 #include "platform/forms.h"
 #include "platform/qt/convert.h"
@@ -10,11 +12,23 @@
 
 namespace trameli {
 
-Form::Form(trameli::Forms& forms, std::string name, DesignSize size)
+namespace {
+
+/// Asks for a form's place with one part of it changed.
+void Ask(Form& form, void (QRect::*part)(int), double twips) {
+    FormWindow& window = form.NativePart().Window;
+    QRect place = window.Asked();
+    (place.*part)(Nearest(twips / TwipsPerPixel(form)));
+    window.Place(place);
+}
+
+}  // namespace
+
+Form::Form(trameli::Forms& forms, std::string name, DesignSize size, FormStyle style)
     : forms_(forms), name_(std::move(name)) {
     const double twips = forms.Screen().TwipsPerPixelX();
     native_ = std::make_unique<Native>(
-        *this, QSize(Nearest(size.Width / twips), Nearest(size.Height / twips)));
+        *this, QSize(Nearest(size.Width / twips), Nearest(size.Height / twips)), style);
 }
 
 Form::~Form() = default;
@@ -23,12 +37,52 @@ bool Form::Loaded() const {
     return loaded_ && !forms_.Ended();
 }
 
+double Form::Left() const {
+    return native_->Window.Place().x() * TwipsPerPixel(*this);
+}
+
+double Form::Top() const {
+    return native_->Window.Place().y() * TwipsPerPixel(*this);
+}
+
 double Form::Width() const {
     return native_->Window.Client().width() * TwipsPerPixel(*this);
 }
 
 double Form::Height() const {
     return native_->Window.Client().height() * TwipsPerPixel(*this);
+}
+
+void Form::Left(double twips) {
+    Ask(*this, &QRect::moveLeft, twips);
+}
+
+void Form::Top(double twips) {
+    Ask(*this, &QRect::moveTop, twips);
+}
+
+void Form::Width(double twips) {
+    Ask(*this, &QRect::setWidth, twips);
+}
+
+void Form::Height(double twips) {
+    Ask(*this, &QRect::setHeight, twips);
+}
+
+int Form::WindowState() const {
+    return native_->Window.State();
+}
+
+void Form::WindowState(int state) {
+    native_->Window.State(static_cast<WindowStates>(state));
+}
+
+Form::HoldPainting::HoldPainting(Form& form) : form_(form) {
+    form_.native_->Window.HoldPainting();
+}
+
+Form::HoldPainting::~HoldPainting() {
+    form_.native_->Window.ReleasePainting();
 }
 
 void Form::Caption(const std::string& caption) {
@@ -71,7 +125,13 @@ bool Form::Form_KeyDown(int /*keyCode*/, int /*shift*/) {
 
 void Form::Form_KeyUp(int /*keyCode*/, int /*shift*/) {}
 
+void Form::Form_QueryClose() {
+    forms_.Unload(*this);
+}
+
 bool Form::Attesa(double secondi) {
+    // Nobody should wait in front of nothing.
+    native_->Window.ComeUp();
     forms_.Clock().Wait(secondi, [this] { return !Loaded(); });
     return Loaded();
 }
@@ -82,6 +142,12 @@ void Form::Native::Resize(Form& form) {
 
 void Form::Native::Activate(Form& form) {
     form.Form_Activate();
+}
+
+void Form::Native::QueryClose(Form& form) {
+    if (!form.unloading_) {
+        form.Form_QueryClose();
+    }
 }
 
 bool Form::Native::KeyPressed(Form& form, int keyCode, int shift) {

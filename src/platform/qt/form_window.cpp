@@ -43,6 +43,10 @@ void ClientArea::paintEvent(QPaintEvent* event) {
 }
 
 void ClientArea::resizeEvent(QResizeEvent*) {
+    Resized();
+}
+
+void ClientArea::Resized() {
     if (const auto& canvas = form_.NativePart().Canvas) {
         canvas->SurfaceNative().Resize(size(), devicePixelRatioF());
     }
@@ -53,8 +57,12 @@ void ClientArea::mouseMoveEvent(QMouseEvent*) {
     form_.Forms().Dispatch(form_, [this] { Form::Native::MouseMoved(form_); });
 }
 
-FormWindow::FormWindow(Form& form, QSize clientSize)
-    : form_(form), client_(*new ClientArea(form, this)) {
+FormWindow::FormWindow(Form& form, QSize clientSize, FormStyle style)
+    : form_(form),
+      client_(*new ClientArea(form, this)),
+      style_(style),
+      asked_({0, 0}, clientSize),
+      maximised_(style == FormStyle::Maximised) {
     setWindowFlags(FrameWithoutSizeButtons);
     setAccessibleName(QStringLiteral("Trameli"));
     Title(QString());
@@ -66,7 +74,7 @@ FormWindow::FormWindow(Form& form, QSize clientSize)
         // No frame came, so perhaps nobody manages windows here, and nobody else gives the keyboard
         // to a new one. Keys would find their way all the same, but not the focus.
         activateWindow();
-        Activate();
+        Settled();
     });
 }
 
@@ -76,12 +84,104 @@ void FormWindow::Title(const QString& title) {
 }
 
 void FormWindow::Present() {
-    if (isVisible()) {
+    if (presented_) {
         raise();
         activateWindow();
         return;
     }
+    presented_ = true;
     FocusFirst();
+    if (style_ == FormStyle::Maximised) {
+        ComeUp();
+        return;
+    }
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            Activate();
+            ComeUp();
+        },
+        Qt::QueuedConnection);
+}
+
+void FormWindow::ComeUp() {
+    if (!presented_ || isVisible() || !form_.Loaded()) {
+        return;
+    }
+    Arrange();
+    winId();  // makes the window, whose keys are filtered
+    windowHandle()->installEventFilter(this);
+    settled_ = !maximised_ && !CoversScreen();
+    if (!settled_) {
+        // Painted once, with what the activation draws: nothing flashes up before it, and the
+        // first picture is there sooner.
+        firstPictureHeld_ = true;
+        HoldPainting();
+    }
+    show();
+    LookUpFonts();
+    if (settled_) {
+        activateWindow();
+    } else {
+        Settle();
+    }
+}
+
+QRect FormWindow::Place() const {
+    return {isVisible() ? pos() : asked_.topLeft(), client_.size()};
+}
+
+QRect FormWindow::Asked() const {
+    const bool asIs = isVisible() && !maximised_ && !CoversScreen() && !isMinimized();
+    return asIs ? Place() : asked_;
+}
+
+void FormWindow::Place(const QRect& asked) {
+    if (maximised_) {
+        return;
+    }
+    asked_ = {asked.topLeft(), asked.size().expandedTo({0, 0})};
+    if (isVisible()) {
+        Arrange();
+    } else if (client_.size() != asked_.size()) {
+        client_.resize(asked_.size());
+        client_.Resized();
+    }
+}
+
+Form::WindowStates FormWindow::State() const {
+    return isMinimized() ? Form::Minimised : maximised_ ? Form::Maximised : Form::Normal;
+}
+
+void FormWindow::State(Form::WindowStates state) {
+    if (state == Form::Minimised) {
+        setWindowState(windowState() | Qt::WindowMinimized);
+        return;
+    }
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    maximised_ = state == Form::Maximised;
+    if (isVisible()) {
+        Arrange();
+    }
+}
+
+bool FormWindow::CoversScreen() const {
+    const PixelSize size = form_.Forms().Screen().Size();
+    return asked_.contains(QRect(0, 0, size.Width, size.Height));
+}
+
+/// Gives the window its size and place.
+void FormWindow::Arrange() {
+    if (!maximised_ && !CoversScreen()) {
+        setWindowState(windowState() & ~Qt::WindowMaximized);
+        move(asked_.topLeft());
+        const int bar = menuWidget() ? menuWidget()->heightForWidth(asked_.width()) : 0;
+        resize(asked_.width(), asked_.height() + bar);
+        return;
+    }
+    if (isVisible() && isMaximized()) {
+        return;
+    }
     const PixelSize available = form_.Forms().Screen().Available();
     const QSize size(available.Width, available.Height);
     const QRect place = QGuiApplication::primaryScreen()->availableGeometry();
@@ -91,16 +191,26 @@ void FormWindow::Present() {
     resize(size);
     if (size == place.size()) {
         move(place.topLeft());
-        setWindowState(Qt::WindowMaximized);
+        setWindowState(windowState() | Qt::WindowMaximized);
     }
-    winId();  // makes the window, whose keys are filtered
-    windowHandle()->installEventFilter(this);
-    // Painted once, with what the activation draws: nothing flashes up before it, and the first
-    // picture is there sooner.
-    setUpdatesEnabled(false);
-    show();
-    LookUpFonts();
-    Settle();
+}
+
+void FormWindow::HoldPainting() {
+    if (++paintingHolds_ == 1) {
+        setUpdatesEnabled(false);
+    }
+}
+
+void FormWindow::ReleasePainting() {
+    if (--paintingHolds_ == 0) {
+        setUpdatesEnabled(true);
+    }
+}
+
+void FormWindow::ReleaseFirstPicture() {
+    if (std::exchange(firstPictureHeld_, false)) {
+        ReleasePainting();
+    }
 }
 
 /// Has the toolkit look for the system's fonts, which it does when it first needs one. Now the
@@ -119,6 +229,7 @@ bool FormWindow::FocusMovedTo(const Control& control) {
 
 void FormWindow::Dismiss() {
     settling_.stop();
+    presented_ = false;
     // A menu left open would stay on the screen without its window.
     while (QWidget* popup = QApplication::activePopupWidget()) {
         popup->close();
@@ -145,7 +256,7 @@ bool FormWindow::event(QEvent* event) {
             kept_.clear();
             break;
         case QEvent::Resize:
-            if (!activated_ && isVisible()) {
+            if (!settled_ && isVisible()) {
                 const bool handled = QMainWindow::event(event);
                 Settle();
                 return handled;
@@ -171,7 +282,7 @@ bool FormWindow::eventFilter(QObject* object, QEvent* event) {
             break;
         }
         case QEvent::Expose:
-            if (!activated_) {
+            if (!settled_) {
                 // After the window has dealt with it.
                 QMetaObject::invokeMethod(
                     this, [this] { Settle(); }, Qt::QueuedConnection);
@@ -232,22 +343,21 @@ bool FormWindow::FilterPress(QKeyEvent& event) {
 
 void FormWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
-    if (form_.Loaded()) {
-        form_.Forms().Unload(form_);
-    }
+    form_.Forms().Dispatch(form_, [this] { Form::Native::QueryClose(form_); });
 }
 
-/// Called whenever something has happened to a window that was not activated yet.
+/// Called whenever something has happened to a window that fills the screen and has not got its
+/// final size yet.
 void FormWindow::Settle() {
-    if (activated_ || !isVisible() || !windowHandle()->isExposed()) {
+    if (settled_ || !isVisible() || !windowHandle()->isExposed()) {
         return;
     }
     if (HasFinalSize()) {
         settling_.stop();
         QMetaObject::invokeMethod(
-            this, [this] { Activate(); }, Qt::QueuedConnection);
+            this, [this] { Settled(); }, Qt::QueuedConnection);
     } else {
-        setUpdatesEnabled(true);  // too long for a window without a picture
+        ReleaseFirstPicture();  // too long for a window without a picture
         settling_.start();
     }
 }
@@ -264,13 +374,22 @@ bool FormWindow::HasFinalSize() const {
     return !windowHandle()->frameMargins().isNull() && outside.size() == available.size();
 }
 
+void FormWindow::Settled() {
+    if (settled_ || !form_.Loaded()) {
+        return;
+    }
+    settled_ = true;
+    settling_.stop();
+    ReleaseFirstPicture();
+    Activate();
+}
+
+/// For the first time.
 void FormWindow::Activate() {
     if (activated_ || !form_.Loaded()) {
         return;
     }
     activated_ = true;
-    settling_.stop();
-    setUpdatesEnabled(true);
     form_.Forms().Dispatch(form_, [this] { Form::Native::Activate(form_); });
 }
 

@@ -16,6 +16,9 @@ class ClientArea : public QWidget {
 public:
     ClientArea(Form& form, QWidget* parent);
 
+    /// Tells the form that it has another size.
+    void Resized();
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -29,13 +32,32 @@ private:
 /// front and of being closed.
 class FormWindow : public QMainWindow {
 public:
-    FormWindow(Form& form, QSize clientSize);
+    FormWindow(Form& form, QSize clientSize, FormStyle style);
 
     ClientArea& Client() { return client_; }
     /// The text in the window's frame; it may be empty.
     void Title(const QString& title);
-    /// Shows the window as large as the screen allows, or brings it to the front.
+    /// Shows the window, or brings it to the front.
     void Present();
+    /// True from then on until it is dismissed, though it may not be on the screen yet.
+    bool Presented() const { return presented_; }
+    /// Brings a window that was presented to the screen now, though its form would still have the
+    /// right to choose its size unseen.
+    void ComeUp();
+
+    /// Where the frame's corner is and how large the client area, in pixels.
+    QRect Place() const;
+    /// The same as the form last asked for it, or as somebody has made it since.
+    QRect Asked() const;
+    /// Has no effect on a window that is maximised by the program.
+    void Place(const QRect& asked);
+    Form::WindowStates State() const;
+    void State(Form::WindowStates state);
+
+    /// Nothing is painted until each hold was released.
+    void HoldPainting();
+    void ReleasePainting();
+
     /// Notes which control has the keyboard; true if it is another one than before.
     bool FocusMovedTo(const Control& control);
     /// True while the form is told of a key's press.
@@ -52,7 +74,11 @@ protected:
 private:
     bool FilterKey(QKeyEvent& event);
     bool FilterPress(QKeyEvent& event);
+    bool CoversScreen() const;
+    void Arrange();
+    void ReleaseFirstPicture();
     void Settle();
+    void Settled();
     bool HasFinalSize() const;
     void Activate();
     std::vector<const InteractiveControl*> OrderTabs();
@@ -67,14 +93,21 @@ private:
     QSet<int> kept_;           // keys held down that the form keeps from its controls
     bool menuHasKey_ = false;  // the press under way found a menu or a list open
     const Control* focused_ = nullptr;
+    const FormStyle style_;
+    QRect asked_;
+    bool maximised_;  // by the form itself
+    bool presented_ = false;
+    int paintingHolds_ = 0;
+    bool firstPictureHeld_ = false;
     QTimer settling_;
+    bool settled_ = false;         // the desktop has given the window its size
     bool activated_ = false;       // Form_Activate has come once
     bool frontAnnounced_ = false;  // the desktop has said once that the window is in front
 };
 
 /// The toolkit's side of a form.
 struct Form::Native {
-    Native(Form& form, QSize clientSize) : Window(form, clientSize) {}
+    Native(Form& form, QSize clientSize, FormStyle style) : Window(form, clientSize, style) {}
 
     FormWindow Window;
     std::unique_ptr<Surface> Canvas;
@@ -82,6 +115,7 @@ struct Form::Native {
     // The event routines of a form are its own; its window reaches them through here.
     static void Resize(Form& form);
     static void Activate(Form& form);
+    static void QueryClose(Form& form);
     static bool KeyPressed(Form& form, int keyCode, int shift);
     static void KeyReleased(Form& form, int keyCode, int shift);
     static void MouseMoved(Form& form);

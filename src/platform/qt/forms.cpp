@@ -1,6 +1,7 @@
 #include "platform/forms.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QEventLoop>
 #include <algorithm>
 
@@ -10,8 +11,15 @@
 namespace trameli {
 
 struct Forms::Native {
+    /// The loop of a modal form, in `AwaitUnload`.
+    struct Modal {
+        const Form* Shown;
+        QEventLoop* Loop;
+    };
+
     QEventLoop Loop;
-    QObject Grave;  // receives the call that buries; gone with the program
+    std::vector<Modal> Modals;  // one inside the other
+    QObject Grave;              // receives the call that buries; gone with the program
 };
 
 Forms::Forms(trameli::Clock& clock, trameli::Screen& screen)
@@ -27,7 +35,18 @@ void Forms::Register(const std::string& name, Maker maker) {
 }
 
 Form& Forms::Load(const std::string& name) {
+    Form& form = Open(name, false);
+    if (form.awaited_ && !form.loading_ && form.Loaded()) {
+        Present(form);
+    }
+    return form;
+}
+
+/// Loads the form if it is not loaded. It is presented by whoever began to load it, or by nobody:
+/// `wanted` notes the wish for them.
+Form& Forms::Open(const std::string& name, bool wanted) {
     if (Form* form = Find(name)) {
+        form->awaited_ |= wanted && form->loading_;
         return *form;
     }
     loaded_.push_back(makers_.at(name)(*this));
@@ -38,7 +57,10 @@ Form& Forms::Load(const std::string& name) {
             timer->Restart();
         }
     }
+    form.awaited_ = wanted;
+    form.loading_ = true;
     Dispatch(form, [&form] { form.Form_Load(); });
+    form.loading_ = false;
     return form;
 }
 
@@ -48,16 +70,49 @@ Form* Forms::Find(const std::string& name) const {
     return found == loaded_.end() ? nullptr : found->get();
 }
 
-void Forms::Show(const std::string& name) {
+std::vector<Form*> Forms::Loaded() const {
+    std::vector<Form*> forms;
+    for (const auto& form : loaded_) {
+        if (form->Loaded()) {
+            forms.push_back(form.get());
+        }
+    }
+    return forms;
+}
+
+void Forms::Show(const std::string& name, Modality modality) {
     if (ended_ || !Knows(name)) {
         return;
     }
-    Form& form = Load(name);
-    if (form.Loaded()) {
-        // The last one is the one in front.
-        std::rotate(PlaceOf(form), PlaceOf(form) + 1, loaded_.end());
-        form.native_->Window.Present();
+    Form& form = Open(name, true);
+    if (!form.Loaded() || form.loading_) {
+        return;
     }
+    if (modality == Modality::Modal) {
+        form.native_->Window.setWindowModality(Qt::ApplicationModal);
+    }
+    Present(form);
+    if (modality == Modality::Modal) {
+        AwaitUnload(form);
+    }
+}
+
+void Forms::Present(Form& form) {
+    form.awaited_ = false;
+    // The last one is the one in front.
+    std::rotate(PlaceOf(form), PlaceOf(form) + 1, loaded_.end());
+    form.native_->Window.Present();
+}
+
+void Forms::AwaitUnload(const Form& form) {
+    QEventLoop loop;
+    native_->Modals.push_back({&form, &loop});
+    // As long as a routine: what is unloaded meanwhile may have one under way that called this.
+    ++routinesUnderWay_;
+    loop.exec();
+    --routinesUnderWay_;
+    native_->Modals.pop_back();
+    Bury();
 }
 
 void Forms::Unload(Form& form) {
@@ -81,16 +136,24 @@ void Forms::Unload(Form& form) {
     if (inFront) {
         BringLastToFront();
     }
+    for (const Native::Modal& modal : native_->Modals) {
+        if (modal.Shown == &form) {
+            modal.Loop->quit();
+        }
+    }
     StopIfDeserted();
 }
 
 void Forms::End() {
     ended_ = true;
     // A message box would hold the program up until somebody answers it.
-    while (QWidget* box = QApplication::activeModalWidget()) {
-        if (!box->close()) {
-            break;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (auto* box = qobject_cast<QDialog*>(window); box && box->isVisible()) {
+            box->reject();
         }
+    }
+    for (const Native::Modal& modal : native_->Modals) {
+        modal.Loop->quit();
     }
     native_->Loop.quit();
 }
@@ -100,6 +163,23 @@ void Forms::Run() {
     if (!ended_) {
         native_->Loop.exec();
     }
+}
+
+void Forms::ServeEvents() {
+    QCoreApplication::processEvents();
+}
+
+void Forms::ForEachControl(Form& form, const std::function<void(Control&)>& action) {
+    Dispatch(form, [&] {
+        const std::vector<Control*>& now = form.Controls();
+        const std::vector<Control*> all = now;
+        for (std::size_t i = 0; i < all.size() && form.Loaded(); ++i) {
+            const bool inPlace = i < now.size() && now[i] == all[i];  // mostly, and soon told
+            if (inPlace || std::find(now.begin(), now.end(), all[i]) != now.end()) {
+                action(*all[i]);
+            }
+        }
+    });
 }
 
 void Forms::Dispatch(Form& form, const std::function<void()>& routine) {
@@ -136,7 +216,7 @@ Forms::Place Forms::PlaceOf(const Form& form) {
 /// Not every desktop gives the keyboard to another window when one goes.
 void Forms::BringLastToFront() {
     for (auto form = loaded_.rbegin(); form != loaded_.rend(); ++form) {
-        if (FormWindow& window = (*form)->native_->Window; window.isVisible()) {
+        if (FormWindow& window = (*form)->native_->Window; window.Presented()) {
             window.Present();
             return;
         }
@@ -145,7 +225,7 @@ void Forms::BringLastToFront() {
 
 void Forms::StopIfDeserted() {
     const bool deserted = std::none_of(loaded_.begin(), loaded_.end(), [](const auto& form) {
-        return form->native_->Window.isVisible();
+        return form->native_->Window.Presented() || form->awaited_;
     });
     if (deserted) {
         End();
