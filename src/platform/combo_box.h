@@ -1,38 +1,19 @@
 // Drop-down lists.
 #pragma once
 
-#include "platform/control.h"
+#include "platform/list_control.h"
 
 namespace trameli {
 
-/// A list that shows its chosen entry and drops down to choose another. Nothing can be typed.
-class ComboBox : public InteractiveControl {
+/// A list that shows its chosen entry and drops down to choose another.
+class ComboBox : public ListControl {
 public:
     /// An empty list; the height of `bounds` is that of the closed one.
     ComboBox(Container& container, ControlName name, const Bounds& bounds);
 
-    int ListCount() const;
-    /// Text of an entry, counted from 0; empty if there is none.
-    std::string List(int index) const;
-    /// Gives an entry another text; nothing happens if there is no such entry.
-    void List(int index, const std::string& text);
-    /// Puts an entry at the end. The choice stays, also that of nothing.
-    void AddItem(const std::string& text);
-    /// Takes all entries away, and the choice with them, without a `Click`.
-    void Clear();
-
-    /// The chosen entry, -1 for none. Choosing by code fires `Click` if it changes the choice; an
-    /// entry that does not exist cannot be chosen.
-    int ListIndex() const;
-    void ListIndex(int index);
-    /// Text of the chosen entry, empty if none is chosen.
-    std::string Text() const { return List(ListIndex()); }
-
-    /// An entry was chosen: by hand, be it the same one again, or by code that changed the choice.
-    std::function<void()> Click;
-
-protected:
-    void Properties(PropertyAccess& access) override;
+private:
+    int Chosen() const override;
+    void Choose(int index) override;
 };
 
 }  // namespace trameli

@@ -2,64 +2,39 @@
 
 #include <QComboBox>
 
-#include "platform/property_access.h"
-#include "platform/qt/convert.h"
+#include "platform/qt/drawing.h"
 #include "platform/qt/native.h"
 
 namespace trameli {
 
-ComboBox::ComboBox(Container& container, ControlName name, const Bounds& bounds)
-    : InteractiveControl(container, std::move(name), bounds, MakeNative<QComboBox>(container)) {
-    auto& widget = WidgetOf<QComboBox>(*this);
-    widget.setFocusPolicy(Qt::StrongFocus);
-    QPalette palette = widget.palette();
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::Button, Qt::white);
-    widget.setPalette(palette);
-    QObject::connect(&widget, &QComboBox::activated, [this] { Fire(*this, Click); });
-}
+namespace {
 
-int ComboBox::ListCount() const {
-    return WidgetOf<QComboBox>(*this).count();
-}
+class ComboWidget : public QComboBox {
+public:
+    explicit ComboWidget(QWidget* parent) : QComboBox(parent) { setFocusPolicy(Qt::StrongFocus); }
 
-std::string ComboBox::List(int index) const {
-    return FromQt(WidgetOf<QComboBox>(*this).itemText(index));
-}
-
-void ComboBox::List(int index, const std::string& text) {
-    WidgetOf<QComboBox>(*this).setItemText(index, ToQt(text));
-}
-
-void ComboBox::AddItem(const std::string& text) {
-    auto& widget = WidgetOf<QComboBox>(*this);
-    // The first entry of a list would be chosen by itself.
-    const int chosen = widget.currentIndex();
-    widget.addItem(ToQt(text));
-    widget.setCurrentIndex(chosen);
-}
-
-void ComboBox::Clear() {
-    WidgetOf<QComboBox>(*this).clear();
-}
-
-int ComboBox::ListIndex() const {
-    return WidgetOf<QComboBox>(*this).currentIndex();
-}
-
-void ComboBox::ListIndex(int index) {
-    auto& widget = WidgetOf<QComboBox>(*this);
-    if (index < -1 || index >= widget.count() || index == widget.currentIndex()) {
-        return;
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        QComboBox::paintEvent(event);
+        PaintFocusRing(*this);
     }
-    widget.setCurrentIndex(index);
-    Fire(*this, Click);
+};
+
+}  // namespace
+
+ComboBox::ComboBox(Container& container, ControlName name, const Bounds& bounds)
+    : ListControl(container, std::move(name), bounds, MakeNative<ComboWidget>(container)) {
+    BackColor(White);
+    QObject::connect(&WidgetOf<ComboWidget>(*this), &QComboBox::activated,
+                     [this] { Fire(*this, Click); });
 }
 
-void ComboBox::Properties(PropertyAccess& access) {
-    access.At("ListIndex", *this, &ComboBox::ListIndex, &ComboBox::ListIndex);
-    access.At("Text", *this, &ComboBox::Text);
-    InteractiveControl::Properties(access);
+int ComboBox::Chosen() const {
+    return WidgetOf<ComboWidget>(*this).currentIndex();
+}
+
+void ComboBox::Choose(int index) {
+    WidgetOf<ComboWidget>(*this).setCurrentIndex(index);
 }
 
 }  // namespace trameli

@@ -6,6 +6,7 @@
 
 #include "base/rounding.h"
 #include "platform/qt/convert.h"
+#include "platform/qt/drawing.h"
 #include "platform/qt/graphics.h"
 #include "platform/qt/key_press.h"
 #include "platform/qt/native.h"
@@ -19,8 +20,6 @@ constexpr double CornerRadius = 0.12;
 constexpr double Margin = 0.08;
 /// Of the room inside, what the picture of a button with a caption takes.
 constexpr double PictureShare = 0.45;
-
-constexpr int FocusRing = 3;  // pixels
 
 /// Drawn here and not by the style: the colour has to be just the one that was set, and the focus
 /// has to be seen from across a room.
@@ -78,8 +77,7 @@ private:
     }
 
     void PaintCaption(QPainter& painter, const QRect& room) {
-        painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled,
-                                       QPalette::WindowText));
+        painter.setPen(InkOf(*this));
         painter.drawText(room, Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextWordWrap, text());
     }
 };

@@ -11,6 +11,7 @@
 #include "platform/property_access.h"
 #include "platform/qt/control_events.h"
 #include "platform/qt/convert.h"
+#include "platform/qt/drawing.h"
 #include "platform/qt/form_window.h"
 #include "platform/qt/graphics.h"
 #include "platform/qt/native.h"
@@ -29,11 +30,19 @@ bool KeyboardTaken(Form& form) {
             !form.NativePart().Window.AnswersPress());
 }
 
-/// A colour two thirds of the way to grey.
-QColor Pale(const QColor& colour) {
-    constexpr int grey = 192;
-    return QColor((colour.red() + 2 * grey) / 3, (colour.green() + 2 * grey) / 3,
-                  (colour.blue() + 2 * grey) / 3);
+/// Gives a widget its colours. Letters that could not be read on their ground, which may be any
+/// colour of the player's, are black or white instead.
+void Paint(QWidget& widget, const QColor& ground, const QColor& letters) {
+    const QColor ink = Readable(letters, ground);
+    QPalette palette = widget.palette();
+    for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button}) {
+        palette.setColor(role, ground);
+    }
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        palette.setColor(role, ink);
+        palette.setColor(QPalette::Disabled, role, Paled(ink, ground));
+    }
+    widget.setPalette(palette);
 }
 
 }  // namespace
@@ -150,7 +159,6 @@ InteractiveControl::InteractiveControl(Container& container, ControlName name, c
     widget->setFont(ToQt(font_, TwipsPerPixel(OwnerForm())));
     new ControlEvents(*this, widget);
     BackColor(backColor_);
-    ForeColor(foreColor_);
 }
 
 void InteractiveControl::Enabled(bool enabled) {
@@ -160,18 +168,12 @@ void InteractiveControl::Enabled(bool enabled) {
 
 void InteractiveControl::BackColor(Colour colour) {
     backColor_ = colour;
-    QPalette palette = NativePart().Widget->palette();
-    palette.setColor(QPalette::Window, ToQt(colour));
-    NativePart().Widget->setPalette(palette);
+    Paint(*NativePart().Widget, ToQt(backColor_), ToQt(foreColor_));
 }
 
 void InteractiveControl::ForeColor(Colour colour) {
     foreColor_ = colour;
-    QPalette palette = NativePart().Widget->palette();
-    palette.setColor(QPalette::WindowText, ToQt(colour));
-    // What cannot be used is pale, whatever its colour.
-    palette.setColor(QPalette::Disabled, QPalette::WindowText, Pale(ToQt(colour)));
-    NativePart().Widget->setPalette(palette);
+    Paint(*NativePart().Widget, ToQt(backColor_), ToQt(foreColor_));
 }
 
 void InteractiveControl::Font(const trameli::Font& font) {

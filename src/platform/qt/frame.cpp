@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "platform/qt/convert.h"
+#include "platform/qt/drawing.h"
 #include "platform/qt/native.h"
 
 namespace trameli {
@@ -27,7 +28,7 @@ protected:
         if (!Border) {
             return;
         }
-        const int line = fontMetrics().height() / 2;
+        const int line = title().isEmpty() ? 0 : fontMetrics().height() / 2;
         painter.setPen(back.darker(150));
         painter.drawRect(rect().adjusted(0, line, -1, -1));
         if (title().isEmpty()) {
@@ -37,7 +38,7 @@ protected:
         const QRect caption(3 * blank, 0, fontMetrics().horizontalAdvance(title()) + 2 * blank,
                             fontMetrics().height());
         painter.fillRect(caption, back);
-        painter.setPen(palette().color(QPalette::WindowText));
+        painter.setPen(InkOf(*this));
         painter.drawText(caption, Qt::AlignCenter, title());
     }
 };

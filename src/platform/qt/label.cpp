@@ -1,11 +1,13 @@
 #include "platform/label.h"
 
+#include <QGroupBox>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
 
 #include "platform/qt/convert.h"
+#include "platform/qt/drawing.h"
 #include "platform/qt/native.h"
 
 namespace trameli {
@@ -25,26 +27,44 @@ public:
     QColor Rim;  // not valid for letters without one
 
 protected:
-    /// The rim is the text itself, moved a little all round, under the letters.
-    void paintEvent(QPaintEvent* event) override {
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        const auto write = [&](QPoint where) {
+            painter.drawText(rect().translated(where),
+                             static_cast<int>(alignment()) | Qt::TextWordWrap, text());
+        };
         if (Rim.isValid()) {
-            QPainter painter(this);
+            // The text itself, moved a little all round, under the letters.
             painter.setPen(Rim);
             const int width = std::max(1, fontMetrics().height() / 14);
             for (int dy = -width; dy <= width; ++dy) {
                 for (int dx = -width; dx <= width; ++dx) {
-                    painter.drawText(contentsRect().translated(dx, dy),
-                                     static_cast<int>(alignment()) | Qt::TextWordWrap, text());
+                    write({dx, dy});
                 }
             }
         }
-        QLabel::paintEvent(event);
+        painter.setPen(Ink());
+        write({0, 0});
     }
     void mousePressEvent(QMouseEvent*) override {}
     void mouseReleaseEvent(QMouseEvent* event) override {
         if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
             Fire(*Owner, Owner->Click);
         }
+    }
+
+private:
+    QColor Ink() const {
+        if (autoFillBackground()) {
+            return InkOf(*this);
+        }
+        // Its own ground does not show. That of a frame is known, a drawing is the form's affair.
+        const QColor own = ToQt(Owner->ForeColor());
+        const auto* const frame = qobject_cast<const QGroupBox*>(parentWidget());
+        const QColor ground =
+            (frame ? frame : static_cast<const QWidget*>(this))->palette().color(QPalette::Window);
+        const QColor ink = frame ? Readable(own, ground) : own;
+        return isEnabled() ? ink : Paled(ink, ground);
     }
 };
 

@@ -24,15 +24,27 @@ public:
 };
 
 class ShapeWidget : public DrawnWidget {
+public:
     using DrawnWidget::DrawnWidget;
 
+    ShapeKind Kind = ShapeKind::Rectangle;
+    QBrush Fill = Qt::NoBrush;
+
+protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
-        const int w = PenWidth;
-        painter.fillRect(0, 0, width(), w, Ink);
-        painter.fillRect(0, height() - w, width(), w, Ink);
-        painter.fillRect(0, 0, w, height(), Ink);
-        painter.fillRect(width() - w, 0, w, height(), Ink);
+        const double half = PenWidth / 2.0;
+        const QRectF outline = QRectF(rect()).adjusted(half, half, -half, -half);
+        painter.setPen(QPen(Ink, PenWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+        painter.setBrush(Fill);
+        if (Kind == ShapeKind::Rectangle) {
+            painter.drawRect(outline);
+            return;
+        }
+        const double side = std::min(outline.width(), outline.height());
+        const QPointF middle = outline.center();
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.drawEllipse(middle, side / 2, side / 2);
     }
 };
 
@@ -53,10 +65,11 @@ public:
 }  // namespace
 
 Shape::Shape(Container& container, ControlName name, const Bounds& bounds, int borderWidth,
-             Colour borderColor)
+             Colour borderColor, ShapeKind kind)
     : PlacedControl(container, std::move(name), bounds, MakeNative<ShapeWidget>(container)) {
     constexpr double usualTwips = 15;
     auto& widget = WidgetOf<ShapeWidget>(*this);
+    widget.Kind = kind;
     widget.PenWidth = std::max(1, Nearest(borderWidth * usualTwips / TwipsPerPixel(OwnerForm())));
     widget.lower();
     BorderColor(borderColor);
@@ -68,8 +81,15 @@ void Shape::BorderColor(Colour colour) {
     WidgetOf<ShapeWidget>(*this).update();
 }
 
+void Shape::FillColor(Colour colour) {
+    fillColor_ = colour;
+    WidgetOf<ShapeWidget>(*this).Fill = ToQt(colour);
+    WidgetOf<ShapeWidget>(*this).update();
+}
+
 void Shape::Properties(PropertyAccess& access) {
     access.At("BorderColor", *this, &Shape::BorderColor, &Shape::BorderColor);
+    access.At("FillColor", *this, &Shape::FillColor, &Shape::FillColor);
     PlacedControl::Properties(access);
 }
 

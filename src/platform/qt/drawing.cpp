@@ -1,0 +1,87 @@
+#include "platform/qt/drawing.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "base/rounding.h"
+
+namespace trameli {
+
+namespace {
+
+/// The least ratio of the brightnesses of letters and ground, as accessibility guidelines have it
+/// for large letters. Asking for more would take a form's own colours away.
+constexpr double LeastContrast = 3;
+
+/// How bright a colour seems, from 0 to 1.
+double Luminance(const QColor& colour) {
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+double Contrast(const QColor& a, const QColor& b) {
+    const auto [dark, bright] = std::minmax({Luminance(a), Luminance(b)});
+    return (bright + 0.05) / (dark + 0.05);
+}
+
+}  // namespace
+
+QColor Readable(const QColor& ink, const QColor& ground) {
+    if (Contrast(ink, ground) >= LeastContrast) {
+        return ink;
+    }
+    return Contrast(Qt::black, ground) >= Contrast(Qt::white, ground) ? Qt::black : Qt::white;
+}
+
+QColor Paled(const QColor& ink, const QColor& ground) {
+    return QColor((ink.red() + ground.red()) / 2, (ink.green() + ground.green()) / 2,
+                  (ink.blue() + ground.blue()) / 2);
+}
+
+QColor InkOf(const QWidget& widget) {
+    return widget.palette().color(widget.isEnabled() ? QPalette::Active : QPalette::Disabled,
+                                  QPalette::WindowText);
+}
+
+void PaintFocusRing(QPainter& painter, const QRect& edge, const QColor& ground) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setPen(QPen(Readable(QColor(0, 0, 128), ground), FocusRing, Qt::SolidLine, Qt::FlatCap,
+                        Qt::MiterJoin));
+    painter.setBrush(Qt::NoBrush);
+    constexpr int inset = FocusRing / 2;
+    painter.drawRect(edge.adjusted(inset, inset, -inset - 1, -inset - 1));
+    painter.restore();
+}
+
+void PaintFocusRing(QWidget& widget) {
+    if (widget.hasFocus()) {
+        QPainter painter(&widget);
+        PaintFocusRing(painter, widget.rect(), widget.palette().color(QPalette::Window));
+    }
+}
+
+void PaintChoice(QAbstractButton& button, const PaintMark& paintMark) {
+    QPainter painter(&button);
+    painter.fillRect(button.rect(), button.palette().color(QPalette::Window));
+    const QColor ink = InkOf(button);
+    const int size = std::min(button.height() - 4, Nearest(button.fontMetrics().height() * 0.8));
+    const QRectF square(size * 0.3, (button.height() - size) / 2.0, size, size);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(ink, std::max(1.0, size / 12.0)));
+    painter.setBrush(Qt::white);
+    paintMark(painter, square, Readable(ink, Qt::white));
+    const QRect room = button.rect().adjusted(Nearest(size * 1.7), 0, -FocusRing, 0);
+    painter.setPen(ink);
+    painter.drawText(room,
+                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic | Qt::TextWordWrap,
+                     button.text());
+    if (button.hasFocus()) {
+        PaintFocusRing(painter, button.rect(), button.palette().color(QPalette::Window));
+    }
+}
+
+}  // namespace trameli
