@@ -1,5 +1,6 @@
 # shellcheck shell=bash
-# Finds out whether there is a display, and makes a virtual one where there is none. Sourced.
+# Finds out whether there is a display, and makes one where there is none or another one is wanted.
+# Sourced.
 
 # Whether something answers behind $DISPLAY. The variable alone says little: it outlives its
 # server in a detached terminal.
@@ -50,9 +51,9 @@ kind_of_display() {
     fi
 }
 
-# Waits until a file is there or a process is gone; at most ten seconds.
+# Waits until a file is there or a process is gone; at most half a minute.
 wait_for_file() {
-    local file=$1 process=$2 tries=500
+    local file=$1 process=$2 tries=1500
     until [[ -s $file ]]; do
         kill -0 "$process" 2>/dev/null && ((tries-- > 0)) || return 1
         sleep 0.02
@@ -65,9 +66,9 @@ on_its_own() {
     exec setpriv --pdeathsig TERM setsid "$@"
 }
 
-# Sets `server` and `number`. Each attempt lets the server itself find out whether the number and
-# its port are free, so that two starts at the same moment cannot take the same one.
-start_server() {
+# Each attempt lets the server itself find out whether the number and its port are free, so that two
+# starts at the same moment cannot take the same one.
+start_viewed_server() {
     local port
     for number in {1..50}; do
         port=$((5900 + number))
@@ -79,6 +80,10 @@ start_server() {
             -desktop Trameli -displayfd 3 3>"$room/number" >"$room/server.log" 2>&1 &
         server=$!
         if wait_for_file "$room/number" "$server"; then
+            cat >&2 <<END
+There is no display here, so a virtual one of $geometry was started.
+A VNC viewer on this machine connects to localhost:$port.
+END
             return
         fi
         kill "$server" 2>/dev/null || true
@@ -117,13 +122,11 @@ stop_display() {
     rm -rf -- "$room"
 }
 
-# Runs a command on a display of its own, which ends with it, and returns its exit code.
-run_on_virtual_display() {
-    geometry=${TRAMELI_GEOMETRY:-1366x768}
-    if [[ ! $geometry =~ ^[1-9][0-9]*x[1-9][0-9]*$ ]]; then
-        echo "TRAMELI_GEOMETRY is a width and a height like 1366x768, not '$geometry'." >&2
-        return 1
-    fi
+# Runs a command on a display of its own, which ends with it, and returns its exit code. `$1` sets
+# `server` and `number`, and may keep files in `$room`; `$2` is openbox or none.
+run_on_own_display() {
+    local start_server=$1 window_manager=$2
+    shift 2
     server='' manager='' player=''
     room=$(mktemp -d)
     # Each on its own, as an exit inside a handler would cut short the one for EXIT.
@@ -132,17 +135,22 @@ run_on_virtual_display() {
     trap 'stop_display; exit 130' INT
     trap 'stop_display; exit 143' TERM
 
-    start_server
+    "$start_server"
     export DISPLAY=":$number" QT_QPA_PLATFORM=xcb TRAMELI_ROOM=$room
     unset WAYLAND_DISPLAY XAUTHORITY
-    start_window_manager
+    [[ $window_manager == none ]] || start_window_manager
     unset TRAMELI_ROOM
-    cat >&2 <<END
-There is no display here, so a virtual one of $geometry was started.
-A VNC viewer on this machine connects to localhost:$((5900 + number)).
-END
-    # Not in the foreground: the shell would answer a signal only after the game's end.
+    # Not in the foreground: the shell would answer a signal only after the command's end.
     "$@" &
     player=$!
     wait "$player"
+}
+
+run_on_virtual_display() {
+    geometry=${TRAMELI_GEOMETRY:-1366x768}
+    if [[ ! $geometry =~ ^[1-9][0-9]*x[1-9][0-9]*$ ]]; then
+        echo "TRAMELI_GEOMETRY is a width and a height like 1366x768, not '$geometry'." >&2
+        return 1
+    fi
+    run_on_own_display start_viewed_server openbox "$@"
 }

@@ -76,6 +76,7 @@ TEST_F(HeardSounds, MusicNeedsTheFirstInstrumentsThatThereAre) {
     auto& fonts = options.SoundFonts;
     fonts.insert(fonts.begin(), PathOf("missing.sf2"));
     for (const char* expected : {"AB.", "A."}) {
+        RecordTo(PathOf(expected));
         Play(options);
         Sounds->PlayMusic("P:\\short.mid");
         ASSERT_TRUE(MoreIsHeard(4));

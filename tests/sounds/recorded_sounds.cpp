@@ -86,7 +86,7 @@ bool Soon(const std::function<bool()>& question) {
         if (question()) {
             return true;
         }
-        std::this_thread::sleep_for(10ms);
+        std::this_thread::sleep_for(50ms);
     }
     return false;
 }
