@@ -71,20 +71,22 @@ TEST_F(HeardSounds, MusicBeginsAnewSoundsUnderWavesAndEndsWhenItIsStopped) {
 }
 
 TEST_F(HeardSounds, MusicNeedsTheFirstInstrumentsThatThereAre) {
-    Put("broken.sf2", "RIFF????sfbk and nothing more");
     MixerOptions options;
     auto& fonts = options.SoundFonts;
     fonts.insert(fonts.begin(), PathOf("missing.sf2"));
-    for (const char* expected : {"AB.", "A."}) {
-        RecordTo(PathOf(expected));
-        Play(options);
-        Sounds->PlayMusic("P:\\short.mid");
-        ASSERT_TRUE(MoreIsHeard(4));
-        Sounds->PlayWave("P:\\a.wav");
-        EXPECT_TRUE(StoryEnds("A.")) << "waves need none";
-        EXPECT_TRUE(Story().starts_with(expected)) << Story();
-        fonts = {PathOf("broken.sf2")};
-    }
+    Play(options);
+    Sounds->PlayMusic("P:\\short.mid");
+    EXPECT_TRUE(StoryEnds("AB."));
+
+    Put("broken.sf2", "RIFF????sfbk and nothing more");
+    fonts = {PathOf("broken.sf2")};
+    RecordTo(PathOf("broken"));
+    Play(options);
+    Sounds->PlayMusic("P:\\short.mid");
+    Sounds->PlayWave("P:\\a.wav");
+    EXPECT_TRUE(StoryEnds("A."));
+    ASSERT_TRUE(MoreIsHeard(3));
+    EXPECT_EQ(Story(), "A.") << "waves need none";
 }
 
 }  // namespace

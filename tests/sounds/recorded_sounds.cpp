@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
+#include <fstream>
 #include <numbers>
 #include <thread>
 
@@ -110,11 +111,20 @@ void RecordedSounds::RecordTo(const std::filesystem::path& file) {
     setenv("SDL_DISKAUDIOFILE", file.c_str(), 1);
 }
 
+std::size_t RecordedSounds::Recorded() const {
+    std::error_code error;
+    const auto size = std::filesystem::file_size(recording_, error);
+    return error ? 0 : size / 4;
+}
+
 Samples RecordedSounds::Heard() const {
-    const std::string bytes = BytesOf(recording_);
-    Samples left(bytes.size() / 4);
+    // In one go: it is asked for again and again while the recording grows.
+    Samples both(2 * Recorded());
+    std::ifstream(recording_, std::ios::binary)
+        .read(reinterpret_cast<char*>(both.data()), static_cast<std::streamsize>(2 * both.size()));
+    Samples left(both.size() / 2);
     for (std::size_t i = 0; i < left.size(); ++i) {
-        std::memcpy(&left[i], bytes.data() + 4 * i, 2);
+        left[i] = both[2 * i];
     }
     return left;
 }
@@ -125,15 +135,15 @@ std::string RecordedSounds::Letters() const {
     for (std::size_t i = 0; i + Window <= heard.size(); i += Window) {
         letters += LetterOf(heard.data() + i);
     }
-    // A window in which one sound gives way to another tells nothing.
+    // A window in which one sound gives way to another tells nothing: it is like neither neighbour.
+    std::string sure;
     for (std::size_t i = 0; i < letters.size(); ++i) {
-        const bool isAlone =
-            (i == 0 || letters[i - 1] != '?') && (i + 1 == letters.size() || letters[i + 1] != '?');
-        if (letters[i] == '?' && isAlone) {
-            letters.erase(i, 1);
+        if ((i > 0 && letters[i] == letters[i - 1]) ||
+            (i + 1 < letters.size() && letters[i] == letters[i + 1])) {
+            sure += letters[i];
         }
     }
-    return letters;
+    return sure;
 }
 
 std::string RecordedSounds::Story() const {
@@ -144,8 +154,8 @@ std::string RecordedSounds::Story() const {
 }
 
 bool RecordedSounds::MoreIsHeard(double seconds) const {
-    const auto enough = Heard().size() + static_cast<std::size_t>(seconds * Rate);
-    return Soon([&] { return Heard().size() >= enough; });
+    const auto enough = Recorded() + static_cast<std::size_t>(seconds * Rate);
+    return Soon([&] { return Recorded() >= enough; });
 }
 
 bool RecordedSounds::DeviceIsOpen() const {

@@ -69,6 +69,9 @@ protected:
     std::optional<MixerSounds> Sounds;
 
 private:
+    /// How many samples of each channel were recorded.
+    std::size_t Recorded() const;
+
     TemporaryFolder folder_;
     std::filesystem::path recording_;
 };
