@@ -60,6 +60,13 @@ public:
     /// True once the program has ended, by `End` or with its last window.
     bool Ended() const { return ended_; }
 
+    /// Tells how to find out whether the player uses switches. While that is so, a key that went up
+    /// less than 150 ms ago is not pressed, and neither is any key less than 500 ms after the
+    /// window or the control with the focus appeared, or could be used again: nobody means that.
+    /// Tab and the keys held together with others are let through.
+    void SwitchesInUse(std::function<bool()> inUse) { switchesInUse_ = std::move(inUse); }
+    bool SwitchesInUse() const { return switchesInUse_ && switchesInUse_(); }
+
     /// Serves events until the program ends.
     void Run();
     /// Serves the events that are waiting, without waiting for any. Afterwards the caller's form
@@ -91,6 +98,7 @@ private:
     std::vector<std::unique_ptr<Form>> buried_;  // unloaded, perhaps with a routine under way
     int routinesUnderWay_ = 0;
     bool ended_ = false;
+    std::function<bool()> switchesInUse_;
 
     struct Native;
     std::unique_ptr<Native> native_;

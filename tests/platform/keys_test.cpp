@@ -306,6 +306,101 @@ TEST_F(KeysTest, DoNotPressAButtonThatWasNotReadyAllTheTime) {
     EXPECT_EQ(Times("A Second_Click"), 1);
 }
 
+TEST_F(KeysTest, ReachAControlThatHadTheFocusWhenTheyWentDown) {
+    A.Board.SetFocus();
+    Press(A, Qt::Key_Space);
+    A.First.SetFocus();
+    Release(A, Qt::Key_Space);
+    EXPECT_EQ(Seen, Log{"A KeyUp 32"});
+}
+
+TEST_F(KeysTest, OfArrowsDoNotMoveTheFocusFromAButton) {
+    A.First.SetFocus();
+    for (const int key : {Qt::Key_Left, Qt::Key_Up, Qt::Key_Right, Qt::Key_Down}) {
+        Tap(A, key);
+        EXPECT_TRUE(WidgetOf(A.First).hasFocus()) << key;
+    }
+    EXPECT_EQ(Times("A KeyUp 37") + Times("A First_KeyUp 37"), 2);
+}
+
+// Switches.
+
+TEST_F(KeysTest, OfSwitchesThatNobodyCanMeanDoNothingAtAll) {
+    bool inUse = true;
+    Program.SwitchesInUse([&] { return inUse; });
+    struct Row {
+        const char* What;
+        std::function<void()> Before;
+        double Seconds;  // from then to the press
+        Qt::Key Key;
+        bool Meant;
+    };
+    const auto tap = [&] { Tap(A, Qt::Key_Space); };
+    const auto front = [&] { Program.Unload(Bring("B")); };
+    const auto appear = [](CommandButton& button) {
+        button.Visible(false);
+        button.Visible(true);
+    };
+    const Row rows[] = {
+        {"a stroke", [] {}, 0, Qt::Key_Space, true},
+        {"a bounce", tap, 0.14, Qt::Key_Space, false},
+        {"a bounce after a bounce",
+         [&] {
+             tap();
+             Time.Advance(0.1);
+             tap();
+         },
+         0.1, Qt::Key_Space, false},
+        {"the next stroke", tap, 0.16, Qt::Key_Space, true},
+        {"another key", tap, 0, Qt::Key_Return, true},
+        {"the window came to the front", front, 0.49, Qt::Key_Space, false},
+        {"its letter with Alt", front, 0.49, Qt::Key_F, false},
+        {"some time after that", front, 0.51, Qt::Key_Space, true},
+        {"the button appeared", [&] { appear(A.First); }, 0.49, Qt::Key_Space, false},
+        {"another button appeared", [&] { appear(A.Second); }, 0, Qt::Key_Space, true},
+        {"the button was enabled",
+         [&] {
+             A.First.Enabled(false);
+             A.First.Enabled(true);
+         },
+         0.49, Qt::Key_Space, false},
+        {"Tab goes on in any case", front, 0, Qt::Key_Tab, true},
+    };
+    for (const bool used : {true, false}) {
+        inUse = used;
+        for (const Row& row : rows) {
+            Time.Advance(10);
+            A.First.SetFocus();
+            row.Before();
+            Pump();
+            A.First.SetFocus();
+            Time.Advance(row.Seconds);
+            Seen.clear();
+            Press(A, row.Key, row.Key == Qt::Key_F ? Qt::AltModifier : Qt::NoModifier);
+            Release(A, row.Key);
+            EXPECT_EQ(!Seen.empty(), row.Meant || !used) << row.What << ", " << used;
+        }
+    }
+}
+
+TEST_F(KeysTest, OfSwitchesPressNothingNewThatTheFormFetchesThemFor) {
+    Program.SwitchesInUse([] { return true; });
+    Scripts["A"].KeyDown = [](ScriptedForm& self, int) {
+        self.Second.SetFocus();
+        return false;
+    };
+    for (const bool isNew : {true, false}) {
+        Time.Advance(10);
+        A.Board.SetFocus();
+        A.Second.Visible(!isNew);
+        A.Second.Visible(true);
+        Seen.clear();
+        Tap(A, Qt::Key_Space);
+        EXPECT_EQ(Times("A KeyUp 32"), 1) << "the form was told of the press";
+        EXPECT_EQ(Times("A Second_Click"), isNew ? 0 : 1);
+    }
+}
+
 TEST_F(KeysTest, AltOrCtrlWithALetterArePressedOnceHoweverLong) {
     OptionButton option(A, "Option", {200, 2500, 2000, 300}, "&Option");
     option.Click = [&] { Seen.push_back("A Option_Click"); };

@@ -30,6 +30,18 @@ public:
     ShownPicture Face;
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        switch (event->key()) {
+            case Qt::Key_Left:
+            case Qt::Key_Up:
+            case Qt::Key_Right:
+            case Qt::Key_Down:
+                return;  // the toolkit would give the focus to a neighbour
+            default:
+                PressedByRelease::keyPressEvent(event);
+        }
+    }
+
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);

@@ -27,7 +27,7 @@ namespace {
 bool KeyboardTaken(Form& form) {
     return QApplication::activePopupWidget() ||
            (qobject_cast<QMenuBar*>(QApplication::focusWidget()) &&
-            !form.NativePart().Window.AnswersPress());
+            !form.NativePart().Window.Keys().AnswersPress());
 }
 
 /// Gives a widget its colours. Letters that could not be read on their ground, which may be any
@@ -200,7 +200,9 @@ void InteractiveControl::SetFocus() {
     if (KeyboardTaken(OwnerForm())) {
         return;
     }
-    if (widget->isVisible() && widget->isEnabled() && widget->focusPolicy() != Qt::NoFocus) {
+    // Before the window comes up it can choose who has the keyboard then.
+    if (widget->isVisibleTo(widget->window()) && widget->isEnabled() &&
+        widget->focusPolicy() != Qt::NoFocus) {
         widget->setFocus(Qt::OtherFocusReason);
     }
 }

@@ -26,11 +26,15 @@ bool ControlEvents::eventFilter(QObject* object, QEvent* event) {
             }
             Fire(control_, control_.MouseMove);
             return false;
+        case QEvent::Show:
+            Keys().Appeared(*static_cast<QWidget*>(object));
+            return false;
         case QEvent::EnabledChange: {
             // A move that an enabled widget has no use for must not go on to its parent: that one
             // would report a pointer that is not over it.
             auto* const widget = static_cast<QWidget*>(object);
             widget->setAttribute(Qt::WA_NoMousePropagation, widget->isEnabled());
+            Keys().Appeared(*widget);
             return false;
         }
         case QEvent::FocusIn:
@@ -39,14 +43,29 @@ bool ControlEvents::eventFilter(QObject* object, QEvent* event) {
                 Fire(control_, control_.GotFocus);
             }
             return false;
+        case QEvent::FocusOut:
+            pressedHere_.Forget();
+            return false;
+        case QEvent::KeyPress:
+            // What a control on this one has no use for comes here too.
+            if (static_cast<QWidget*>(object)->hasFocus()) {
+                pressedHere_.Press(*static_cast<QKeyEvent*>(event));
+            }
+            return false;
         case QEvent::KeyRelease: {
             const auto* key = static_cast<QKeyEvent*>(event);
-            Fire(control_, control_.KeyUp, KeyCodeOf(*key), ShiftBitsOf(*key));
+            if (pressedHere_.Release(*key)) {
+                Fire(control_, control_.KeyUp, KeyCodeOf(*key), ShiftBitsOf(*key));
+            }
             return !control_.OwnerForm().Loaded();
         }
         default:
             return QObject::eventFilter(object, event);
     }
+}
+
+KeyRoad& ControlEvents::Keys() const {
+    return control_.OwnerForm().NativePart().Window.Keys();
 }
 
 }  // namespace trameli

@@ -4,11 +4,14 @@
 #include <QObject>
 
 #include "platform/control.h"
+#include "platform/qt/key_gate.h"
 
 namespace trameli {
 
+class KeyRoad;
+
 /// Turns the toolkit's events of a control's widget into the control's own: pointer moves, focus
-/// and key releases.
+/// and the releases of keys that were pressed there.
 class ControlEvents : public QObject {
 public:
     /// `widget` becomes the owner.
@@ -18,7 +21,10 @@ protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
+    KeyRoad& Keys() const;
+
     InteractiveControl& control_;
+    KeyGate pressedHere_;
 };
 
 }  // namespace trameli

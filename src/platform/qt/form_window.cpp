@@ -60,6 +60,7 @@ void ClientArea::mouseMoveEvent(QMouseEvent*) {
 FormWindow::FormWindow(Form& form, QSize clientSize, FormStyle style)
     : form_(form),
       client_(*new ClientArea(form, this)),
+      keys_(form, *this),
       style_(style),
       asked_({0, 0}, clientSize),
       maximised_(style == FormStyle::Maximised) {
@@ -121,6 +122,7 @@ void FormWindow::ComeUp() {
     show();
     LookUpFonts();
     if (settled_) {
+        keys_.Appeared(*this);
         activateWindow();
     } else {
         Settle();
@@ -240,6 +242,7 @@ void FormWindow::Dismiss() {
 bool FormWindow::event(QEvent* event) {
     switch (event->type()) {
         case QEvent::WindowActivate:
+            keys_.Appeared(*this);
             if (frontAnnounced_ && activated_) {
                 // Later, because the desktop's event is not over yet and the routine may wait.
                 QMetaObject::invokeMethod(
@@ -253,7 +256,6 @@ bool FormWindow::event(QEvent* event) {
             break;
         case QEvent::WindowDeactivate:
             keys_.Forget();
-            kept_.clear();
             break;
         case QEvent::Resize:
             if (!settled_ && isVisible()) {
@@ -269,76 +271,12 @@ bool FormWindow::event(QEvent* event) {
 }
 
 bool FormWindow::eventFilter(QObject* object, QEvent* event) {
-    switch (event->type()) {
-        case QEvent::ShortcutOverride:  // comes before each press
-            menuHasKey_ = QApplication::activePopupWidget() != nullptr;
-            break;
-        case QEvent::KeyPress:
-        case QEvent::KeyRelease: {
-            auto& key = *static_cast<QKeyEvent*>(event);
-            if (repeats_.Withholds(*windowHandle(), key) || FilterKey(key)) {
-                return true;
-            }
-            break;
-        }
-        case QEvent::Expose:
-            if (!settled_) {
-                // After the window has dealt with it.
-                QMetaObject::invokeMethod(
-                    this, [this] { Settle(); }, Qt::QueuedConnection);
-            }
-            break;
-        default:
-            break;
+    if (event->type() == QEvent::Expose && !settled_) {
+        // After the window has dealt with it.
+        QMetaObject::invokeMethod(
+            this, [this] { Settle(); }, Qt::QueuedConnection);
     }
-    return QMainWindow::eventFilter(object, event);
-}
-
-/// True if the key goes no further.
-bool FormWindow::FilterKey(QKeyEvent& event) {
-    const bool menuHadKey = std::exchange(menuHasKey_, false);
-    if (QApplication::activePopupWidget()) {
-        // The keyboard is the menu's, and so is the release of whatever is held down just now.
-        keys_.Forget();
-        kept_.clear();
-        return false;
-    }
-    if (event.type() == QEvent::KeyPress) {
-        // A list closes before the press itself has come.
-        return menuHadKey || FilterPress(event);
-    }
-    if (!keys_.Release(event)) {
-        return true;
-    }
-    const bool kept = kept_.remove(event.key());
-    const int keyCode = KeyCodeOf(event);
-    const int shift = ShiftBitsOf(event);
-    form_.Forms().Dispatch(form_, [&] { Form::Native::KeyReleased(form_, keyCode, shift); });
-    return kept || !form_.Loaded();
-}
-
-/// The form is asked once; what it says holds for the presses that auto-repeat makes up as well.
-bool FormWindow::FilterPress(QKeyEvent& event) {
-    if (!event.isAutoRepeat()) {
-        const int keyCode = KeyCodeOf(event);
-        const int shift = ShiftBitsOf(event);
-        answersPress_ = true;
-        form_.Forms().Dispatch(form_, [&] {
-            if (Form::Native::KeyPressed(form_, keyCode, shift)) {
-                kept_.insert(event.key());
-            } else {
-                kept_.remove(event.key());
-            }
-        });
-        answersPress_ = false;
-    }
-    // Unless the form has just fetched it, the keyboard is the menu bar's: its arrows walk the bar.
-    if (qobject_cast<QMenuBar*>(QApplication::focusWidget()) && !kept_.contains(event.key())) {
-        keys_.Forget();
-        return false;
-    }
-    keys_.Press(event);
-    return kept_.contains(event.key()) || !form_.Loaded();
+    return keys_.Takes(*event) || QMainWindow::eventFilter(object, event);
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
@@ -381,6 +319,7 @@ void FormWindow::Settled() {
     settled_ = true;
     settling_.stop();
     ReleaseFirstPicture();
+    keys_.Appeared(*this);
     Activate();
 }
 

@@ -2,12 +2,10 @@
 #pragma once
 
 #include <QMainWindow>
-#include <QSet>
 #include <QTimer>
 
 #include "platform/form.h"
-#include "platform/qt/key_gate.h"
-#include "platform/qt/key_repeats.h"
+#include "platform/qt/key_road.h"
 
 namespace trameli {
 
@@ -60,8 +58,7 @@ public:
 
     /// Notes which control has the keyboard; true if it is another one than before.
     bool FocusMovedTo(const Control& control);
-    /// True while the form is told of a key's press.
-    bool AnswersPress() const { return answersPress_; }
+    KeyRoad& Keys() { return keys_; }
     /// Takes the window from the screen for good.
     void Dismiss();
 
@@ -72,8 +69,6 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
-    bool FilterKey(QKeyEvent& event);
-    bool FilterPress(QKeyEvent& event);
     bool CoversScreen() const;
     void Arrange();
     void ReleaseFirstPicture();
@@ -87,11 +82,7 @@ private:
 
     Form& form_;
     ClientArea& client_;
-    KeyRepeats repeats_;
-    KeyGate keys_;
-    bool answersPress_ = false;
-    QSet<int> kept_;           // keys held down that the form keeps from its controls
-    bool menuHasKey_ = false;  // the press under way found a menu or a list open
+    KeyRoad keys_;
     const Control* focused_ = nullptr;
     const FormStyle style_;
     QRect asked_;

@@ -22,14 +22,13 @@ constexpr KeyRow NamedKeys[] = {
 constexpr int Pad0 = 96;
 constexpr int F1 = 112;
 
-/// A name for the key itself, the same for press and release whatever happens to Num Lock or Shift
-/// in between. Events without a scan code, as other programs send them, go by the key's meaning.
-quint64 Identity(const QKeyEvent& event) {
+}  // namespace
+
+quint64 IdentityOf(const QKeyEvent& event) {
+    // Events without a scan code, as other programs send them, go by the key's meaning.
     const quint32 scanCode = event.nativeScanCode();
     return scanCode != 0 ? scanCode : (quint64{1} << 32) + static_cast<quint32>(event.key());
 }
-
-}  // namespace
 
 int KeyCodeOf(const QKeyEvent& event) {
     const int key = event.key();
@@ -60,12 +59,12 @@ int ShiftBitsOf(const QKeyEvent& event) {
 
 void KeyGate::Press(const QKeyEvent& event) {
     if (!event.isAutoRepeat()) {
-        pressed_.insert(Identity(event));
+        pressed_.insert(IdentityOf(event));
     }
 }
 
 bool KeyGate::Release(const QKeyEvent& event) {
-    return !event.isAutoRepeat() && pressed_.remove(Identity(event));
+    return !event.isAutoRepeat() && pressed_.remove(IdentityOf(event));
 }
 
 }  // namespace trameli

@@ -7,6 +7,9 @@
 
 namespace trameli {
 
+/// A name for the key itself, the same for press and release whatever happens to Num Lock or Shift
+/// in between.
+quint64 IdentityOf(const QKeyEvent& event);
 /// The code of a key in the layer's terms; 0 for a key that has none.
 int KeyCodeOf(const QKeyEvent& event);
 /// The ShiftBit values of the keys held down with it: Shift, Ctrl and Alt, not the keypad.
