@@ -30,58 +30,6 @@ protected:
     bool HasFocus(const VisualControl& control) const { return WidgetOf(control).hasFocus(); }
 };
 
-// Choosing.
-
-TEST_F(ControlsTest, ListFiresClickWhenTheChoiceChanges) {
-    ComboBox combo(TheForm, "Combo", {300, 300, 3000, 450});
-    combo.Click = [&] { Seen.push_back(std::to_string(combo.ListIndex()) + combo.Text()); };
-    for (const char* entry : {"zero", "one", "two"}) {
-        combo.AddItem(entry);
-    }
-    EXPECT_EQ(combo.ListIndex(), -1) << "nothing is chosen by itself";
-    for (const int index : {1, 1, -2, 3, 99, 0, -1, -1}) {
-        combo.ListIndex(index);
-    }
-    EXPECT_EQ(Seen, (Names{"1one", "0zero", "-1"}))
-        << "once for each that changes to what there is";
-    combo.List(1, "uno");
-    EXPECT_EQ(combo.List(1), "uno");
-    EXPECT_EQ(combo.List(3), "");
-
-    combo.ListIndex(0);
-    Bring();
-    combo.SetFocus();
-    Seen.clear();
-    Tap(TheForm, Qt::Key_Down);
-    Tap(TheForm, Qt::Key_X);
-    EXPECT_EQ(Seen, Names{"1uno"}) << "nothing can be typed";
-    Tap(TheForm, Qt::Key_Down, Qt::AltModifier);
-    Tap(TheForm, Qt::Key_Up);
-    Tap(TheForm, Qt::Key_Escape);
-    combo.Clear();
-    EXPECT_EQ(combo.ListCount(), 0);
-    EXPECT_EQ(Seen.size(), 1U);
-}
-
-TEST_F(ControlsTest, OneOptionOfAContainerIsChosen) {
-    Frame frame(TheForm, "Frame", {0, 0, 3000, 3000});
-    OptionButton one(frame, "one", {150, 300, 2500, 400}, "1");
-    OptionButton two(frame, "two", {150, 900, 2500, 400}, "2");
-    OptionButton apart(TheForm, "apart", {3300, 300, 2500, 400}, "3");
-    for (OptionButton* option : {&one, &two, &apart}) {
-        option->Click = Noting(option->Name());
-    }
-    apart.Value(true);
-    one.Value(true);
-    Bring();
-    ClickOn(two);
-    ClickOn(two);
-    EXPECT_TRUE(two.Value() && !one.Value() && apart.Value());
-    two.Value(false);
-    EXPECT_FALSE(two.Value()) << "code can give up the chosen one";
-    EXPECT_EQ(Seen, (Names{"apart", "one", "two"}));
-}
-
 TEST_F(ControlsTest, MouseClicksWhatIsEnabledAndOnlyInside) {
     Frame frame(TheForm, "Frame", {0, 0, 9000, 6000});
     CommandButton button(frame, "Button", {300, 300, 1500, 600}, "Button");

@@ -2,6 +2,7 @@
 #include <QFont>
 
 #include "platform/bare_program.h"
+#include "platform/check_box.h"
 #include "platform/command_button.h"
 #include "platform/frame.h"
 #include "platform/image.h"
@@ -10,6 +11,8 @@
 #include "platform/option_button.h"
 #include "platform/shape.h"
 #include "platform/status_bar.h"
+#include "platform/tab_strip.h"
+#include "platform/text_box.h"
 
 namespace trameli {
 namespace {
@@ -101,6 +104,89 @@ TEST_F(PictureTest, ImageIsStretchedAndItsTransparentPartsShowTheDrawing) {
     EXPECT_NEAR(Share(wide, Odd), Share(square, Odd), 0.05);
     image.Picture({"no/such.svg"});
     EXPECT_EQ(Share(Look(image), Odd), 1);
+}
+
+TEST_F(PictureTest, LettersCanBeReadOnAnyGround) {
+    Frame frame(TheForm, "Frame", {300, 300, 6000, 6000}, "Caption");
+    OptionButton option(frame, "Option", {300, 600, 3000, 600}, "Caption");
+    CheckBox check(frame, "Check", {300, 1200, 3000, 600}, "Caption");
+    Label label(frame, "Label", {300, 1800, 3000, 600}, "Caption");
+    CommandButton button(frame, "Button", {300, 2400, 3000, 600}, "Caption");
+    Label clear(frame, "Clear", {300, 3000, 3000, 600}, "Caption");
+    TabStrip tabs(frame, "Tabs", {300, 3600, 3000, 600}, {"Caption"});
+    TextBox text(frame, "Text", {300, 4200, 3000, 600});
+    text.Text("Caption");
+    clear.Transparent(true);
+    const std::initializer_list<InteractiveControl*> all{&frame,  &option, &check, &label,
+                                                         &button, &clear,  &tabs,  &text};
+    Bring();
+    frame.SetFocus();
+    const struct {
+        Colour Ground;
+        Colour Letters;
+        Colour Seen;
+    } rows[] = {
+        {White, Black, Black},
+        {Black, Black, White},
+        {Rgb(0, 0, 160), Black, White},
+        {Rgb(255, 128, 0), Black, Black},
+        {Rgb(255, 255, 0), White, Black},
+        {Black, Odd, Odd},
+    };
+    for (const auto& row : rows) {
+        for (InteractiveControl* control : all) {
+            control->Font(Large);
+            control->BackColor(row.Ground);
+            control->ForeColor(row.Letters);
+        }
+        clear.BackColor(row.Seen);  // which does not show
+        for (InteractiveControl* control : all) {
+            EXPECT_GT(Count(Look(*control).copy(40, 0, 160, 40), row.Seen), 50)
+                << control->Name() << " on " << row.Ground;
+            EXPECT_EQ(control->ForeColor(), row.Letters) << "what was set stays";
+        }
+    }
+}
+
+TEST_F(PictureTest, LongCaptionsWrap) {
+    Bring();
+    const Bounds place{300, 300, 3000, 1500};
+    const std::string words = "words for three lines";
+    OptionButton option(TheForm, "Option", place, words);
+    CheckBox check(TheForm, "Check", place, words);
+    CommandButton button(TheForm, "Button", place, words);
+    for (InteractiveControl* control :
+         std::initializer_list<InteractiveControl*>{&option, &check, &button}) {
+        control->Font(Large);
+        control->ToFront();
+        for (const int top : {0, 35, 68}) {
+            EXPECT_GT(Count(Look(*control).copy(45, top, 155, 30), Black), 50) << control->Name();
+        }
+    }
+}
+
+TEST_F(PictureTest, ControlsCoverEachOtherInAnOrderThatCanChange) {
+    Bring();
+    Label below(TheForm, "Below", {300, 300, 900, 900}, "");
+    Label above(TheForm, "Above", {300, 300, 900, 900}, "");
+    below.BackColor(Odd);
+    above.BackColor(White);
+    EXPECT_EQ(Share(Look(above), White), 1);
+    below.ToFront();
+    EXPECT_EQ(Share(Look(above), Odd), 1);
+    below.ToBack();
+    EXPECT_EQ(Share(Look(above), White), 1);
+}
+
+TEST_F(PictureTest, CircleLiesInTheMiddleOfItsBounds) {
+    Bring();
+    Shape circle(TheForm, "Circle", {300, 300, 3000, 1500}, 2, Black, ShapeKind::Circle);
+    EXPECT_EQ(Look(circle).pixel(100, 50), PixelOf(ButtonFace)) << "nothing fills it yet";
+    circle.FillColor(Odd);
+    EXPECT_EQ(circle.FillColor(), Odd);
+    EXPECT_NEAR(static_cast<double>(Count(Look(circle), Odd)), 3.14159 * 48 * 48, 250);
+    EXPECT_EQ(Look(circle).pixel(100, 50), PixelOf(Odd));
+    EXPECT_EQ(Look(circle).pixel(100, 1), PixelOf(Black));
 }
 
 TEST_F(PictureTest, ShapesAndLinesLieUnderTheControls) {

@@ -50,7 +50,7 @@ protected:
         const QRectF body = QRectF(rect()).adjusted(1, 1, -1, -1);
 
         painter.setPen(
-            QPen(hasFocus() ? QColor(0, 0, 128) : face.darker(180), hasFocus() ? FocusRing : 1));
+            QPen(hasFocus() ? QColor(0, 0, 128) : EdgeOf(face), hasFocus() ? FocusRing : 1));
         painter.setBrush(isDown() ? face.darker(115) : face);
         const double inset = hasFocus() ? FocusRing / 2.0 : 0.5;
         painter.drawRoundedRect(body.adjusted(inset, inset, -inset, -inset), side * CornerRadius,

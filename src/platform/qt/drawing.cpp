@@ -41,6 +41,10 @@ QColor Paled(const QColor& ink, const QColor& ground) {
                   (ink.blue() + ground.blue()) / 2);
 }
 
+QColor EdgeOf(const QColor& ground) {
+    return Paled(Readable(Qt::black, ground), ground);
+}
+
 QColor InkOf(const QWidget& widget) {
     return widget.palette().color(widget.isEnabled() ? QPalette::Active : QPalette::Disabled,
                                   QPalette::WindowText);
@@ -69,12 +73,13 @@ void PaintChoice(QAbstractButton& button, const PaintMark& paintMark) {
     painter.fillRect(button.rect(), button.palette().color(QPalette::Window));
     const QColor ink = InkOf(button);
     const int size = std::min(button.height() - 4, Nearest(button.fontMetrics().height() * 0.8));
-    const QRectF square(size * 0.3, (button.height() - size) / 2.0, size, size);
+    const double left = std::max(size * 0.3, FocusRing + 1.0);
+    const QRectF square(left, (button.height() - size) / 2.0, size, size);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(ink, std::max(1.0, size / 12.0)));
     painter.setBrush(Qt::white);
     paintMark(painter, square, Readable(ink, Qt::white));
-    const QRect room = button.rect().adjusted(Nearest(size * 1.7), 0, -FocusRing, 0);
+    const QRect room = button.rect().adjusted(Nearest(left + size * 1.5), 0, -FocusRing, 0);
     painter.setPen(ink);
     painter.drawText(room,
                      Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic | Qt::TextWordWrap,

@@ -15,6 +15,8 @@ inline constexpr int FocusRing = 3;
 QColor Readable(const QColor& ink, const QColor& ground);
 /// What letters are drawn in on something that cannot be used: half way to the ground.
 QColor Paled(const QColor& ink, const QColor& ground);
+/// The colour of thin lines round something of that colour.
+QColor EdgeOf(const QColor& ground);
 /// The colour of a widget's letters, enabled or not.
 QColor InkOf(const QWidget& widget);
 

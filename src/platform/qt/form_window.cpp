@@ -357,7 +357,7 @@ std::vector<const InteractiveControl*> FormWindow::OrderTabs() {
 void FormWindow::FocusFirst() {
     for (const InteractiveControl* control : OrderTabs()) {
         QWidget* widget = control->NativePart().Widget;
-        if (widget->focusPolicy() != Qt::NoFocus && control->Visible() && control->Enabled()) {
+        if ((widget->focusPolicy() & Qt::TabFocus) && control->Visible() && control->Enabled()) {
             widget->setFocus();
             break;
         }

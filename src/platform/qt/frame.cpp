@@ -29,17 +29,18 @@ protected:
             return;
         }
         const int line = title().isEmpty() ? 0 : fontMetrics().height() / 2;
-        painter.setPen(back.darker(150));
+        painter.setPen(EdgeOf(back));
         painter.drawRect(rect().adjusted(0, line, -1, -1));
         if (title().isEmpty()) {
             return;
         }
         const int blank = fontMetrics().horizontalAdvance(QLatin1Char(' '));
-        const QRect caption(3 * blank, 0, fontMetrics().horizontalAdvance(title()) + 2 * blank,
+        const QRect caption(3 * blank, 0,
+                            fontMetrics().size(Qt::TextShowMnemonic, title()).width() + 2 * blank,
                             fontMetrics().height());
         painter.fillRect(caption, back);
         painter.setPen(InkOf(*this));
-        painter.drawText(caption, Qt::AlignCenter, title());
+        painter.drawText(caption, Qt::AlignCenter | Qt::TextShowMnemonic, title());
     }
 };
 

@@ -33,7 +33,9 @@ protected:
     }
 
     void keyPressEvent(QKeyEvent* event) override {
-        if (!IsPressKey(*event)) {
+        if (IsArrow(*event) && !this->autoExclusive()) {
+            event->ignore();  // among options arrows choose; from a button they would lead away
+        } else if (!IsPressKey(*event)) {
             Button::keyPressEvent(event);
         } else if (!event->isAutoRepeat()) {
             key_ = event->key();
@@ -59,6 +61,10 @@ private:
     static bool IsPressKey(const QKeyEvent& event) {
         return event.key() == Qt::Key_Space || event.key() == Qt::Key_Return ||
                event.key() == Qt::Key_Enter;
+    }
+
+    static bool IsArrow(const QKeyEvent& event) {
+        return event.key() >= Qt::Key_Left && event.key() <= Qt::Key_Down;
     }
 
     /// The key that went down here is let go, or counts no more.

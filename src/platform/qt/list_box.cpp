@@ -53,7 +53,7 @@ protected:
         }
         QPainter painter(this);
         painter.fillRect(rect(), palette().color(QPalette::Base));
-        painter.setPen(palette().color(QPalette::Base).darker(180));
+        painter.setPen(EdgeOf(palette().color(QPalette::Base)));
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
         PaintFocusRing(*this);
         return true;
@@ -67,6 +67,13 @@ protected:
             return;
         }
         QListView::keyPressEvent(event);
+    }
+
+    /// Nothing takes the choice away: no click beside the entries, and none with Ctrl.
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent*) const override {
+        return index.isValid() ? QItemSelectionModel::ClearAndSelect
+                               : QItemSelectionModel::NoUpdate;
     }
 
     void mousePressEvent(QMouseEvent* event) override {

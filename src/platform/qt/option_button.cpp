@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QRadioButton>
+#include <algorithm>
 
 #include "platform/qt/convert.h"
 #include "platform/qt/drawing.h"
@@ -32,12 +33,24 @@ protected:
     }
 };
 
+/// The Tab key comes to the chosen option of a container, or to each while none is chosen.
+void LeadTab(const OptionWidget& changed) {
+    const auto options =
+        changed.parentWidget()->findChildren<QRadioButton*>(QString(), Qt::FindDirectChildrenOnly);
+    const bool chosen = std::any_of(options.begin(), options.end(),
+                                    [](const auto* option) { return option->isChecked(); });
+    for (QRadioButton* option : options) {
+        option->setFocusPolicy(!chosen || option->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
+    }
+}
+
 }  // namespace
 
 OptionButton::OptionButton(Container& container, ControlName name, const Bounds& bounds,
                            std::string caption)
     : Captioned(container, std::move(name), bounds, MakeNative<OptionWidget>(container)) {
     QObject::connect(&WidgetOf<OptionWidget>(*this), &QRadioButton::toggled, [this](bool chosen) {
+        LeadTab(WidgetOf<OptionWidget>(*this));
         if (chosen) {
             Fire(*this, Click);
         }

@@ -1,5 +1,6 @@
 #include "platform/scroll_bar.h"
 
+#include <QKeyEvent>
 #include <QScrollBar>
 
 #include "platform/property_access.h"
@@ -10,11 +11,40 @@ namespace trameli {
 
 namespace {
 
+/// Darker than what forms have as a ground, so that the handle can be seen.
+constexpr Colour Handle = Rgb(176, 190, 204);
+
+struct Step {
+    int Key;
+    QAbstractSlider::SliderAction Action;
+};
+constexpr Step Steps[] = {
+    {Qt::Key_Left, QAbstractSlider::SliderSingleStepSub},
+    {Qt::Key_Up, QAbstractSlider::SliderSingleStepSub},
+    {Qt::Key_Right, QAbstractSlider::SliderSingleStepAdd},
+    {Qt::Key_Down, QAbstractSlider::SliderSingleStepAdd},
+    {Qt::Key_PageUp, QAbstractSlider::SliderPageStepSub},
+    {Qt::Key_PageDown, QAbstractSlider::SliderPageStepAdd},
+    {Qt::Key_Home, QAbstractSlider::SliderToMinimum},
+    {Qt::Key_End, QAbstractSlider::SliderToMaximum},
+};
+
 class ScrollWidget : public QScrollBar {
 public:
     using QScrollBar::QScrollBar;
 
 protected:
+    /// The toolkit counts on bars that never have the keyboard: its arrows go the other way.
+    void keyPressEvent(QKeyEvent* event) override {
+        for (const auto& [key, step] : Steps) {
+            if (key == event->key()) {
+                triggerAction(step);
+                return;
+            }
+        }
+        event->ignore();
+    }
+
     void paintEvent(QPaintEvent* event) override {
         QScrollBar::paintEvent(event);
         PaintFocusRing(*this);
@@ -27,6 +57,7 @@ HScrollBar::HScrollBar(Container& container, ControlName name, const Bounds& bou
                        int max, int largeChange)
     : InteractiveControl(container, std::move(name), bounds,
                          MakeNative<ScrollWidget>(container, Qt::Horizontal)) {
+    BackColor(Handle);
     auto& widget = WidgetOf<QScrollBar>(*this);
     widget.setFocusPolicy(Qt::NoFocus);
     widget.setContextMenuPolicy(Qt::NoContextMenu);  // it would take the keys

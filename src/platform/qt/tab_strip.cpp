@@ -53,7 +53,7 @@ protected:
         const QColor face = palette().color(QPalette::Window);
         const int row = count() > 0 ? tabRect(0).height() : 0;
         const QRectF ground = QRectF(rect()).adjusted(0.5, row - 0.5, -0.5, -0.5);
-        painter.setPen(face.darker(160));
+        painter.setPen(EdgeOf(face));
         painter.setBrush(face);
         painter.drawRect(ground);
         for (int i = 0; i < count(); ++i) {
@@ -103,7 +103,7 @@ private:
         outline.quadTo(tab.topRight(), QPointF(tab.right(), tab.top() + Corner));
         outline.lineTo(tab.bottomRight());
         painter.fillPath(outline, selected ? face : face.darker(112));
-        painter.setPen(face.darker(160));
+        painter.setPen(EdgeOf(face));
         painter.setBrush(Qt::NoBrush);
         painter.drawPath(outline);
 
