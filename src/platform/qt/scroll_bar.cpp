@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QScrollBar>
+#include <QStyleOption>
 
 #include "platform/property_access.h"
 #include "platform/qt/drawing.h"
@@ -10,9 +11,6 @@
 namespace trameli {
 
 namespace {
-
-/// Darker than what forms have as a ground, so that the handle can be seen.
-constexpr Colour Handle = Rgb(176, 190, 204);
 
 struct Step {
     int Key;
@@ -47,6 +45,14 @@ protected:
 
     void paintEvent(QPaintEvent* event) override {
         QScrollBar::paintEvent(event);
+        // The style's handle hardly differs from what it moves on.
+        QStyleOptionSlider option;
+        initStyleOption(&option);
+        const QRect handle = style()->subControlRect(QStyle::CC_ScrollBar, &option,
+                                                     QStyle::SC_ScrollBarSlider, this);
+        QPainter painter(this);
+        painter.fillRect(handle.adjusted(1, FocusRing + 1, -1, -FocusRing - 1), InkOf(*this));
+        painter.end();
         PaintFocusRing(*this);
     }
 };
@@ -57,7 +63,6 @@ HScrollBar::HScrollBar(Container& container, ControlName name, const Bounds& bou
                        int max, int largeChange)
     : InteractiveControl(container, std::move(name), bounds,
                          MakeNative<ScrollWidget>(container, Qt::Horizontal)) {
-    BackColor(Handle);
     auto& widget = WidgetOf<QScrollBar>(*this);
     widget.setFocusPolicy(Qt::NoFocus);
     widget.setContextMenuPolicy(Qt::NoContextMenu);  // it would take the keys
