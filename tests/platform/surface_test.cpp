@@ -3,6 +3,7 @@
 
 #include <QPainter>
 #include <algorithm>
+#include <random>
 
 #include "base/rounding.h"
 #include "platform/bare_program.h"
@@ -28,12 +29,12 @@ public:
     bool Has(int x, int y, Colour colour = Ink) const {
         return Image().valid(x, y) && Image().pixel(x, y) == PixelOf(colour);
     }
-    /// The smallest rectangle round all pixels of that colour, in device pixels.
-    QRect Extent(Colour colour = Ink) const {
+    /// The smallest rectangle round all inked pixels, in device ones.
+    QRect Extent() const {
         QRect extent;
         for (int y = 0; y < Image().height(); ++y) {
             for (int x = 0; x < Image().width(); ++x) {
-                if (Has(x, y, colour)) {
+                if (Has(x, y)) {
                     extent |= QRect(x, y, 1, 1);
                 }
             }
@@ -55,12 +56,11 @@ public:
 class Numbers {
 public:
     double Next(double low, double high) {
-        state_ = state_ * 6364136223846793005ULL + 1442695040888963407ULL;
-        return low + (high - low) * static_cast<double>(state_ >> 40) / (1 << 24);
+        return low + (high - low) * static_cast<double>(engine_()) / 0x1p32;
     }
 
 private:
-    unsigned long long state_ = 1;
+    std::mt19937 engine_;
 };
 
 /// Draws points, lines and bars at odd places, always the same ones for one size.

@@ -47,6 +47,7 @@ protected:
 TEST_F(Devices, AreOpenWhileSomethingPlaysAndABitLonger) {
     MixerOptions options;
     options.Silence = 300ms;
+    options.Retry = 1h;  // nothing goes wrong here
     Play(options);
     Sounds.reset();
     EXPECT_FALSE(std::filesystem::exists(PathOf("recording"))) << "opened for nothing";

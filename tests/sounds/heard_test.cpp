@@ -42,16 +42,6 @@ TEST_F(HeardSounds, WavesPlayOnceAndTheLastWinsAtOnce) {
     EXPECT_LT(LengthOf('B'), 15 * 50) << "cut off in the middle";
 }
 
-TEST_F(HeardSounds, MusicPlaysOnceFromItsBeginning) {
-    Play();
-    Sounds->PlayMusic("P:\\short.mid");
-    ASSERT_TRUE(StoryEnds("AB."));
-    ASSERT_TRUE(MoreIsHeard(2));
-    EXPECT_EQ(Story(), "AB.");
-    EXPECT_NEAR(LengthOf('A'), 50, 10);
-    EXPECT_NEAR(LengthOf('B'), 100, 20);
-}
-
 TEST_F(HeardSounds, MusicBeginsAnewSoundsUnderWavesAndEndsWhenItIsStopped) {
     Play();
     Sounds->PlayMusic("P:\\long.mid");
