@@ -31,6 +31,11 @@ FormAPassi::FormAPassi(trameli::Forms& forms, Servizi& servizi, Casuale& casuale
     };
 }
 
+void FormAPassi::Form_Activate() {
+    tenuto_ = false;  // a switch that was down when the window went was let go in another one
+    FormTrm::Form_Activate();
+}
+
 /// Brings the keyboard to where the switches count, before the key goes down there. The timer alone
 /// would not do: its next tick can be 15 seconds away, and while a solved maze is on show it stands
 /// still. A click somewhere would then leave the player no way to go on.
@@ -42,15 +47,18 @@ bool FormAPassi::Form_KeyDown(int keyCode, int /*shift*/) {
         BottoneAvanti.SetFocus();
     } else if (stato_.ModoInput == ScansioneManuale) {
         PictureScansioneManuale.SetFocus();
-    } else if (offerto_) {
-        // Not before: nobody can take what was not yet offered.
+    } else if (keyCode == KeySpace) {
+        // What is taken is what was on offer when the switch went down, and nothing if nothing was.
+        tenuto_ = offerto_;
         PictureScansioneAutomatica.SetFocus();
+        return !offerto_;
     }
     return false;
 }
 
 void FormAPassi::Form_KeyUp(int keyCode, int /*shift*/) {
     if (stato_.ModoInput != Tastiera) {
+        tenuto_ = tenuto_ && keyCode != KeySpace;
         return;
     }
     if (BottoneAvanti.Visible()) {
@@ -66,7 +74,7 @@ void FormAPassi::Form_KeyUp(int keyCode, int /*shift*/) {
 void FormAPassi::Timer1_Timer() {
     if (stato_.ModoInput == ScansioneManuale) {
         PictureScansioneManuale.SetFocus();
-    } else if (stato_.ModoInput == ScansioneAutomatica && stato_.TrameloDisegnato) {
+    } else if (stato_.ModoInput == ScansioneAutomatica && stato_.TrameloDisegnato && !tenuto_) {
         OffriProssima();
         offerto_ = true;
         PictureScansioneAutomatica.SetFocus();
@@ -123,7 +131,6 @@ void FormAPassi::ImpostaModoInput() {
 }
 
 void FormAPassi::AvviaScansione() {
-    offerto_ = false;
     if (stato_.ModoInput == ScansioneAutomatica) {
         Timer1.Enabled(true);
     } else if (stato_.ModoInput == ScansioneManuale) {
@@ -138,10 +145,13 @@ void FormAPassi::OffriProssima() {
     DirezioneScansione = DirezioneDopo(DirezioneScansione);
     DisegnaPercorsoPerStampa(pictureTramelo, traccia_, Aspetto());
     DisegnaTrattoScansione(pictureTramelo, testa, DirezioneScansione, aspetto);
-    DisegnaSimbolo(pictureTramelo, testa, Aspetto());
+    if (!aspetto.SopraIlSimbolo) {
+        DisegnaSimbolo(pictureTramelo, testa, Aspetto());
+    }
 }
 
 void FormAPassi::TogliLineeRotazione() {
+    offerto_ = false;
     for (std::int16_t direzione = 0; direzione < NumeroDirezioni; ++direzione) {
         TogliTrattoScansione(pictureTramelo, traccia_.Testa(), direzione, AspettoTratti());
     }

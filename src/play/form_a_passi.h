@@ -19,6 +19,7 @@ protected:
     FormAPassi(trameli::Forms& forms, Servizi& servizi, Casuale& casuale, const DisegnoTrm& disegno,
                DimensioniGriglia griglia, const Bounds& automatica, const Bounds& manuale);
 
+    void Form_Activate() override;
     bool Form_KeyDown(int keyCode, int shift) override;
     void Form_KeyUp(int keyCode, int shift) override;
     /// With one switch, offers the next direction; with either number, fetches the keyboard.
@@ -35,14 +36,14 @@ protected:
     void ImpostaModoInput();
     /// Begins to offer directions in a new maze.
     void AvviaScansione();
-    /// Takes all strokes away; the direction on offer stays.
+    /// Takes all strokes away; nothing is on offer until the timer offers the next direction.
     void TogliLineeRotazione();
 
 private:
     void OffriProssima();
     void PrendiOfferta();
 
-    bool offerto_ = false;  ///< the timer has offered a direction in this maze
+    bool tenuto_ = false;  ///< the one switch went down on an offer and is still down
 };
 
 }  // namespace trameli

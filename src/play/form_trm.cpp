@@ -46,10 +46,11 @@ FormTrm::FormTrm(trameli::Forms& forms, Servizi& servizi, Casuale& casuale,
       casuale_(casuale),
       tramelo_(griglia.Righe, griglia.Colonne, casuale),
       traccia_(griglia.Righe, griglia.Colonne),
+      sempreIntestata_(disegno.SempreIntestata),
       attesaIniziale_(disegno.AttesaIniziale) {
     BackColor(White);
     mnuNuovo.Click = [this] {
-        if (!DaPreparare()) {  // else chosen before the window was laid out
+        if (preparato_) {  // else chosen before the window was laid out
             mnuNuovo_Click();
         }
     };
@@ -92,9 +93,12 @@ void FormTrm::Form_Load() {
 }
 
 void FormTrm::Form_Activate() {
-    StatusBar1.Panel(1, stato_.NomeGiocatore);
-    StatusBar1.Panel(2, servizi_.Lingue.TestoLingua("0022") + std::to_string(stato_.Livello + 1));
-    if (!DaPreparare()) {
+    if (!preparato_ || sempreIntestata_) {
+        StatusBar1.Panel(1, stato_.NomeGiocatore);
+        StatusBar1.Panel(2,
+                         servizi_.Lingue.TestoLingua("0022") + std::to_string(stato_.Livello + 1));
+    }
+    if (preparato_) {
         return;
     }
     preparato_ = true;

@@ -39,6 +39,7 @@ struct DisegnoTrm {
     double LatoCoppe;
     Bounds BottoneAvanti;
     bool ConRipartenze;     ///< a fifth panel in the status bar
+    bool SempreIntestata;   ///< the panels are written anew whenever it comes back to the front
     double AttesaIniziale;  ///< seconds that the window is shown empty before the first maze
 };
 
@@ -102,8 +103,6 @@ protected:
     /// Back to the menu: unloads the form.
     void mnuEsci_Click();
 
-    /// Whether an activation makes the first maze: none did so before.
-    bool DaPreparare() const { return !preparato_; }
     /// What belongs to the maze before goes, to make room for a new one.
     void Sgombra();
     /// Writes `parola`, with a blank at its end, and the number of hits on their panel.
@@ -161,8 +160,10 @@ protected:
 
     /// The direction on offer while scanning, a place in DirezioniScansione.
     std::int16_t DirezioneScansione = 0;
+    bool offerto_ = false;  ///< its stroke was shown by the timer, and is still there
 
 private:
+    bool sempreIntestata_;
     double attesaIniziale_;
     bool preparato_ = false;         ///< the first activation has come
     bool StatoTimerSalvato = false;  ///< Timer1 as it was before BottoneAvanti stopped it

@@ -21,6 +21,7 @@ constexpr DisegnoTrm Disegno{
     .LatoCoppe = 615,
     .BottoneAvanti = {7320, 5400, 1725, 660},
     .ConRipartenze = false,
+    .SempreIntestata = true,
     .AttesaIniziale = 0.5,
 };
 

@@ -22,6 +22,7 @@ constexpr DisegnoTrm Disegno{
     .LatoCoppe = 495,
     .BottoneAvanti = {7320, 240, 1725, 780},
     .ConRipartenze = true,
+    .SempreIntestata = true,
     .AttesaIniziale = 0,
 };
 
@@ -34,6 +35,8 @@ constexpr int VelocitaMassima = 25;
 constexpr int VelocitaIniziale = 12;
 constexpr int SaltoVelocita = 3;
 constexpr int Lentissimo = 30;  // tenths of a second; the bar takes its value from it
+
+constexpr Lato DirezioneIniziale = Lato::Basso;  // the only way in from the start
 
 constexpr int DecimoDiSecondo = 100;    // milliseconds
 constexpr double TempoPerGuardare = 3;  // seconds
@@ -115,12 +118,11 @@ void frmTrm1::mnuNuovo_Click() {
     GeneraTramelo();
     TuttiISoli();
     InserisciPartenza();
-    trameloNuovo_ = true;
     AttendiEParti();
 }
 
 PartenzaArrivo frmTrm1::TrovaPartenzaArrivo() {
-    Direzione = Lato::Basso;
+    Direzione = DirezioneIniziale;
     return TrovaPartenzaArrivoATempo(tramelo_, geometria_, spessori_.SpessoreMuri);
 }
 
@@ -168,10 +170,6 @@ void frmTrm1::AttendiEParti() {
         }
     }
     fineAttesa_.reset();
-    if (trameloNuovo_) {
-        DirezioneIniziale = Direzione;
-    }
-    trameloNuovo_ = false;
     Timer1.Enabled(true);
 }
 

@@ -46,14 +46,12 @@ private:
     /// Leaves the player three seconds to look, then starts the clock.
     void AttendiEParti();
 
-    Lato Direzione = Lato::Basso;          ///< of the next step
-    Lato DirezioneIniziale = Lato::Basso;  ///< to go back to after a hit
-    std::int16_t Lentezza = 18;            ///< time of a step, tenths of a second
-    std::int16_t SoliRimasti = 5;          ///< suns shown; -1 when they have run out
-    std::int16_t ContaRipartenze = 0;      ///< new starts from zero in the whole game
+    Lato Direzione = Lato::Basso;      ///< of the next step
+    std::int16_t Lentezza = 18;        ///< time of a step, tenths of a second
+    std::int16_t SoliRimasti = 5;      ///< suns shown; -1 when they have run out
+    std::int16_t ContaRipartenze = 0;  ///< new starts from zero in the whole game
 
     std::optional<double> fineAttesa_;  ///< when the wait under way ends
-    bool trameloNuovo_ = false;         ///< a new maze came before or during that wait
 };
 
 }  // namespace trameli

@@ -17,6 +17,7 @@ constexpr DisegnoTrm Disegno{
     .LatoCoppe = 615,
     .BottoneAvanti = {4440, 5040, 1725, 780},
     .ConRipartenze = false,
+    .SempreIntestata = false,
     .AttesaIniziale = 0,
 };
 
@@ -26,13 +27,6 @@ frmTrm3::frmTrm3(trameli::Forms& forms, Servizi& servizi, Casuale& casuale)
     : FormAPassi(forms, servizi, casuale, Disegno,
                  {servizi.Stato.RigheGriglia, servizi.Stato.ColonneGriglia}, {7200, 3600, 495, 495},
                  {6360, 4440, 615, 495}) {}
-
-/// Coming back to the front, it leaves even the panels as they are.
-void frmTrm3::Form_Activate() {
-    if (DaPreparare()) {
-        FormAPassi::Form_Activate();
-    }
-}
 
 void frmTrm3::Disponi() {
     DisponiControlli(Height() - 2 * BottoneAvanti.Height(),

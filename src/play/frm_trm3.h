@@ -12,7 +12,6 @@ public:
     frmTrm3(trameli::Forms& forms, Servizi& servizi, Casuale& casuale);
 
 protected:
-    void Form_Activate() override;
     void Disponi() override;
     void mnuNuovo_Click() override;
 };

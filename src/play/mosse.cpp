@@ -46,7 +46,7 @@ void FormTrm::DisegnaLinea(Lato lato, int lunghezza, double colore) {
 }
 
 AspettoScansione FormTrm::AspettoTratti() const {
-    return AspettoScansioneDi(spessori_, geometria_.DimensioneCella,
+    return AspettoScansioneDi(spessori_, AspettoPareti(), geometria_.DimensioneCella,
                               Forms().Screen().TwipsPerPixelX(), Nearest(stato_.ColoreScansione),
                               Nearest(stato_.ColoreSfondo));
 }

@@ -50,6 +50,7 @@ PartenzaArrivo FormTrm::TrovaPartenzaArrivo() {
 void FormTrm::AzzeraVariabili() {
     giocatore_.Azzera();
     traccia_.Comincia(giocatore_.Percorso().PuntoIniziale);
+    offerto_ = false;
 }
 
 void FormTrm::InserisciPartenza() {

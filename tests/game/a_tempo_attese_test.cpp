@@ -128,27 +128,21 @@ TEST_P(OgniAttesa, PauseOnceStartsTheClockBeforeItsEnd) {
     EXPECT_EQ(Passi(), passi + 1);
 }
 
-TEST_F(Attese, KeyLeadsTheFirstStepAndInANewMazeTheStepAfterEachHitToo) {
-    struct {
-        Dopo Prima;
-        bool Nuovo;  ///< a new maze comes before the key
-        int Urti;
-        int Passi;
-    } const casi[] = {{Dopo::TrameloNuovo, false, 2, 0},
-                      {Dopo::Ripartenza, false, 6 + 1, 1},
-                      {Dopo::Ripartenza, true, 2, 0}};
-    for (const auto& caso : casi) {
-        Aspetta(caso.Prima, 1, [&] {
-            if (caso.Nuovo) {
-                CtrlN();
-            }
-            Tasto(AllaDestra);
-        });
-        Scatti(2);
-        EXPECT_EQ(Urti(), caso.Urti);
-        EXPECT_EQ(Passi(), caso.Passi);
-        EXPECT_EQ(Pannello(5), caso.Prima == Dopo::Ripartenza ? "Ripartito da zero 1 volte" : "");
-        Scegli("mnuEsci");
+TEST_F(Attese, AnArrowLeadsTheFirstStepAndNoneAfterIt) {
+    for (const Dopo dopo : {Dopo::TrameloNuovo, Dopo::Ripartenza}) {
+        for (const bool nuovo : {false, true}) {  // a new maze comes before the key
+            Aspetta(dopo, 1, [&] {
+                if (nuovo) {
+                    CtrlN();
+                }
+                Tasto(AllaDestra);
+            });
+            const int urti = Urti();
+            Scatti(3);
+            EXPECT_EQ(Urti(), urti + 1);
+            EXPECT_EQ(Passi(), 2);
+            Scegli("mnuEsci");
+        }
     }
 }
 

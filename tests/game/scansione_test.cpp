@@ -1,6 +1,8 @@
 // Playing with one key or two: the strokes, and what the keys come to.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "game/interruttori.h"
 
 namespace trameli {
@@ -116,14 +118,107 @@ TEST_F(ConInterruttori, WithTwoKeysTheOfferStaysOnAStepAndARestartShowsNone) {
     EXPECT_EQ(TrattiAllInizio(tavolo), std::vector{(dentro + 1) % 4});
 }
 
+/// Whether somewhere within `dove` a block of six pixels has changed, which no eye overlooks.
+bool SiVede(const QImage& prima, const QImage& dopo, const QRect& dove) {
+    const auto diversi = [&](int x, int y, int larghi, int alti) {
+        for (int i = 0; i < larghi * alti; ++i) {
+            const QPoint qui(x + i % larghi, y + i / larghi);
+            if (!dove.contains(qui) || prima.pixel(qui) == dopo.pixel(qui)) {
+                return false;
+            }
+        }
+        return true;
+    };
+    for (int y = dove.top(); y <= dove.bottom(); ++y) {
+        for (int x = dove.left(); x <= dove.right(); ++x) {
+            if (diversi(x, y, 2, 3) || diversi(x, y, 3, 2)) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+class OgniOfferta : public ConInterruttori, public testing::WithParamInterface<int> {};
+
+INSTANTIATE_TEST_SUITE_P(Livelli, OgniOfferta,
+                         testing::Values(0, 2, 4, 8, 9, 10, 11, 12, 13, 14, 15),
+                         [](const auto& voce) { return "Level" + std::to_string(voce.param); });
+
+/// With the colours that the settings begin with, where stroke and symbol are of the same.
+TEST_P(OgniOfferta, IsSeenOnItsSideOfTheSymbolAtEveryThickness) {
+    const int livello = GetParam();
+    modo_ = Automatica;
+    file_ = FileUtente().Con(RigaModoInput, Automatica);
+    disco_.Scrivi("_predefinito", file_);
+    for (const PixelSize schermo : {PixelSize{800, 600}, PixelSize{1920, 1080}}) {
+        Partita partita(disco_, schermo, 11);
+        const Tavolo tavolo = AlTavolo(partita.ApriLivello(livello), livello);
+        const QPointF testa = tavolo.Pianta_.Verso(tavolo.Partenza(), 0.5);
+        const int cella = static_cast<int>(tavolo.Pianta_.Lato / tavolo.Pianta_.TwipsPerPixel);
+        const QPointF angolo = testa / tavolo.Pianta_.TwipsPerPixel - QPointF(cella, cella) / 2;
+        QWidget& labirinto = WidgetOf(Trova<PictureBox>(tavolo.Form_, "pictureTramelo"));
+        int offerta = 0;
+        const auto prossima = [&] {
+            partita.Tempo.Advance(Giro);
+            offerta = (offerta + 1) % NumeroDirezioni;
+            return labirinto.grab({angolo.toPoint(), QSize(cella, cella)}).toImage();
+        };
+        // Where walls can be bars, each thickness once with lines and once with bars.
+        for (int volta = 0; volta < (livello < 5 ? 14 : 7); ++volta) {
+            QImage prima = prossima();
+            for (int i = 0; i < NumeroDirezioni; ++i) {
+                const QImage dopo = prossima();
+                const auto verso = static_cast<std::size_t>(
+                    DirezioniScansione.at(static_cast<std::size_t>(offerta)));
+                const int mezza = dopo.width() / 2;
+                const QRect dove(mezza * (1 + ColonnaVerso.at(verso)) / 2,
+                                 mezza * (1 + RigaVerso.at(verso)) / 2, mezza, mezza);
+                EXPECT_TRUE(SiVede(prima, dopo, dove))
+                    << schermo.Width << ", change " << volta << ", offer " << offerta;
+                prima = dopo;
+            }
+            Tap(tavolo.Form_, Qt::Key_L, Qt::ControlModifier);
+            if (volta == 6) {
+                Tap(tavolo.Form_, Qt::Key_M, Qt::ControlModifier);
+            }
+        }
+    }
+}
+
+TEST_F(ConInterruttori, WithOneKeyTheOfferStandsStillWhileTheKeyIsDownAndIsTheOneThatIsTaken) {
+    const Tavolo tavolo = Apri(9, Automatica);
+    partenza_ = tavolo.Partenza();
+    const int dentro = Offerta(Contrario(partenza_.Lato));
+    Tic(dentro == 0 ? 4 : dentro);
+    Press(tavolo.Form_, Qt::Key_Space);
+    Tic(5);
+    EXPECT_EQ(TrattiAllInizio(tavolo), std::vector{dentro});
+    Release(tavolo.Form_, Qt::Key_Space);
+    EXPECT_EQ(tavolo.Passi(), 1);
+    // A stroke that is held when nothing is on offer comes to nothing, and stops nothing.
+    Press(tavolo.Form_, Qt::Key_Space);
+    Tic();
+    EXPECT_EQ(Tratti(tavolo, partenza_, false), std::vector{(dentro + 1) % 4});
+    Release(tavolo.Form_, Qt::Key_Space);
+    // Nor does one stop the offers that ended in another window.
+    Press(tavolo.Form_, Qt::Key_Space);
+    Partita::ViaERitorno(tavolo.Form_);
+    Tic();
+    EXPECT_EQ(Tratti(tavolo, partenza_, false), std::vector{(dentro + 2) % 4});
+    EXPECT_EQ(tavolo.Passi() + tavolo.Urti(), 1);
+}
+
 TEST_F(ConInterruttori, WithOneKeyNothingIsOnShowAfterAStepOrAHitUntilTheNextTick) {
     const Tavolo tavolo = Apri(9, Automatica);
-    Spazio(tavolo.Form_);  // before the first tick it reaches nobody
+    Trova<PictureBox>(tavolo.Form_, "PictureScansioneAutomatica").SetFocus();
+    Spazio(tavolo.Form_);
     EXPECT_EQ(tavolo.Urti() + tavolo.Passi(), 0);
     partenza_ = tavolo.Partenza();
     const int dentro = Offerta(Contrario(partenza_.Lato));
     const int fuori = Offerta(partenza_.Lato);
     Tic(fuori == 0 ? 4 : fuori);
+    Spazio(tavolo.Form_);
     Spazio(tavolo.Form_);
     EXPECT_EQ(tavolo.Urti(), 1);
     EXPECT_TRUE(TrattiAllInizio(tavolo).empty());

@@ -57,7 +57,7 @@ TEST_P(OgniSchermo, AStrokeGoesToTheLastPixelAndTouchesNoWall) {
             const Punto testa{centro, centro};
             UnaCella(superficie, lato, testa, spessori, GetParam());
             const AspettoScansione aspetto =
-                AspettoScansioneDi(spessori, lato, twips, Tratto, Sfondo);
+                AspettoScansioneDi(spessori, Pareti::Linee, lato, twips, Tratto, Sfondo);
             const QImage prima = vista();
             for (std::int16_t direzione = 0; direzione < NumeroDirezioni; ++direzione) {
                 DisegnaTrattoScansione(superficie, testa, direzione, aspetto);
@@ -80,7 +80,8 @@ TEST(AspettoScansione, EndsShortOfTheWallAndIsThinnerThanTheTrace) {
                       {16, 751, 15, 248},
                       {4, 750, 8.5, 354}};  // 42.5 goes to the even 42
     for (const auto& [spessoreMuri, cella, twips, lunghezza] : casi) {
-        const auto aspetto = AspettoScansioneDi({5, spessoreMuri, 0}, cella, twips, Tratto, Sfondo);
+        const auto aspetto =
+            AspettoScansioneDi({5, spessoreMuri, 0}, Pareti::Linee, cella, twips, Tratto, Sfondo);
         EXPECT_EQ(aspetto.Lunghezza, lunghezza);
         EXPECT_EQ(aspetto.Penna, 4);
         EXPECT_EQ(aspetto.PennaGomma, 5);
