@@ -155,6 +155,8 @@ void FormMenu::Form_Activate() {
     // The window comes to the front again after each message box.
     if (!preparato_) {
         Timer1.Enabled(true);
+        // A key that comes before the timer must not choose the first level.
+        Option1(servizi_.Stato.Livello).SetFocus();
     }
 }
 

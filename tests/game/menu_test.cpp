@@ -140,6 +140,12 @@ TEST_F(Menu, IsPlayedWithTheKeyboardAlone) {
     EXPECT_EQ(partita_.Aperte(), Nomi{"frmTrm3"});
 }
 
+TEST_F(Menu, TheKeyboardIsAtTheCurrentLevelFromTheFirstKeyOn) {
+    disco_.Scrivi("_predefinito", FileUtente().Con(RigaLivello, 8));
+    Tap(partita_.ApriMenu(false), Qt::Key_Space);
+    EXPECT_EQ(partita_.Gioco.Stato().Livello, 8);
+}
+
 TEST_F(Menu, StartedBeforeItsTimerHasRunStillHasTheGrid) {
     disco_.Scrivi("_predefinito", FileUtente().Con(RigaLivello, 15));
     partita_.ApriMenu(false);
