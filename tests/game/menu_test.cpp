@@ -34,7 +34,10 @@ protected:
     VisualControl& Cornice() { return Trova<VisualControl>(Finestra(), "Frame1"); }
 
     /// What the eye sees between outline and picture.
-    static QRgb Tinta(const OptionButton& opzione) { return Shot(opzione).pixel(0, 0); }
+    static QRgb Tinta(const OptionButton& opzione) {
+        const QImage immagine = Shot(opzione);
+        return immagine.pixel(immagine.width() * 9 / 10, immagine.height() / 4);
+    }
     static QRgb Tinta(const CommandButton& bottone) {
         const QImage immagine = Shot(bottone);
         return immagine.pixel(immagine.width() / 6, immagine.height() / 2);
