@@ -62,7 +62,7 @@ std::string Tone(double pitch, double seconds) {
     Samples sound(static_cast<std::size_t>(seconds * Rate));
     for (std::size_t i = 0; i < sound.size(); ++i) {
         const double turn = 2 * std::numbers::pi * pitch / Rate * static_cast<double>(i);
-        sound[i] = static_cast<std::int16_t>(std::lround(9000 * std::sin(turn)));
+        sound[i] = static_cast<std::int16_t>(std::lround(25000 * std::sin(turn)));
     }
     return WaveOf(sound);
 }
