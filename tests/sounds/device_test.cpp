@@ -25,6 +25,7 @@ class Devices : public RecordedSounds {
 protected:
     Devices() {
         Put("a.wav", Tone(PitchA, 0.5));
+        Put("b.wav", Tone(PitchB, 0.5));
         Put("long.wav", Tone(PitchA, 20));
         Put("a.mid", Tune(150, 1));
     }
@@ -57,8 +58,8 @@ TEST_F(Devices, AreOpenWhileSomethingPlaysAndABitLonger) {
     EXPECT_EQ(Story(), "A");
     Sounds->StopMusic();
     ASSERT_TRUE(Soon([&] { return !DeviceIsOpen(); }));
-    Sounds->PlayWave("P:\\a.wav");
-    EXPECT_TRUE(Soon([&] { return Story() == "A."; }));
+    Sounds->PlayWave("P:\\b.wav");
+    EXPECT_TRUE(Soon([&] { return Story() == "B."; }));
 }
 
 TEST_F(Devices, WithNoneNothingHappens) {
