@@ -17,6 +17,7 @@ namespace trameli {
 Program::Program(const Services& services, std::unique_ptr<Casuale> casuale)
     : services_(services),
       casuale_(std::move(casuale)),
+      lingue_(stato_, services_.FileSystem, services_.Dialogs, services_.Locale),
       moduloPerIni_(stato_, services_.FileSystem, services_.Dialogs, lingue_),
       suoni_(stato_, services_.Sounds),
       moduloNavigate_(stato_, services_.FileSystem, services_.Documents),

@@ -77,7 +77,11 @@ FormFinale::FormFinale(trameli::Forms& forms, Servizi& servizi, Casuale& casuale
 }
 
 void FormFinale::Form_Load() {
-    const Lingue& lingue = servizi_.Lingue;
+    Lingue& lingue = servizi_.Lingue;
+    lingue.TraduciForm(*this);
+    if (!Loaded()) {
+        return;
+    }
     LabelNome.Caption(stato_.NomeGiocatore);
     Label2.Caption(lingue.TestoLingua("0014") + std::to_string(stato_.Livello + 1) +
                    lingue.TestoLingua("0015") + "\r\n" + lingue.TestoLingua("0016"));

@@ -89,6 +89,7 @@ void FormTrm::Form_Load() {
     if (stato_.PuntatoreSistema) {
         BottoneAvanti.MouseIcon(std::nullopt);
     }
+    servizi_.Lingue.TraduciForm(*this);
     stato_.TrameloDisegnato = false;
 }
 

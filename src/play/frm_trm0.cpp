@@ -32,7 +32,9 @@ frmTrm0::frmTrm0(trameli::Forms& forms, Servizi& servizi, Casuale& casuale)
                  {6120, 1920, 615, 495}),
       mnuLineeMuri(mnuTrameli, "mnuLineeMuri", "Usa linee", 'M', &mnuLinee) {
     mnuLineeMuri.Click = [this] { mnuLineeMuri_Click(); };
-    PictureMuri.Add(pictureTramelo, Bounds{4080, 480, 900, 900}).Visible(false);
+    PictureBox& muro = PictureMuri.Add(pictureTramelo, Bounds{4080, 480, 900, 900});
+    muro.AccessibleName("Muro");
+    muro.Visible(false);
 }
 
 void frmTrm0::Disponi() {
@@ -78,7 +80,6 @@ void frmTrm0::SistemaMuri() {
     PictureMuri(0).Picture(Archivio().PictureMuro(IndiceMuro).Picture());
     for (const Bounds& posto : PostiBarre(tramelo_, geometria_)) {
         PictureBox& muro = PictureMuri.Load(++ContaPezziMuro);
-        muro.AccessibleName("Muro");
         muro.Enabled(false);  // a click on a wall takes the keyboard from nobody
         muro.Place(posto);
         muro.Visible(true);

@@ -109,7 +109,8 @@ void frmTrm1::Timer1_Timer() {
 void frmTrm1::mnuPausa_Click() {
     const bool pausa = Timer1.Enabled();
     Timer1.Enabled(!pausa);
-    mnuPausa.Caption(pausa ? "Ri&prendi" : "&Pausa");
+    mnuPausa.Caption(pausa ? servizi_.Lingue.TestoLingua("0035", "Ri&prendi")
+                           : servizi_.Lingue.TestoLingua("0036", "&Pausa"));
 }
 
 void frmTrm1::mnuNuovo_Click() {
@@ -144,7 +145,9 @@ void frmTrm1::Sbagliato() {
     AzzeraVariabili();
     InserisciPartenza();
     ContaRipartenze = Saturated(ContaRipartenze + 1);
-    StatusBar1.Panel(5, "Ripartito da zero " + std::to_string(ContaRipartenze) + " volte");
+    Lingue& lingue = servizi_.Lingue;
+    StatusBar1.Panel(5, lingue.TestoLingua("0032", "Ripartito da zero ") +
+                            std::to_string(ContaRipartenze) + lingue.TestoLingua("0033", " volte"));
     TuttiISoli();
     DisegnaTramelo();
     AttendiEParti();

@@ -55,6 +55,10 @@ FormAvvio::FormAvvio(trameli::Forms& forms, Servizi& servizi)
 }
 
 void FormAvvio::Form_Load() {
+    servizi_.Lingue.TraduciForm(*this);
+    if (!Loaded()) {
+        return;
+    }
     EssResizer1.Carica();
 }
 

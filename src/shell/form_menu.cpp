@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
+#include <vector>
 
 #include "base/rounding.h"
 #include "platform/forms.h"
@@ -76,6 +78,7 @@ FormMenu::FormMenu(trameli::Forms& forms, Servizi& servizi)
       mnuDocumentazione(mnuInformazioni, "mnuDocumentazione", "documentazione"),
       mnuAbout(mnuInformazioni, "mnuAbout", "about"),
       mnuLanguages(*this, "mnuLanguages", "Lingua"),
+      mnuLanguage("mnuLanguage"),
       Frame1(*this, "Frame1", {120, 120, 9855, 3855}, "Imposta il livello"),
       Shape1(Frame1, "Shape1", {120, 480, 9615, 855}, Bordo, Rgb(0, 192, 0)),
       Shape2(Frame1, "Shape2", {120, 1560, 9615, 855}, Bordo, Rgb(255, 128, 128)),
@@ -93,7 +96,8 @@ FormMenu::FormMenu(trameli::Forms& forms, Servizi& servizi)
     mnuDocumentazione.Enabled(false);
     mnuAbout.Enabled(forms.Knows("FormInfo"));
     mnuAbout.Click = [this] { mnuAbout_Click(); };
-    mnuLanguages.Enabled(false);
+    // Without language files it stands for the texts that the windows are made with.
+    mnuLanguage.Add(mnuLanguages, "Italiano").Click = [this] { mnuLanguage_Click(0); };
 
     Frame1.BackColor(Bianco);
     Frame1.Font(Grande);
@@ -109,6 +113,34 @@ FormMenu::FormMenu(trameli::Forms& forms, Servizi& servizi)
     DisponiBottoni();
 
     Timer1.Tick = [this] { Timer1_Timer(); };
+}
+
+void FormMenu::MLSFillMenuLanguages() {
+    const std::vector<std::string> lingue = servizi_.Lingue.Elenca();
+    if (lingue.empty()) {
+        servizi_.Dialogs.Message("Non è presente alcun file di linguaggio!", "Trameli", Icon::None,
+                                 Buttons::Ok);
+        return;
+    }
+    int indice = 0;
+    for (const std::string& lingua : lingue) {
+        MenuItem& voce = mnuLanguage.Load(indice);
+        voce.Caption(lingua);
+        voce.Visible(true);
+        voce.Click = [this, indice] { mnuLanguage_Click(indice); };
+        ++indice;
+    }
+    servizi_.Lingue.RiprendiScelta();
+    SpuntaLingua();
+}
+
+/// Marks the current language. Names of files that differ in capitals name different languages.
+void FormMenu::SpuntaLingua() {
+    bool trovata = false;
+    mnuLanguage.ForEach([&](MenuItem& voce) {
+        voce.Checked(!trovata && voce.Caption() == servizi_.Stato.LinguaCorrente);
+        trovata = trovata || voce.Checked();
+    });
 }
 
 void FormMenu::DisponiLivelli() {
@@ -143,6 +175,11 @@ void FormMenu::DisponiBottoni() {
 
 void FormMenu::Form_Load() {
     EssResizer1.Carica();
+    MLSFillMenuLanguages();
+    servizi_.Lingue.TraduciForm(*this);
+    if (!Loaded()) {
+        return;
+    }
     Command1.ForEach([](CommandButton& bottone) { bottone.BackColor(GrigioChiaro); });
     servizi_.Stato.TrameloDisegnato = false;
 }
@@ -239,6 +276,22 @@ void FormMenu::mnuConfigura_Click() {
 
 void FormMenu::mnuAbout_Click() {
     Cedi("FormInfo");
+}
+
+void FormMenu::mnuLanguage_Click(int Index) {
+    Lingue& lingue = servizi_.Lingue;
+    const std::string lingua = mnuLanguage(Index).Caption();
+    lingue.Scegli(lingua);
+    SpuntaLingua();
+    for (Form* form : Forms().Loaded()) {
+        lingue.TraduciForm(*form);
+    }
+    if (!lingue.SalvaScelta()) {
+        servizi_.Dialogs.Message(
+            lingue.TestoLingua("0034", "Impossibile salvare le impostazioni.") + "\n" +
+                servizi_.FileSystem.OnThisMachine(Lingue::FileScelta),
+            "Trameli", Icon::Critical, Buttons::Ok);
+    }
 }
 
 void FormMenu::ImpostaUtente() {

@@ -29,6 +29,7 @@ public:
     MenuItem mnuDocumentazione;
     MenuItem mnuAbout;
     MenuItem mnuLanguages;
+    ControlArray<MenuItem> mnuLanguage;
 
     Frame Frame1;
     Shape Shape1;
@@ -59,7 +60,11 @@ private:
     void Timer1_Timer();
     void mnuConfigura_Click();
     void mnuAbout_Click();
+    void mnuLanguage_Click(int Index);
 
+    /// Lists the languages that there are.
+    void MLSFillMenuLanguages();
+    void SpuntaLingua();
     void DisponiLivelli();
     void DisponiBottoni();
     void EscludiLivelliATempo();

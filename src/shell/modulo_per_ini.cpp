@@ -23,9 +23,9 @@ void ModuloPerIni::ScriviUtente() {
     nonSalvati_[chiave] = stato_;
     if (!avvisato_) {
         avvisato_ = true;  // before the message: while it is shown, a timer can save again
-        dialogs_.Message(
-            "Impossibile salvare le impostazioni.\n" + fileSystem_.OnThisMachine(stato_.FileUtente),
-            "Trameli", Icon::Critical, Buttons::Ok);
+        dialogs_.Message(lingue_.TestoLingua("0034", "Impossibile salvare le impostazioni.") +
+                             "\n" + fileSystem_.OnThisMachine(stato_.FileUtente),
+                         "Trameli", Icon::Critical, Buttons::Ok);
     }
 }
 

@@ -11,7 +11,7 @@ TEST_F(ATempo, BeginsWithFiveSunsAndTheUsualPace) {
     Apri();
     EXPECT_EQ(Soli(), 5);
     EXPECT_EQ(Velocita().Value(), 12);
-    EXPECT_EQ(Pannello(2), "6");
+    EXPECT_EQ(Pannello(2), "Livello 6");
     EXPECT_EQ(Pannello(5), "");
     EXPECT_EQ(Pausa().Caption(), "&Pausa");
     // The tenth of a second laid out on the form, then the time of a step.

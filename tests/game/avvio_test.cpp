@@ -17,23 +17,24 @@ using Nomi = std::vector<std::string>;
 
 TEST(Cartelle, AreMadeWithTheirReadmeWhereOneIsMissing) {
     const Disco disco;
-    EXPECT_TRUE(Partita(disco).Avvia());
+    const Installazione senzaLingue{"", ""};
+    EXPECT_TRUE(Partita(disco, senzaLingue).Avvia());
     EXPECT_EQ(disco.Tutti(),
               (Nomi{"ImpostazioniProgrammiOvalia", "ImpostazioniProgrammiOvalia/leggimi.txt",
                     "ImpostazioniProgrammiOvalia/trameli"}));
-    // Three texts, with a line that holds a blank between them. There are no language files here.
+    // Three texts, with a line that holds a blank between them.
     const std::string senzaTesti = "\r\n \r\n\r\n \r\n\r\n";
     EXPECT_EQ(BytesOf(disco.Leggimi()), senzaTesti);
 
     Write(disco.Leggimi(), "mine");
-    EXPECT_TRUE(Partita(disco).Avvia());
+    EXPECT_TRUE(Partita(disco, senzaLingue).Avvia());
     EXPECT_EQ(BytesOf(disco.Leggimi()), "mine");
     std::filesystem::remove(disco.Leggimi());
-    EXPECT_TRUE(Partita(disco).Avvia());
+    EXPECT_TRUE(Partita(disco, senzaLingue).Avvia());
     EXPECT_FALSE(std::filesystem::exists(disco.Leggimi()));
 
     std::filesystem::remove(disco.Utenti());
-    EXPECT_TRUE(Partita(disco).Avvia());
+    EXPECT_TRUE(Partita(disco, senzaLingue).Avvia());
     EXPECT_TRUE(std::filesystem::is_directory(disco.Utenti()));
     EXPECT_EQ(BytesOf(disco.Leggimi()), senzaTesti);
 }
@@ -44,7 +45,7 @@ TEST(AltraIstanza, IsToldInAMessageAndTouchesNothing) {
     partita.Istanze.Another = true;
     EXPECT_FALSE(partita.Avvia());
     ASSERT_EQ(partita.Messaggi.Messages.size(), 1U);
-    EXPECT_EQ(partita.Messaggi.Messages[0].Text, "");
+    EXPECT_EQ(partita.Messaggi.Messages[0].Text, "Trameli è già aperto.");
     EXPECT_EQ(partita.Messaggi.Messages[0].Title, "Error");
     EXPECT_EQ(partita.Aperte(), Nomi{});
     EXPECT_EQ(disco.Tutti(), Nomi{});

@@ -6,6 +6,10 @@ namespace trameli {
 
 namespace fs = std::filesystem;
 
+fs::path ProgrammaFornito() {
+    return GAME_ASSETS;
+}
+
 FileUtente FileUtente::Con(Riga riga, const std::string& testo) const {
     FileUtente altro = *this;
     altro.Righe.at(riga) = testo;
@@ -35,6 +39,15 @@ void Disco::Scrivi(const std::string& utente, const FileUtente& file) const {
 
 std::string Disco::Leggi(const std::string& utente) const {
     return BytesOf(FileDi(utente));
+}
+
+fs::path Disco::DelProgramma(const std::string& nome) const {
+    return Radice() / "programma" / nome;
+}
+
+void Disco::ScriviNelProgramma(const std::string& nome, const std::string& bytes) const {
+    fs::create_directories(DelProgramma(nome).parent_path());
+    Write(DelProgramma(nome), bytes);
 }
 
 std::vector<std::string> Disco::Tutti() const {

@@ -42,6 +42,9 @@ struct FileUtente {
     std::string Bytes() const;
 };
 
+/// The program folder that the game brings along.
+std::filesystem::path ProgrammaFornito();
+
 /// A disk; the games played on it come and go.
 class Disco {
 public:
@@ -56,6 +59,9 @@ public:
     void Scrivi(const std::string& utente, const FileUtente& file = {}) const;
     /// The bytes of a user file, empty if there is none.
     std::string Leggi(const std::string& utente) const;
+    /// A file that the user has put into the program folder, and its bytes.
+    std::filesystem::path DelProgramma(const std::string& nome) const;
+    void ScriviNelProgramma(const std::string& nome, const std::string& bytes) const;
     /// The names of all files below the root, in alphabetical order.
     std::vector<std::string> Tutti() const;
 

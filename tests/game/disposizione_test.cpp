@@ -49,7 +49,7 @@ TEST_P(Disposizione, ASecondActivationLeavesTheMazeAndWritesThePanelsOrNot) {
     const QImage prima = tavolo.Guarda().Immagine();
     const std::string livello = tavolo.Pannello(2);
     EXPECT_EQ(tavolo.Pannello(1), "_predefinito");
-    EXPECT_EQ(livello, std::to_string(GetParam().Livello + 1));
+    EXPECT_EQ(livello, "Livello " + std::to_string(GetParam().Livello + 1));
     Trova<StatusBar>(tavolo.Form_, "StatusBar1").Panel(2, "altro");
     Partita::ViaERitorno(tavolo.Form_);
     EXPECT_EQ(tavolo.Pannello(2), GetParam().Riscrive ? livello : "altro");

@@ -40,10 +40,15 @@ int Visibili(const Form& form, const char* nome, int quante) {
 Partita::Partita(const Disco& disco, PixelSize schermo, std::uint64_t seme)
     : Partita(disco, schermo, std::make_unique<CasualeConSeme>(seme)) {}
 
-Partita::Partita(const Disco& disco, PixelSize schermo, std::unique_ptr<Casuale> casuale)
+Partita::Partita(const Disco& disco, const Installazione& installazione)
+    : Partita(disco, {1366, 768}, std::make_unique<CasualeConSeme>(1), installazione) {}
+
+Partita::Partita(const Disco& disco, PixelSize schermo, std::unique_ptr<Casuale> casuale,
+                 const Installazione& installazione)
     : Schermo(schermo.Width, schermo.Height),
-      File(disco.Radice()),
-      Gioco({Tempo, Schermo, File, Messaggi, Istanze, Suoni, Documenti, ""}, std::move(casuale)) {}
+      File(disco.Radice(), installazione.Programma),
+      Gioco({Tempo, Schermo, File, Messaggi, Istanze, Suoni, Documenti, installazione.Locale},
+            std::move(casuale)) {}
 
 bool Partita::Avvia() {
     const bool avviato = Gioco.Main();
@@ -94,9 +99,9 @@ std::vector<std::string> Partita::Aperte() {
     return nomi;
 }
 
-void Partita::Scegli(Form& form, const std::string& voce) {
+void Partita::Scegli(Form& form, const std::string& voce, std::optional<int> indice) {
     QMenuBar& barra = *dynamic_cast<FormWindow&>(WindowOf(form)).menuBar();
-    const QString testo = QString::fromStdString(Trova<MenuItem>(form, voce).Caption());
+    const QString testo = QString::fromStdString(Trova<MenuItem>(form, voce, indice).Caption());
     for (QAction* titolo : barra.actions()) {
         if (titolo->text() == testo) {
             CliccaVoce(barra, titolo);

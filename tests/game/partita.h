@@ -68,12 +68,20 @@ constexpr QRgb Pixel(Colour colour) {
 inline constexpr std::array<int, 4> Frecce{Qt::Key_Up, Qt::Key_Right, Qt::Key_Down, Qt::Key_Left};
 inline constexpr std::array<int, 4> Tastierino{Qt::Key_8, Qt::Key_6, Qt::Key_2, Qt::Key_4};
 
+/// The program as it was installed, and the desktop's language.
+struct Installazione {
+    std::filesystem::path Programma = ProgrammaFornito();
+    std::string Locale;
+};
+
 /// One run of the program on a machine with this disk and screen. Everything happens through
 /// windows: clicks, keys, and what is seen.
 class Partita {
 public:
     explicit Partita(const Disco& disco, PixelSize schermo = {1366, 768}, std::uint64_t seme = 1);
-    Partita(const Disco& disco, PixelSize schermo, std::unique_ptr<Casuale> casuale);
+    Partita(const Disco& disco, const Installazione& installazione);
+    Partita(const Disco& disco, PixelSize schermo, std::unique_ptr<Casuale> casuale,
+            const Installazione& installazione = {});
 
     HandClock Tempo;
     FixedScreen Schermo;
@@ -97,7 +105,7 @@ public:
     std::vector<std::string> Aperte();
 
     /// Chooses an entry of the menu bar with the mouse, opening its menu first.
-    static void Scegli(Form& form, const std::string& voce);
+    static void Scegli(Form& form, const std::string& voce, std::optional<int> indice = {});
     /// Another window comes before this one, and goes again.
     static void ViaERitorno(Form& form);
     /// Closes the window as the desktop does.

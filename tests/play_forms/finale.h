@@ -94,7 +94,7 @@ protected:
 private:
     FileSystemFinto file_;
     NotedDialogs dialoghi_;
-    Lingue lingue_;
+    Lingue lingue_{Stato, file_, dialoghi_, ""};
     ModuloPerIni ini_{Stato, file_, dialoghi_, lingue_};
     Suoni suoni_{Stato, Uditi};
     NotedDocuments documenti_;

@@ -53,7 +53,7 @@ protected:
     Stato Variabili;
     FileSystemFinto File;
     DialogsFinto Finestre;
-    Lingue Testi;
+    Lingue Testi{Variabili, File, Finestre, ""};
     ModuloPerIni Modulo{Variabili, File, Finestre, Testi};
     const std::string DiAnna = Testo(Impostazioni());
 };

@@ -58,6 +58,7 @@ PictureBox::PictureBox(PictureBox& model, int index)
     BackColor(model.BackColor());
     DrawWidth(model.DrawWidth());
     ToolTipText(model.ToolTipText());
+    AccessibleName(model.AccessibleName());
     MouseIcon(model.MouseIcon());
     Picture(model.picture_);
 }

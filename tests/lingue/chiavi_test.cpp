@@ -1,0 +1,193 @@
+// The languages that the game brings along hold what its windows and its code ask for, and nothing
+// else.
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+#include <fstream>
+#include <map>
+#include <regex>
+#include <set>
+
+#include "lingue/testi_forniti.h"
+#include "platform/menu.h"
+#include "platform/qt/form_window.h"
+#include "shell/file_lingua.h"
+
+namespace trameli {
+namespace {
+
+namespace fs = std::filesystem;
+
+using Chiavi = std::set<std::string>;
+
+/// The keys of a language file with their sections. Its lines are sections, entries or empty.
+Chiavi ChiaviDi(const fs::path& file) {
+    static const std::regex sezione(R"(\[(\w+)\])");
+    static const std::regex voce(R"re(([\w().]+)="[^"]*[^" ][^"]*")re");
+    Chiavi chiavi;
+    std::string qui;
+    std::ifstream testo(file);
+    for (std::string riga; std::getline(testo, riga);) {
+        std::smatch parti;
+        if (std::regex_match(riga, parti, sezione)) {
+            qui = parti[1];
+        } else if (std::regex_match(riga, parti, voce)) {
+            EXPECT_TRUE(chiavi.insert(qui + " " + parti[1].str()).second) << riga;
+        } else {
+            EXPECT_EQ(riga, "") << file;
+        }
+    }
+    return chiavi;
+}
+
+bool HaLettere(const PropertyValue& valore) {
+    const auto* testo = std::get_if<std::string>(&valore);
+    return testo && std::regex_search(*testo, std::regex("[A-Za-z]"));
+}
+
+/// What the windows ask for, where they are made with a text. Numbers and dashes are the same
+/// everywhere.
+void AggiungiControlli(Chiavi& chiavi) {
+    const TemporaryFolder senzaLingue;
+    const Disco disco;
+    Partita partita(disco, Installazione{senzaLingue.Path(), ""});
+    for (const auto& [nome, livello] : Finestre) {
+        if (!partita.Gioco.Forms().Knows(nome)) {
+            continue;
+        }
+        partita.Gioco.Stato().Livello = livello;
+        for (const Control* controllo : partita.Gioco.Forms().Load(nome).Controls()) {
+            if (controllo->Name() == "mnuLanguage") {
+                continue;  // it names a file
+            }
+            std::string chiave = std::string(nome) + " " + controllo->Name();
+            if (controllo->Index()) {
+                chiave += "(" + std::to_string(*controllo->Index()) + ")";
+            }
+            std::vector<std::string> proprieta{"Caption", "ToolTipText", "AccessibleName"};
+            PropertyValue valore;
+            if (controllo->Get("Tabs", valore) == PropertyCode::Done) {
+                for (int i = 0; i < std::get<double>(valore); ++i) {
+                    proprieta.push_back("TabCaption(" + std::to_string(i) + ")");
+                }
+            }
+            for (const std::string& quale : proprieta) {
+                if (controllo->Get(quale, valore) == PropertyCode::Done && HaLettere(valore)) {
+                    chiavi.insert(chiave + "." + quale);
+                }
+            }
+        }
+    }
+}
+
+/// The numbers that stand in the code: nothing else there is a text of four digits.
+void AggiungiNumeri(Chiavi& chiavi) {
+    static const std::regex numero(R"re("(\d{4})")re");
+    for (const auto& voce : fs::recursive_directory_iterator(GAME_SOURCES)) {
+        const std::string testo = voce.is_regular_file() ? BytesOf(voce.path()) : std::string();
+        for (std::sregex_iterator qui(testo.begin(), testo.end(), numero), fine; qui != fine;
+             ++qui) {
+            chiavi.insert("Strings " + (*qui)[1].str());
+        }
+    }
+}
+
+TEST(Lingue, HoldWhatIsAskedForAndNothingElse) {
+    Chiavi chieste{"Language Locale"};
+    AggiungiControlli(chieste);
+    AggiungiNumeri(chieste);
+    ASSERT_GT(chieste.size(), 90U);
+    for (const std::string& lingua : LingueFornite()) {
+        const Chiavi date = ChiaviDi(ProgrammaFornito() / "lngtrameli" / (lingua + ".lng"));
+        for (const std::string& chiave : chieste) {
+            EXPECT_TRUE(date.contains(chiave)) << lingua << " lacks " << chiave;
+        }
+        for (const std::string& chiave : date) {
+            if (chiave.starts_with("FormConfigura") || chiave.starts_with("FormInfo") ||
+                chiave > "Strings 9" || chiave == "Strings 0030" || chiave == "Strings 0031") {
+                continue;  // not there yet
+            }
+            EXPECT_TRUE(chieste.contains(chiave)) << lingua << " need not have " << chiave;
+        }
+    }
+}
+
+/// Texts that take the place of a caption while a window is open.
+struct AltroTesto {
+    const char* Finestra;
+    const char* Voce;
+    const char* Numero;
+};
+constexpr std::array<AltroTesto, 4> AltriTesti{{{"frmTrm0", "mnuLineeMuri", "0017"},
+                                                {"frmTrm0", "mnuLineeMuri", "0018"},
+                                                {"frmTrm1", "mnuPausa", "0035"},
+                                                {"frmTrm1", "mnuPausa", "0036"}}};
+
+/// Entries and controls that answer to the same letter stand in each other's way.
+void SenzaLettereDoppie(const QStringList& testi, const std::string& dove) {
+    std::map<QString, QString> lettere;
+    for (const QString& testo : testi) {
+        const QString lettera = QKeySequence::mnemonic(testo).toString();
+        if (!lettera.isEmpty()) {
+            const auto [altro, sola] = lettere.try_emplace(lettera, testo);
+            EXPECT_TRUE(sola) << dove << ": " << testo.toStdString() << " and "
+                              << altro->second.toStdString();
+        }
+    }
+}
+
+QStringList TestiDi(const QWidget& menu) {
+    QStringList testi;
+    for (const QAction* voce : menu.actions()) {
+        testi << voce->text();
+    }
+    return testi;
+}
+
+void ControllaLettere(const Form& form, const std::string& lingua) {
+    const QMenuBar& barra = *dynamic_cast<FormWindow&>(WindowOf(form)).menuBar();
+    QStringList testi = TestiDi(barra);
+    for (const Control* controllo : form.Controls()) {
+        PropertyValue valore;
+        if (!dynamic_cast<const MenuItem*>(controllo) &&
+            controllo->Get("Caption", valore) == PropertyCode::Done) {
+            testi << QString::fromStdString(std::get<std::string>(valore));
+        }
+    }
+    SenzaLettereDoppie(testi, lingua + " " + form.Name());
+    for (const QAction* voce : barra.actions()) {
+        if (voce->menu()) {
+            SenzaLettereDoppie(TestiDi(*voce->menu()),
+                               lingua + " " + form.Name() + " " + voce->text().toStdString());
+        }
+    }
+}
+
+TEST(Lingue, GiveNoLetterTwice) {
+    for (const std::string& lingua : LingueFornite()) {
+        if (lingua == "italiano") {
+            continue;  // its letters are given
+        }
+        const Disco disco;
+        ScegliLingua(disco, lingua);
+        Partita partita(disco);
+        for (const auto& [nome, livello] : Finestre) {
+            if (partita.Gioco.Forms().Knows(nome)) {
+                partita.Gioco.Stato().Livello = livello;
+                Form& form = partita.Gioco.Forms().Load(nome);
+                ControllaLettere(form, lingua);
+                for (const auto& [finestra, voce, numero] : AltriTesti) {
+                    if (form.Name() == finestra) {
+                        Trova<MenuItem>(form, voce).Caption(TestoFornito(lingua, numero));
+                        ControllaLettere(form, lingua);
+                    }
+                }
+            }
+        }
+    }
+}
+
+}  // namespace
+}  // namespace trameli
