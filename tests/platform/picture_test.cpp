@@ -9,6 +9,7 @@
 #include "platform/label.h"
 #include "platform/line.h"
 #include "platform/option_button.h"
+#include "platform/picture_box.h"
 #include "platform/shape.h"
 #include "platform/status_bar.h"
 #include "platform/tab_strip.h"
@@ -187,6 +188,20 @@ TEST_F(PictureTest, CircleLiesInTheMiddleOfItsBounds) {
     EXPECT_NEAR(static_cast<double>(Count(Look(circle), Odd)), 3.14159 * 48 * 48, 250);
     EXPECT_EQ(Look(circle).pixel(100, 50), PixelOf(Odd));
     EXPECT_EQ(Look(circle).pixel(100, 1), PixelOf(Black));
+}
+
+TEST_F(PictureTest, EveryPictureAndPointerIsItsOwn) {
+    Bring();
+    PictureBox sun(TheForm, "Sun", {0, 0, 1500, 1500});
+    PictureBox cup(TheForm, "Cup", {1500, 0, 1500, 1500});
+    const auto show = [](PictureBox& box, const char* name) {
+        box.Picture({name});
+        box.MouseIcon(PointerImage{{name}, 0, 0});
+        return WidgetOf(box).cursor().pixmap().toImage();
+    };
+    EXPECT_NE(show(sun, "sole.svg"), show(cup, "coppa.svg"));
+    EXPECT_NE(Look(sun), Look(cup));
+    EXPECT_NE(Look(sun).pixel(48, 48), Look(sun).pixel(95, 95)) << "80 pixels in each direction";
 }
 
 TEST_F(PictureTest, ShapesAndLinesLieUnderTheControls) {
