@@ -93,7 +93,7 @@ FormMenu::FormMenu(trameli::Forms& forms, Servizi& servizi)
 
     mnuConfigura.Enabled(forms.Knows("FormConfigura"));
     mnuConfigura.Click = [this] { mnuConfigura_Click(); };
-    mnuDocumentazione.Enabled(false);
+    mnuDocumentazione.Click = [this] { mnuDocumentazione_Click(); };
     mnuAbout.Enabled(forms.Knows("FormInfo"));
     mnuAbout.Click = [this] { mnuAbout_Click(); };
     // Without language files it stands for the texts that the windows are made with.
@@ -274,6 +274,10 @@ void FormMenu::mnuConfigura_Click() {
     Cedi("FormConfigura");
 }
 
+void FormMenu::mnuDocumentazione_Click() {
+    servizi_.ModuloNavigate.ApriDocumento("P:\\trameli.pdf");
+}
+
 void FormMenu::mnuAbout_Click() {
     Cedi("FormInfo");
 }
@@ -339,8 +343,9 @@ void FormMenu::ElencaUtenti() {
 /// Chooses the current user in the list, which saves the settings and reads them back. Both the
 /// name and the list can turn to capitals on the way.
 void FormMenu::ScegliUtente() {
+    const std::string utente = Capitals(servizi_.Stato.NomeUtente);
     for (int i = 0; Loaded() && i < Combo1.ListCount(); ++i) {
-        if (Capitals(Combo1.List(i)) == Capitals(servizi_.Stato.NomeUtente)) {
+        if (Capitals(Combo1.List(i)) == utente) {
             Combo1.ListIndex(i);
         }
     }

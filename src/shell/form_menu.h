@@ -59,6 +59,7 @@ private:
     void Combo1_Click();
     void Timer1_Timer();
     void mnuConfigura_Click();
+    void mnuDocumentazione_Click();
     void mnuAbout_Click();
     void mnuLanguage_Click(int Index);
 

@@ -48,33 +48,29 @@ Answer Closed(Buttons buttons) {
                                        : Answer::Cancel;
 }
 
-/// Runs a dialog until it is closed, by whomever. Null if it is gone then: it belongs to the
-/// window in front, which a timer can take away meanwhile.
-template <typename Dialog>
-QPointer<Dialog> Run(Dialog* dialog) {
-    const QPointer<Dialog> still = dialog;
+/// Runs a dialog until it is closed, by whomever. It belongs to the window in front and can go with
+/// it meanwhile.
+void Run(QDialog& dialog) {
     // A dialog takes the keyboard by itself. Where nobody manages windows, nobody else gives it
     // back.
     const QPointer<QWidget> before = QApplication::activeWindow();
-    dialog->exec();
-    if (still) {
-        still->deleteLater();
-    }
+    dialog.exec();
     if (before && before->isVisible()) {
         before->activateWindow();
     }
-    return still;
 }
 
 }  // namespace
 
 Answer DesktopDialogs::Message(const std::string& text, const std::string& title, Icon icon,
                                Buttons buttons) {
-    auto* const box = new QMessageBox(ToQt(icon), ToQt(title), ToQt(text), ToQt(buttons),
-                                      QApplication::activeWindow());
+    const QPointer box = new QMessageBox(ToQt(icon), ToQt(title), ToQt(text), ToQt(buttons),
+                                         QApplication::activeWindow());
     box->setTextFormat(Qt::PlainText);
-    const auto closed = Run(box);
-    switch (closed ? closed->result() : 0) {
+    Run(*box);
+    const int pressed = box ? box->result() : QMessageBox::NoButton;
+    delete box;
+    switch (pressed) {
         case QMessageBox::Ok:
             return Answer::Ok;
         case QMessageBox::Cancel:
@@ -89,14 +85,16 @@ Answer DesktopDialogs::Message(const std::string& text, const std::string& title
 }
 
 std::optional<Colour> DesktopDialogs::ChooseColour() {
-    auto* const dialog = new QColorDialog(Qt::black, QApplication::activeWindow());
+    const QPointer dialog = new QColorDialog(Qt::black, QApplication::activeWindow());
     dialog->setOption(QColorDialog::DontUseNativeDialog);
-    const auto closed = Run(dialog);
-    if (!closed || closed->result() != QDialog::Accepted) {
-        return std::nullopt;
+    Run(*dialog);
+    std::optional<Colour> chosen;
+    if (dialog && dialog->result() == QDialog::Accepted) {
+        const QColor colour = dialog->selectedColor();
+        chosen = Rgb(colour.red(), colour.green(), colour.blue());
     }
-    const QColor colour = closed->selectedColor();
-    return Rgb(colour.red(), colour.green(), colour.blue());
+    delete dialog;
+    return chosen;
 }
 
 void DesktopDialogs::Language(const std::string& locale) {

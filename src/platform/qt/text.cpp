@@ -9,7 +9,7 @@ namespace {
 char32_t CapitalOf(char32_t letter) {
     const char32_t capital = QChar::toUpper(letter);
     const auto folded = [](char32_t one) { return QString::fromUcs4(&one, 1).toCaseFolded(); };
-    return capital != letter && folded(capital) == folded(letter) ? capital : letter;
+    return letter < 0x80 || folded(capital) == folded(letter) ? capital : letter;
 }
 
 }  // namespace
