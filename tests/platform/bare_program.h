@@ -31,34 +31,57 @@ protected:
     }
 };
 
-/// A program with the forms A and B on a screen of 800 x 600 pixels. A is loaded, not shown.
-class BareProgram : public testing::Test {
+using Log = std::vector<std::string>;
+
+/// A program of two forms, A and B, on a clock moved by hand.
+template <typename TheirForm>
+class ProgramOf : public testing::Test {
 protected:
-    BareForm& Get(const std::string& name) { return dynamic_cast<BareForm&>(*Program.Find(name)); }
-    void Bring(const std::string& name = "A") {
+    using Maker = std::function<std::unique_ptr<TheirForm>(Forms&, const std::string&)>;
+
+    /// On `screen`, or on one of so many pixels without a desktop.
+    ProgramOf(Maker maker, int width, int height, Screen* screen = nullptr)
+        : Display{width, height}, Program(Time, screen ? *screen : Display), maker_(maker) {
+        Introduce(Program);
+    }
+
+    /// Makes A and B known to a program.
+    void Introduce(Forms& program) {
+        for (const char* name : {"A", "B"}) {
+            program.Register(name, [this, name](Forms& forms) { return maker_(forms, name); });
+        }
+    }
+    TheirForm& Get(const std::string& name) {
+        return dynamic_cast<TheirForm&>(*Program.Find(name));
+    }
+    /// Shows the form and waits until nothing more happens.
+    TheirForm& Bring(const std::string& name = "A") {
         Program.Show(name);
         Pump();
+        return Get(name);
     }
     /// A routine that notes `what`.
     std::function<void()> Noting(const std::string& what) {
         return [this, what] { Seen.push_back(what); };
     }
+    /// How often `what` was noted.
     long Times(const std::string& what) const { return std::count(Seen.begin(), Seen.end(), what); }
 
     HandClock Time;
-    FixedScreen Display{800, 600};
-    Forms Program{Time, Display};
-    std::vector<std::string> Seen;
-    BareForm& TheForm = Start();
+    FixedScreen Display;
+    Log Seen;
+    Forms Program;
 
 private:
-    BareForm& Start() {
-        for (const char* name : {"A", "B"}) {
-            Program.Register(
-                name, [name](Forms& forms) { return std::make_unique<BareForm>(forms, name); });
-        }
-        return dynamic_cast<BareForm&>(Program.Load("A"));
-    }
+    Maker maker_;
+};
+
+/// With empty forms. A is loaded, not shown.
+class BareProgram : public ProgramOf<BareForm> {
+protected:
+    BareProgram() : ProgramOf(std::make_unique<BareForm, Forms&, const std::string&>, 800, 600) {}
+
+    BareForm& TheForm = dynamic_cast<BareForm&>(Program.Load("A"));
 };
 
 inline QRgb PixelOf(Colour colour) {

@@ -1,6 +1,4 @@
 // The life of a form: loading, size, activation, and the end of the program.
-#include <QCoreApplication>
-#include <QKeyEvent>
 #include <QTimer>
 #include <QWindow>
 
@@ -48,16 +46,6 @@ TEST_F(FormTest, IsLoadedThenSizedThenActivatedOnce) {
     EXPECT_EQ(WindowOf(Get("A")).size(), QSize(1024, 768));
     EXPECT_EQ(Get("A").Width(), 1024 * 15);
     EXPECT_EQ(Get("A").Height(), height);
-}
-
-TEST_F(FormTest, ThatIsOnlyLoadedIsNotOnTheScreen) {
-    Form& form = Program.Load("A");
-    Pump();
-    EXPECT_EQ(Seen, Log{"A Load"});
-    EXPECT_FALSE(WindowOf(form).isVisible());
-    Program.Show("Nobody");
-    Bring("A");
-    EXPECT_EQ(&Get("A"), &form);
 }
 
 TEST_F(FormTest, IsActivatedAgainWhenItComesBackToTheFront) {
@@ -111,10 +99,10 @@ TEST_F(FormTest, IsPresentedAfterItsLoadWhateverHappensMeanwhile) {
     }
 }
 
-TEST_F(FormTest, ComesUpByItselfIfShownInALoadThatWasNoShow) {
+TEST_F(FormTest, ThatIsOnlyLoadedComesUpIfSomebodyShowsItMeanwhile) {
+    EXPECT_FALSE(WindowOf(Program.Load("A")).isVisible());
     Scripts["B"].Load = [](ScriptedForm& form) { form.Forms().Show("B"); };
-    ScriptedForm& form = dynamic_cast<ScriptedForm&>(Program.Load("B"));
-    EXPECT_TRUE(WindowOf(form).isVisible());
+    EXPECT_TRUE(WindowOf(Program.Load("B")).isVisible());
 }
 
 TEST_F(FormTest, ControlsAreWalkedOverThoughTheyGo) {
@@ -181,64 +169,27 @@ TEST_F(FormTest, LastOnTheScreenEndsTheProgramWhenItGoes) {
     EXPECT_FALSE(Program.Find("B")->Loaded());
 }
 
-TEST_F(FormTest, RunWithoutAFormReturns) {
-    Program.Run();
-    EXPECT_TRUE(Program.Ended());
-}
-
 TEST_F(FormTest, EndStartsNoFurtherRoutine) {
-    struct Case {
-        const char* Where;
-        std::function<void(ScriptedForm&)> Reach;
-    };
-    const auto end = [](ScriptedForm& form) { form.Forms().End(); };
-    const Case cases[] = {
-        {"click",
-         [&](ScriptedForm& form) {
-             form.First.Click = [&] { end(form); };
-             ClickOn(form.First);
-         }},
-        {"key",
-         [&](ScriptedForm& form) {
-             Scripts["A"].KeyUp = [&](ScriptedForm& self, int) { end(self); };
-             Press(form, Qt::Key_Space);
-             QKeyEvent release(QEvent::KeyRelease, Qt::Key_Space, Qt::NoModifier);
-             QCoreApplication::sendEvent(WindowOf(form).windowHandle(), &release);
-             EXPECT_EQ(Seen, Log{"A KeyUp 32"}) << "the button must not see the key any more";
-         }},
-    };
-    for (const Case& one : cases) {
-        SCOPED_TRACE(one.Where);
-        Forms program{Time, Display};
-        ScriptedForm& form = BringIn(program);
-        form.Ticker.Enabled(true);
-        one.Reach(form);
-        EXPECT_TRUE(program.Ended());
-        EXPECT_FALSE(form.Loaded());
-        Seen.clear();
+    ScriptedForm& form = Bring("A");
+    form.First.SetFocus();
+    form.Ticker.Enabled(true);
+    Seen.clear();
+    Scripts["A"].KeyUp = [](ScriptedForm& self, int) { self.Forms().End(); };
+    Press(form, Qt::Key_Space);
+    Release(form, Qt::Key_Space);
+    EXPECT_EQ(Seen, Log{"A KeyUp 32"}) << "the button must not see the key any more";
+    EXPECT_TRUE(Program.Ended());
+    EXPECT_FALSE(form.Loaded());
 
-        ClickOn(form.Second);
-        Tap(form, Qt::Key_Space);
-        Tap(form, Qt::Key_E, Qt::ControlModifier);
-        MoveOver(form.Board);
-        WindowOf(form).resize(500, 400);
-        WindowOf(form).close();
-        program.Show("B");
-        program.Unload(form);
-        Time.Advance(5);
-        EXPECT_EQ(Seen, Log{});
-        program.Run();  // returns at once
-    }
-    Pump();
-    EXPECT_EQ(ScriptedForm::Alive, 0);
-}
-
-TEST_F(FormTest, EndInLoadKeepsTheFormFromTheScreen) {
-    Scripts["A"].Load = [](ScriptedForm& form) { form.Forms().End(); };
-    Program.Show("A");
-    Pump();
-    EXPECT_EQ(Seen, Log{"A Load"});
-    EXPECT_FALSE(WindowOf(Get("A")).isVisible());
+    ClickOn(form.Second);
+    Tap(form, Qt::Key_E, Qt::ControlModifier);
+    WindowOf(form).resize(500, 400);
+    WindowOf(form).close();
+    Program.Show("B");
+    Program.Unload(form);
+    Time.Advance(5);
+    Program.Run();  // returns at once
+    EXPECT_EQ(Seen, Log{"A KeyUp 32"});
 }
 
 TEST_F(FormTest, GoesWithItsProgramWithoutAnyRoutine) {

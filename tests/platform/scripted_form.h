@@ -1,25 +1,16 @@
 // A form that does what a test tells it, and notes everything that happens to it.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <functional>
 #include <map>
-#include <string>
-#include <vector>
 
+#include "platform/bare_program.h"
 #include "platform/command_button.h"
-#include "platform/forms.h"
 #include "platform/menu.h"
 #include "platform/option_button.h"
 #include "platform/picture_box.h"
 #include "platform/timer.h"
-#include "support/hand_clock.h"
-#include "support/stage.h"
 
 namespace trameli {
-
-using Log = std::vector<std::string>;
 
 /// A form with a menu, two buttons, a picture box and a timer.
 class ScriptedForm : public Form {
@@ -109,43 +100,26 @@ private:
     Log& log_;
 };
 
-/// A program of two scripted forms, A and B, on a clock moved by hand.
-class ScriptedProgram : public testing::Test {
+/// With forms that do what `Scripts` says.
+class ScriptedProgram : public ProgramOf<ScriptedForm> {
 protected:
-    ScriptedProgram() : ScriptedProgram(nullptr) {}
-    /// On another screen than the one without a desktop.
-    explicit ScriptedProgram(Screen* screen) : Program(Time, screen ? *screen : Display) {
+    explicit ScriptedProgram(Screen* screen = nullptr)
+        : ProgramOf(
+              [this](Forms& forms, const std::string& name) {
+                  return std::make_unique<ScriptedForm>(forms, name, Scripts[name], Seen);
+              },
+              1024, 768, screen) {
         ScriptedForm::Alive = 0;
-        Introduce(Program);
     }
 
-    /// Makes A and B known to a program.
-    void Introduce(Forms& program) {
-        for (const char* name : {"A", "B"}) {
-            program.Register(name, [this, name](Forms& forms) {
-                return std::make_unique<ScriptedForm>(forms, name, Scripts[name], Seen);
-            });
-        }
-    }
-
-    ScriptedForm& Get(const std::string& name) {
-        return dynamic_cast<ScriptedForm&>(*Program.Find(name));
-    }
-    /// Shows the form, waits until nothing more happens, and forgets what was noted on the way.
+    /// Shows the form, and forgets what was noted on the way.
     ScriptedForm& Bring(const std::string& name) {
-        Program.Show(name);
-        Pump();
+        ScriptedForm& form = ProgramOf::Bring(name);
         Seen.clear();
-        return Get(name);
+        return form;
     }
-    /// How often `what` was noted.
-    long Times(const std::string& what) const { return std::count(Seen.begin(), Seen.end(), what); }
 
-    HandClock Time;
-    FixedScreen Display{1024, 768};
     std::map<std::string, ScriptedForm::Script> Scripts;
-    Log Seen;
-    Forms Program;
 };
 
 }  // namespace trameli
