@@ -112,6 +112,10 @@ void FormWindow::ComeUp() {
     Arrange();
     winId();  // makes the window, whose keys are filtered
     windowHandle()->installEventFilter(this);
+    if (const QWidget* below = QApplication::activeWindow(); below && isModal()) {
+        // A click on the window that it blocks must not hide it.
+        windowHandle()->setTransientParent(below->windowHandle());
+    }
     settled_ = !maximised_ && !CoversScreen();
     if (!settled_) {
         // Painted once, with what the activation draws: nothing flashes up before it, and the
