@@ -46,12 +46,14 @@ bool ControlEvents::eventFilter(QObject* object, QEvent* event) {
         case QEvent::FocusOut:
             pressedHere_.Forget();
             return false;
-        case QEvent::KeyPress:
+        case QEvent::KeyPress: {
             // What a control on this one has no use for comes here too.
-            if (static_cast<QWidget*>(object)->hasFocus()) {
+            const auto* const widget = static_cast<QWidget*>(object);
+            if (widget->window()->focusWidget() == widget) {
                 pressedHere_.Press(*static_cast<QKeyEvent*>(event));
             }
             return false;
+        }
         case QEvent::KeyRelease: {
             const auto* key = static_cast<QKeyEvent*>(event);
             if (pressedHere_.Release(*key)) {
