@@ -1,6 +1,8 @@
 #include "platform/option_button.h"
 
+#include <QApplication>
 #include <QPainter>
+#include <QPointer>
 #include <QRadioButton>
 #include <algorithm>
 
@@ -19,6 +21,23 @@ public:
 
 protected:
     bool hitButton(const QPoint& position) const override { return rect().contains(position); }
+
+    /// An arrow chooses the next option and gives it the keyboard afterwards. Where the routine of
+    /// the choice has given the keyboard to somebody else, that holds.
+    void keyPressEvent(QKeyEvent* event) override {
+        QPointer<QWidget> first;
+        const auto watch = connect(qApp, &QApplication::focusChanged, this,
+                                   [&first](const QWidget*, QWidget* now) {
+                                       if (!first) {
+                                           first = now;
+                                       }
+                                   });
+        PressedByRelease::keyPressEvent(event);
+        disconnect(watch);
+        if (first && !first->hasFocus()) {
+            first->setFocus();
+        }
+    }
 
     void paintEvent(QPaintEvent*) override {
         PaintChoice(*this, [this](QPainter& painter, const QRectF& circle, const QColor& dot) {
