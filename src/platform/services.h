@@ -24,6 +24,8 @@ struct Services {
     trameli::Documents& Documents;
     /// What the desktop says of its language, for instance "de_DE.UTF-8"; may be empty.
     std::string Locale;
+    /// What the desktop writes between a number's whole part and the rest.
+    std::string DecimalSeparator = ".";
 };
 
 }  // namespace trameli

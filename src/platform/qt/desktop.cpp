@@ -3,10 +3,12 @@
 #include <fontconfig/fontconfig.h>
 
 #include <QApplication>
+#include <QLocale>
 #include <QTimer>
 #include <chrono>
 #include <thread>
 
+#include "platform/qt/convert.h"
 #include "platform/qt/desktop_clock.h"
 #include "platform/qt/desktop_dialogs.h"
 #include "platform/qt/desktop_documents.h"
@@ -61,8 +63,9 @@ Desktop::Desktop(int& argc, char** argv) {
 Desktop::~Desktop() = default;
 
 Services Desktop::Services() const {
-    return {native_->Clock, native_->Screen, native_->Files,     native_->Dialogs,
-            native_->Lock,  native_->Sounds, native_->Documents, LocaleOfMessages()};
+    return {native_->Clock,     native_->Screen,    native_->Files,
+            native_->Dialogs,   native_->Lock,      native_->Sounds,
+            native_->Documents, LocaleOfMessages(), FromQt(QLocale::system().decimalPoint())};
 }
 
 }  // namespace trameli
