@@ -10,6 +10,8 @@
 #include "play/frm_trm1.h"
 #include "play/frm_trm3.h"
 #include "shell/form_avvio.h"
+#include "shell/form_configura.h"
+#include "shell/form_info.h"
 #include "shell/form_menu.h"
 
 namespace trameli {
@@ -21,8 +23,8 @@ Program::Program(const Services& services, std::unique_ptr<Casuale> casuale)
       moduloPerIni_(stato_, services_.FileSystem, services_.Dialogs, lingue_),
       suoni_(stato_, services_.Sounds),
       moduloNavigate_(stato_, services_.FileSystem, services_.Documents),
-      servizi_{stato_, lingue_,         moduloPerIni_,    services_.FileSystem,
-               suoni_, moduloNavigate_, services_.Dialogs},
+      servizi_{stato_, lingue_,         moduloPerIni_,     services_.FileSystem,
+               suoni_, moduloNavigate_, services_.Dialogs, services_.DecimalSeparator},
       forms_(services_.Clock, services_.Screen) {
     RegistraForm();
 }
@@ -56,6 +58,12 @@ void Program::RegistraForm() {
     });
     forms_.Register("FormMenu", [this](trameli::Forms& forms) {
         return std::make_unique<FormMenu>(forms, servizi_);
+    });
+    forms_.Register("FormConfigura", [this](trameli::Forms& forms) {
+        return std::make_unique<FormConfigura>(forms, servizi_);
+    });
+    forms_.Register("FormInfo", [this](trameli::Forms& forms) {
+        return std::make_unique<FormInfo>(forms, servizi_);
     });
     forms_.Register("FormArchivio",
                     [](trameli::Forms& forms) { return std::make_unique<FormArchivio>(forms); });

@@ -10,6 +10,11 @@ inline PointerImage FrecciaGrande() {
     return {{"puntatori/freccia_grande.svg"}, 3, 1};
 }
 
+/// The large blue arrow over the picture that opens a document.
+inline PointerImage FrecciaBlu() {
+    return {{"puntatori/freccia_blu.svg"}, 3, 1};
+}
+
 /// The program's icon; it has no tip and points with its middle.
 inline PointerImage PuntatoreIcona() {
     return {{"icona/trameli.svg"}, 16, 16};

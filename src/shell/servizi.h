@@ -1,6 +1,8 @@
 // What every window of the game is given when it is made.
 #pragma once
 
+#include <string>
+
 #include "platform/dialogs.h"
 #include "platform/file_system.h"
 #include "shell/lingue.h"
@@ -20,6 +22,7 @@ struct Servizi {
     trameli::Suoni& Suoni;
     trameli::ModuloNavigate& ModuloNavigate;
     trameli::Dialogs& Dialogs;
+    std::string SeparatoreDecimale;  ///< of numbers, as the desktop writes them
 };
 
 }  // namespace trameli
