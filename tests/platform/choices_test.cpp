@@ -73,7 +73,11 @@ TEST_F(ChoicesTest, KeysChangeWhatHasTheKeyboard) {
         InteractiveControl& Control;
         std::vector<Stroke> Strokes;
     } rows[] = {
-        {check, {{Qt::Key_Space, {}, "1 "}, {Qt::Key_Return, {}, "0 "}, {Qt::Key_Right, {}, ""}}},
+        {check,
+         {{Qt::Key_Space, {}, "1 "},
+          {Qt::Key_Return, {}, "0 "},
+          {Qt::Key_Right, {}, ""},
+          {Qt::Key_Space, {}, "1 "}}},
         {tabs,
          {{Qt::Key_Left, {}, ""},
           {Qt::Key_Right, {}, "2 "},
@@ -81,7 +85,7 @@ TEST_F(ChoicesTest, KeysChangeWhatHasTheKeyboard) {
           {Qt::Key_Right, {}, ""},
           {Qt::Key_Home, {}, "1 "},
           {Qt::Key_W, Qt::AltModifier, "2 "},
-          {Qt::Key_C, Qt::AltModifier, "1 "}}},  // the box
+          {Qt::Key_C, Qt::AltModifier, "0 "}}},  // the box
         {bar,
          {{Qt::Key_Left, {}, ""},
           {Qt::Key_Right, {}, "3 "},
@@ -115,7 +119,7 @@ TEST_F(ChoicesTest, KeysChangeWhatHasTheKeyboard) {
         combo.ListIndex(value);
         list.ListIndex(value);
     }
-    EXPECT_EQ(Told(), "3 1 -1 -1 0 0 ");
+    EXPECT_EQ(Told(), "1 3 1 -1 -1 0 0 ");
 }
 
 TEST_F(ChoicesTest, MouseChoosesWhatItHits) {

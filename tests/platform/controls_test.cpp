@@ -100,24 +100,16 @@ TEST_F(ControlsTest, FocusGoesOnlyWhereItCan) {
     Label label(TheForm, "Label", {300, 1500, 900, 600}, "text");
     button.GotFocus = Noting("Button");
     Bring();
-    struct Row {
-        const char* What;
-        std::function<void(bool)> Set;
-    };
-    const Row rows[] = {
-        {"invisible", [&](bool on) { button.Visible(on); }},
-        {"disabled", [&](bool on) { button.Enabled(on); }},
-        {"on an invisible frame", [&](bool on) { frame.Visible(on); }},
-        {"on a disabled frame", [&](bool on) { frame.Enabled(on); }},
-    };
-    for (const Row& row : rows) {
+    const std::pair<InteractiveControl&, const char*> rows[] = {
+        {button, "Visible"}, {button, "Enabled"}, {frame, "Visible"}, {frame, "Enabled"}};
+    for (const auto& [control, property] : rows) {
         home.SetFocus();
-        row.Set(false);
+        control.Set(property, false);
         Seen.clear();
         button.SetFocus();
-        row.Set(true);
+        control.Set(property, true);
         Pump();
-        EXPECT_TRUE(HasFocus(home)) << row.What;
+        EXPECT_TRUE(HasFocus(home)) << control.Name() << property;
         EXPECT_TRUE(Seen.empty());
         button.SetFocus();
         button.SetFocus();

@@ -1,7 +1,7 @@
 #include "platform/list_box.h"
 
-#include <QKeyEvent>
 #include <QListView>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QStandardItemModel>
 
@@ -28,8 +28,6 @@ public:
     /// The player chose the entry shown as chosen now.
     std::function<void()> ChosenByHand;
 
-    /// Coming with the keyboard alone makes an entry the current one; only the selected one is
-    /// chosen.
     int Chosen() const {
         const QModelIndexList selected = selectedIndexes();
         return selected.isEmpty() ? -1 : selected.front().row();
@@ -57,16 +55,6 @@ protected:
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
         PaintFocusRing(*this);
         return true;
-    }
-
-    void keyPressEvent(QKeyEvent* event) override {
-        const bool walks = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
-        if (walks && Chosen() < 0 && currentIndex().isValid()) {
-            // The first stroke chooses where the keyboard is, not the entry after it.
-            selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
-            return;
-        }
-        QListView::keyPressEvent(event);
     }
 
     /// Nothing takes the choice away: no click beside the entries, and none with Ctrl.
