@@ -95,7 +95,9 @@ void AggiungiNumeri(Chiavi& chiavi) {
 }
 
 TEST(Lingue, HoldWhatIsAskedForAndNothingElse) {
-    Chiavi chieste{"Language Locale"};
+    // A title that the language lacks turns empty, so a run without languages shows none.
+    Chiavi chieste{"Language Locale", "FormConfigura FormConfigura.Caption",
+                   "FormInfo FormInfo.Caption"};
     AggiungiControlli(chieste);
     AggiungiNumeri(chieste);
     ASSERT_GT(chieste.size(), 90U);
@@ -105,10 +107,6 @@ TEST(Lingue, HoldWhatIsAskedForAndNothingElse) {
             EXPECT_TRUE(date.contains(chiave)) << lingua << " lacks " << chiave;
         }
         for (const std::string& chiave : date) {
-            if (chiave.starts_with("FormConfigura") || chiave.starts_with("FormInfo") ||
-                chiave > "Strings 9" || chiave == "Strings 0030" || chiave == "Strings 0031") {
-                continue;  // not there yet
-            }
             EXPECT_TRUE(chieste.contains(chiave)) << lingua << " need not have " << chiave;
         }
     }
