@@ -18,7 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A machine whose user has added languages.
+/// A machine whose user adds languages.
 class Machine {
 public:
     Machine() {
@@ -34,13 +34,14 @@ public:
     Machine& operator=(const Machine&) = delete;
 
     /// Makes it so many languages, each as large as those that the game brings along.
-    static void Languages(FileSystem& files, std::int64_t count) {
-        const std::string text =
-            files.Read("P:\\lngtrameli\\italiano.lng", FileLingua::LimiteLettura).value_or("");
-        files.CreateFolder(Lingue::Cartella);
-        for (auto i = static_cast<std::int64_t>(files.List(Lingue::Cartella, ".lng").size());
-             i < count; ++i) {
-            files.Replace(std::string(Lingue::Cartella) + "\\l" + std::to_string(i) + ".lng", text);
+    void Languages(const FileSystem& files, std::int64_t count) const {
+        const fs::path own = folder_ / "trameli" / "programma" / "lngtrameli";
+        fs::remove_all(own);
+        fs::create_directories(own);
+        const auto text = files.Read("P:\\lngtrameli\\italiano.lng", FileLingua::LimiteLettura);
+        const auto shipped = static_cast<std::int64_t>(files.List(Lingue::Cartella, ".lng").size());
+        for (std::int64_t i = shipped; i < count; ++i) {
+            std::ofstream(own / ("l" + std::to_string(i) + ".lng")) << text.value_or("");
         }
     }
 
@@ -64,11 +65,12 @@ struct Scene {
     Stato Shared;
 };
 
+const Machine* TheMachine = nullptr;
 const Desktop* TheDesktop = nullptr;
 
 void Translate(benchmark::State& state) {
     const Services services = TheDesktop->Services();
-    Machine::Languages(services.FileSystem, state.range(0));
+    TheMachine->Languages(services.FileSystem, state.range(0));
     Scene scene(services);
     Lingue lingue(scene.Shared, services.FileSystem, services.Dialogs, "");
     lingue.TraduciForm(*scene.Window);  // the file is read once
@@ -78,7 +80,9 @@ void Translate(benchmark::State& state) {
 }
 
 void SetCaptions(benchmark::State& state) {
-    Scene scene(TheDesktop->Services());
+    const Services services = TheDesktop->Services();
+    TheMachine->Languages(services.FileSystem, state.range(0));
+    Scene scene(services);
     std::vector<std::pair<Control*, PropertyValue>> captions;
     for (Control* control : scene.Window->Controls()) {
         PropertyValue caption;
@@ -102,6 +106,7 @@ BENCHMARK(SetCaptions)->Name("traduci_base/lingue")->Arg(6)->Arg(200);
 int main(int argc, char** argv) {
     const trameli::Machine machine;
     const trameli::Desktop desktop(argc, argv);
+    trameli::TheMachine = &machine;
     trameli::TheDesktop = &desktop;
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

@@ -29,29 +29,37 @@ std::string_view SenzaSpazi(std::string_view testo) {
     return SenzaSpaziInFondo(testo);
 }
 
-/// In small letters, as far as names of forms, controls and properties have any.
-std::string Minuscolo(std::string_view nome) {
-    std::string minuscolo(nome);
-    for (char& lettera : minuscolo) {
-        lettera =
+/// Adds a name in small letters, as far as names of forms, controls and properties have any.
+void AggiungiMinuscolo(std::string& testo, std::string_view nome) {
+    for (const char lettera : nome) {
+        testo +=
             lettera >= 'A' && lettera <= 'Z' ? static_cast<char>(lettera + 'a' - 'A') : lettera;
     }
-    return minuscolo;
+}
+
+/// Where a key is kept. No name holds a line end.
+std::string Posto(std::string_view sezione, std::string_view chiave) {
+    std::string posto;
+    posto.reserve(sezione.size() + 1 + chiave.size());
+    AggiungiMinuscolo(posto, sezione);
+    posto += '\n';
+    AggiungiMinuscolo(posto, chiave);
+    return posto;
 }
 
 /// The section that a line begins.
-std::optional<std::string> SezioneDi(std::string_view riga) {
+std::optional<std::string_view> SezioneDi(std::string_view riga) {
     riga = SenzaSpazi(riga);
     const std::size_t fine = riga.find(']');
     if (!riga.starts_with('[') || fine == std::string_view::npos) {
         return std::nullopt;
     }
-    return Minuscolo(SenzaSpazi(riga.substr(1, fine - 1)));
+    return SenzaSpazi(riga.substr(1, fine - 1));
 }
 
 /// A key with its value as it stands there.
 struct Voce {
-    std::string Chiave;
+    std::string_view Chiave;
     std::string_view Valore;
 };
 
@@ -60,7 +68,7 @@ std::optional<Voce> VoceDi(std::string_view riga) {
     if (uguale == std::string_view::npos) {
         return std::nullopt;
     }
-    return Voce{Minuscolo(SenzaSpazi(riga.substr(0, uguale))), SenzaSpazi(riga.substr(uguale + 1))};
+    return Voce{SenzaSpazi(riga.substr(0, uguale)), SenzaSpazi(riga.substr(uguale + 1))};
 }
 
 std::string_view SenzaVirgolette(std::string_view valore) {
@@ -84,11 +92,6 @@ std::string_view SenzaUltimo(std::string_view testo) {
     return testo.substr(0, testo.size() - std::min<std::size_t>(testo.size(), 1));
 }
 
-/// Where a key is kept. No name holds a line end.
-std::string Posto(const std::string& sezione, const std::string& chiave) {
-    return sezione + '\n' + chiave;
-}
-
 }  // namespace
 
 FileLingua::FileLingua(std::string_view byte) {
@@ -110,16 +113,16 @@ std::string FileLingua::Valore(std::string_view sezione, std::string_view chiave
     if (!testo_.empty()) {
         return std::string(FinoAZero(ValoreDiRiga(chiave)));
     }
-    const auto trovato = valori_.find(Posto(Minuscolo(sezione), Minuscolo(chiave)));
+    const auto trovato = valori_.find(Posto(sezione, chiave));
     return trovato == valori_.end() ? std::string() : trovato->second;
 }
 
 void FileLingua::LeggiSezioni(std::string_view testo) {
-    std::string sezione;
+    std::string_view sezione;
     while (!testo.empty()) {
         const std::string_view riga = ProssimaRiga(testo);
-        if (auto nuova = SezioneDi(riga)) {
-            sezione = std::move(*nuova);
+        if (const auto nuova = SezioneDi(riga)) {
+            sezione = *nuova;
         } else if (const auto voce = VoceDi(riga)) {
             const std::string_view valore = FinoAZero(SenzaVirgolette(voce->Valore));
             valori_.try_emplace(Posto(sezione, voce->Chiave), PrimiCaratteri(valore, LimiteValore));
@@ -166,20 +169,17 @@ std::string_view FileLingua::ValoreDiRiga(std::string_view chiave) const {
 std::string ConValore(std::string_view byte, std::string_view sezione, std::string_view chiave,
                       std::string_view valore) {
     std::string testo = TestoUtf8(byte);
-    const std::string cercata = Minuscolo(chiave);
-    std::string qui;
+    std::string_view qui;
     std::optional<std::size_t> fineSezione;
     for (std::string_view resto = testo; !resto.empty();) {
         const std::string_view riga = ProssimaRiga(resto);
         const auto inizio = static_cast<std::size_t>(riga.data() - testo.data());
-        if (auto nuova = SezioneDi(riga)) {
-            qui = std::move(*nuova);
-        }
-        if (qui != Minuscolo(sezione)) {
+        qui = SezioneDi(riga).value_or(qui);
+        if (Posto(qui, {}) != Posto(sezione, {})) {
             continue;
         }
         const auto voce = VoceDi(riga);
-        if (voce && voce->Chiave == cercata) {
+        if (voce && Posto(qui, voce->Chiave) == Posto(sezione, chiave)) {
             const std::size_t dopoUguale = riga.find('=') + 1;
             return testo.replace(inizio + dopoUguale, riga.size() - dopoUguale, valore);
         }

@@ -3,9 +3,9 @@
 #pragma once
 
 #include <cstddef>
-#include <map>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace trameli {
@@ -47,7 +47,7 @@ private:
     std::string_view TestoDi(const Riga& riga) const;
     std::string_view ValoreDiRiga(std::string_view chiave) const;
 
-    std::map<std::string, std::string> valori_;  // by section and key in small letters
+    std::unordered_map<std::string, std::string> valori_;  // by section and key in small letters
 
     // Of a larger file: its text, and its lines in alphabetical order.
     std::string testo_;
