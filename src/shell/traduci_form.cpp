@@ -25,21 +25,21 @@ void Lingue::TraduciForm(Form& form) {
     const std::string lingua = Corrente();
     const std::string file = FileDi(lingua);
     const std::string sezione = form.Name();
-    const auto testo = [&](const std::string& chiave) {
-        return LeggiChiave(file, sezione, chiave).value_or(std::string());
-    };
     const auto traduci = [&](Control& controllo, const std::string& nome,
                              const std::string& proprieta) {
         // What the language lacks, or the control, leaves things as they are.
-        if (const std::string valore = testo(nome + "." + proprieta); !valore.empty()) {
-            controllo.Set(proprieta, valore);
+        const auto valore = LeggiChiave(file, sezione, nome + "." + proprieta);
+        if (valore && !valore->empty()) {
+            controllo.Set(proprieta, *valore);
         }
     };
 
-    if (!form.Caption().empty()) {
-        form.Caption(testo(sezione + ".Caption"));
+    // The form itself has no other text than that of its language, but for want of a file.
+    const auto titolo = LeggiChiave(file, sezione, sezione + ".Caption");
+    if (titolo && !form.Caption().empty()) {
+        form.Caption(*titolo);
     }
-    form.Tag(testo(sezione + ".Tag"));
+    form.Tag(LeggiChiave(file, sezione, sezione + ".Tag").value_or(form.Tag()));
     form.Forms().ForEachControl(form, [&](Control& controllo) {
         if (stato_.LinguaCorrente != lingua) {
             return;  // another one was chosen meanwhile, and has the last word
