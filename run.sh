@@ -21,7 +21,8 @@ case $display in
 esac
 
 need_packages "${packages[@]}"
-build_preset release trameli
+# Without its manual the game can be played all the same.
+build_preset release trameli documents || build_preset release trameli
 
 # Without any locale the toolkit complains about the encoding of file names at each start.
 if [[ -z ${LC_ALL:-}${LC_CTYPE:-}${LANG:-} ]]; then

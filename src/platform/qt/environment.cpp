@@ -28,10 +28,10 @@ fs::path ThisExecutable() {
 }
 
 fs::path FindProgramFolder(const fs::path& executable) {
-    // Run from where it was built, a program still finds its files; an installed one comes first,
-    // so that sources lying around never take the place of what belongs to it.
+    // Tests lie elsewhere than the game and find its files all the same. What is beside a program
+    // comes first, so that an old build never takes the place of what belongs to it.
     const fs::path installed = executable.parent_path().parent_path() / "share" / "trameli";
-    for (const fs::path& folder : {installed, fs::path(TRAMELI_SOURCE_ASSETS)}) {
+    for (const fs::path& folder : {installed, fs::path(TRAMELI_BUILT_PROGRAM_FOLDER)}) {
         std::error_code error;
         if (folder.is_absolute() && fs::is_directory(folder, error)) {
             return folder;

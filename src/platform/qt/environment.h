@@ -11,7 +11,8 @@ namespace trameli {
 std::filesystem::path UserDataFolder();
 
 /// The program folder of an executable: share/trameli beside its own folder if the program is
-/// installed, else the folder of the sources it was built from. Empty if neither exists.
+/// installed or lies where it was built, else the one that was made when it was built. Empty if
+/// neither exists.
 std::filesystem::path FindProgramFolder(const std::filesystem::path& executable);
 /// The file that this process runs.
 std::filesystem::path ThisExecutable();
