@@ -152,8 +152,7 @@ public:
             const std::string bytes = cosa == "file" ? ConImpostazioni(impostazioni).Bytes() : "";
             return disco_.Leggi(nome) == bytes ? vista : disco_.Leggi(nome);
         }
-        return cosa + " " +
-               Valore(Controllo(cosa.substr(0, punto)), cosa.substr(punto + 1), atteso);
+        return cosa + " " + Valore(Controllo(cosa.substr(0, punto)), cosa.substr(punto + 1));
     }
 
 private:
@@ -186,7 +185,10 @@ private:
     void Apri(const std::string& nome) {
         if (!partita_) {
             partita_.emplace(disco_, schermo_);
-            partita_->ApriMenu();
+            partita_->ApriMenu(false);
+        }
+        if (nome == "early") {
+            return;
         }
         partita_->Tempo.Advance(0.3);  // the menu's set-up
         if (nome == "FormConfigura" || nome == "FormInfo") {
@@ -203,8 +205,7 @@ private:
                           linguette->mapTo(&finestra, linguette->tabRect(quale).center()));
     }
 
-    std::string Valore(Control& controllo, const std::string& proprieta,
-                       const std::string& atteso) {
+    std::string Valore(Control& controllo, const std::string& proprieta) {
         if (const auto* const visibile = dynamic_cast<const VisualControl*>(&controllo)) {
             const QWidget& widget = WidgetOf(*visibile);
             const auto detto = [](bool vero) { return std::string(vero ? "True" : "False"); };
@@ -230,15 +231,14 @@ private:
                     ++sotto;
                 return std::to_string(sotto - sopra + 1);
             }
-            if (proprieta == "Shows") {
+            if (proprieta.starts_with("Shows(")) {
+                const QRgb cercato = Pixel(std::stoi(proprieta.substr(6)));
                 const QImage parte = Shot(*visibile);
-                for (int i = 0; i < parte.width() * parte.height(); ++i) {
-                    if (parte.pixel(i % parte.width(), i / parte.width()) ==
-                        Pixel(std::stoi(atteso))) {
-                        return atteso;
-                    }
+                bool trovato = false;
+                for (int i = 0; i < parte.width() * parte.height() && !trovato; ++i) {
+                    trovato = parte.pixel(i % parte.width(), i / parte.width()) == cercato;
                 }
-                return "no " + atteso;
+                return detto(trovato);
             }
         }
         PropertyValue valore;
@@ -263,6 +263,14 @@ private:
         {"click",
          [this](const std::string& nome) {
              ClickOn(dynamic_cast<const VisualControl&>(Controllo(nome)));
+         }},
+        {"move",
+         [this](const std::string& meta) {
+             const auto [nome, parti] = PrimaParola(meta);
+             QWidget& widget = WidgetOf(dynamic_cast<const VisualControl&>(Controllo(nome)));
+             const std::vector<std::string> percento = Diviso(parti.empty() ? "50 50" : parti, ' ');
+             MoveOver(widget, {widget.width() * std::stoi(percento.at(0)) / 100,
+                               widget.height() * std::stoi(percento.at(1)) / 100});
          }},
         {"tab", [this](const std::string& numero) { Linguetta(std::stoi(numero) - 1); }},
         {"key", [this](const std::string& tasto) { Tap(Davanti(), Tasti.at(tasto)); }},
