@@ -226,7 +226,8 @@ const auto Scenes = std::to_array<Scene>({
     {"FormConfigura1", "FormConfigura", 3, {}, TurnTo<1>},
     {"FormConfigura2", "FormConfigura", 3, {}, TurnTo<2>},
     {"FormConfigura3", "FormConfigura", 3, {}, TurnTo<3>},
-    {"FormConfigura4", "FormConfigura", 3, {}, TurnTo<4>},
+    {"FormConfigura4", "FormConfigura", 3, [](Impostazioni& settings) { settings.ModoInput = 2; },
+     TurnTo<4>},
     {"FormInfo", "FormInfo"},
 });
 

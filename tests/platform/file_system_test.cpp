@@ -71,16 +71,13 @@ TEST_F(FileSystemTest, NeverLeavesItsFolder) {
     Write(Root / "In" / "in.ini", "text");
     const std::string paths[] = {
         "C:\\..\\outside.ini"s,
-        "C:\\In\\..\\..\\outside.ini"s,
         "C:\\.\\In\\in.ini"s,
         "C:\\../outside.ini"s,
         "C:\\In/in.ini"s,
         "C:\\/etc/passwd"s,
-        "C:/In/in.ini"s,
         "C:\\In\\in.ini\0.txt"s,
         "C:\\\\In\\in.ini"s,
         "D:\\In\\in.ini"s,
-        "In\\in.ini"s,
         "/etc/passwd"s,
         "P:\\..\\outside.ini"s,
         "C:"s,

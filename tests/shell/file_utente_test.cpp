@@ -67,19 +67,14 @@ TEST(FileUtente, CutAtEveryByte) {
     }
 }
 
-TEST(FileUtente, WhatFollowsTheSixteenthValueIsNotLookedAt) {
-    for (const char* coda : {"17\r\n", "\r\n\r\n", "parola", ",,,", "\x1A"}) {
-        EXPECT_EQ(Leggi(Unisci(RigheDiverse) + coda), Diverse) << coda;
-    }
-}
-
 TEST(FileUtente, ValuesArePartedByAnyLineEndOrComma) {
     for (const char* separatore : {"\r\n", "\n", "\r", ","}) {
         EXPECT_EQ(Leggi(Unisci(RigheDiverse, separatore)), Diverse);
     }
     EXPECT_EQ(Leggi("12,True,False,False\n16777215 , 1,100000 1000000 10000000 0\r6,False,True,"
-                    "True,2   60"),
-              Diverse);
+                    "True,2   60\r\n17,"),
+              Diverse)
+        << "mixed, and with more behind";
 }
 
 TEST(FileUtente, OnlyACapitalTAtTheStartOfAFlagCounts) {
@@ -99,28 +94,8 @@ TEST(FileUtente, NumbersAreConverted) {
         const char* Valore;
         int Atteso;
     } casi[] = {
-        {1, "     7      ", 7},
-        {1, "\t7\t", 7},
-        {1, "+7", 7},
-        {1, "007", 7},
-        {1, "7.", 7},
-        {1, ".5", 0},
-        {1, "2.5", 2},
-        {1, "3.5", 4},
-        {1, "-0.5", 0},
-        {1, "1.2E+1", 12},
-        {1, "0", 0},
-        {1, "15", 15},
-        {5, "1e3", 1000},
-        {5, "255.0", 255},
-        {5, "-0", 0},
-        {5, "16777215", 16777215},
-        {10, "0", 0},
-        {10, "16777215", 16777215},
-        {11, "6", 6},
-        {15, "2", 2},
-        {16, "2", 2},
-        {16, "60", 60},
+        {1, "\t 7 ", 7},   {1, "+007.", 7}, {1, ".5", 0}, {1, "2.5", 2},  {1, "3.5", 4},
+        {1, "1.2E+1", 12}, {5, "-0", 0},    {15, "2", 2}, {16, "60", 60},
     };
     for (const auto& [riga, valore, atteso] : casi) {
         // All other values stay.
@@ -171,9 +146,6 @@ TEST(FileUtente, WhatIsNoNumberSpoilsTheRecord) {
         for (const char* valore : valori) {
             EXPECT_EQ(Leggi(ConRiga(riga, valore)), std::nullopt) << riga << ": " << valore;
         }
-    }
-    for (const char byte : {'\0', '\xFF', ' ', ','}) {
-        EXPECT_EQ(Leggi(std::string(4096, byte)), std::nullopt);
     }
 }
 
