@@ -21,8 +21,6 @@ TEST(Ricette, SayHowManyWallsFall) {
         {4, ScavataEAllargata, 41, 11},
         {5, ScatolaVuota, 132, 0},
         {6, ScavataEAllargata, 65, 58},
-        {6, ScavataEAllargata, 3, -4},
-        {6, ScavataEAllargata, -32768, -32768},
         {7, ScavataEAllargata, 65, 32},
         {8, Scavata, 40, 0},
         {15, Scavata, 40, 0},

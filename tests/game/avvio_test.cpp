@@ -2,8 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QTest>
-#include <QWindow>
-#include <map>
+#include <functional>
 
 #include "game/partita.h"
 #include "platform/command_button.h"
@@ -55,36 +54,23 @@ TEST(AltraIstanza, IsToldInAMessageAndTouchesNothing) {
     EXPECT_EQ(partita.Gioco.Stato().Livello, Impostazioni().Livello);  // nothing was read
 }
 
-class SfondoAvvio : public testing::TestWithParam<PixelSize> {};
-
-TEST_P(SfondoAvvio, RunsFromWhiteToBlueIn256Bands) {
-    const Disco disco;
-    Partita partita(disco, GetParam());
-    ASSERT_TRUE(partita.Avvia());
-    const QImage sfondo = Shot(partita.Finestra("FormAvvio"));
-    std::map<QRgb, int> righe;
-    for (int riga = 0; riga < sfondo.height(); ++riga) {
-        const QRgb qui = sfondo.pixel(1, riga);  // the left edge is free of controls
-        ASSERT_EQ(sfondo.pixel(sfondo.width() - 1, riga), qui) << "row " << riga;
-        ASSERT_TRUE(riga == 0 || qui <= sfondo.pixel(1, riga - 1)) << "row " << riga;
-        ++righe[qui];
-    }
-    // From the bottom up.
-    ASSERT_EQ(righe.size(), 256U);
-    int chiarore = 0;
-    for (const auto& [colore, quante] : righe) {
-        EXPECT_EQ(colore, qRgb(chiarore, chiarore, 255));
-        EXPECT_NEAR(quante, sfondo.height() / 256.0, 1) << "band " << chiarore;
-        ++chiarore;
+TEST(SfondoAvvio, RunsFromWhiteToBlueIn256Bands) {
+    for (const PixelSize schermo : {PixelSize{800, 600}, PixelSize{1080, 1920}}) {
+        const Disco disco;
+        Partita partita(disco, schermo);
+        ASSERT_TRUE(partita.Avvia());
+        const QImage sfondo = Shot(partita.Finestra("FormAvvio"));
+        for (int riga = 0; riga < sfondo.height(); ++riga) {
+            const int chiarore = 255 - (2 * riga + 1) * 256 / (2 * sfondo.height());
+            const QRgb qui = sfondo.pixel(1, riga);  // the edges are free of controls
+            ASSERT_NEAR(qRed(qui), chiarore, 1) << "row " << riga;
+            ASSERT_EQ(qui, qRgb(qRed(qui), qRed(qui), 255));
+            ASSERT_EQ(sfondo.pixel(sfondo.width() - 1, riga), qui) << "row " << riga;
+        }
+        EXPECT_EQ(sfondo.pixel(1, 0), qRgb(255, 255, 255));
+        EXPECT_EQ(sfondo.pixel(1, sfondo.height() - 1), qRgb(0, 0, 255));
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(Schermi, SfondoAvvio,
-                         testing::Values(PixelSize{800, 600}, PixelSize{1080, 1920}),
-                         [](const auto& voce) {
-                             return std::to_string(voce.param.Width) + "x" +
-                                    std::to_string(voce.param.Height);
-                         });
 
 TEST(ScritteAvvio, AreInCapitalsForThoseWhoWantThem) {
     for (const bool maiuscole : {false, true}) {
@@ -100,41 +86,34 @@ TEST(ScritteAvvio, AreInCapitalsForThoseWhoWantThem) {
     }
 }
 
-/// Something a player does to the splash.
-struct Gesto {
-    const char* Nome;
-    bool ApreIlMenu;
-    void (*Azione)(Form&);
-};
-
-class GestiAvvio : public testing::TestWithParam<Gesto> {};
-
-TEST_P(GestiAvvio, OnlyButtonAndLabelsOpenTheMenu) {
+TEST(GestiAvvio, OnlyButtonAndLabelsOpenTheMenu) {
+    struct {
+        bool ApreIlMenu;
+        std::function<void(Form&)> Gesto;
+    } const casi[] = {
+        {true, [](Form& form) { ClickOn(Trova<CommandButton>(form, "Command1")); }},
+        {true, [](Form& form) { ClickOn(Trova<Label>(form, "Label2", 0)); }},
+        {true, [](Form& form) { ClickOn(Trova<Label>(form, "Label2", 1)); }},
+        {true, [](Form& form) { Tap(form, Qt::Key_Space); }},
+        {false, [](Form& form) { ClickOn(Trova<VisualControl>(form, "Image1")); }},
+        {false,
+         [](Form& form) {
+             QTest::mouseClick(&WindowOf(form), Qt::LeftButton, {}, {3, 3});
+         }},
+        {false, [](Form& form) { Tap(form, Qt::Key_Right); }},
+    };
     const Disco disco;
-    Partita partita(disco);
-    ASSERT_TRUE(partita.Avvia());
-    partita.Tempo.Advance(3600);
-    ASSERT_EQ(partita.Aperte(), Nomi{"FormAvvio"});  // it waits for as long as it takes
-    GetParam().Azione(partita.Finestra("FormAvvio"));
-    EXPECT_EQ(partita.Aperte(), Nomi{GetParam().ApreIlMenu ? "FormMenu" : "FormAvvio"});
+    for (const auto& [apre, gesto] : casi) {
+        Partita partita(disco);
+        ASSERT_TRUE(partita.Avvia());
+        partita.Tempo.Advance(3600);
+        ASSERT_EQ(partita.Aperte(), Nomi{"FormAvvio"});  // it waits for as long as it takes
+        gesto(partita.Finestra("FormAvvio"));
+        Pump();
+        EXPECT_EQ(partita.Aperte(), Nomi{apre ? "FormMenu" : "FormAvvio"});
+    }
     EXPECT_EQ(disco.Leggi("_predefinito"), "");  // this change of window saves nothing
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Gesti, GestiAvvio,
-    testing::Values(
-        Gesto{"Button", true, [](Form& form) { ClickOn(Trova<CommandButton>(form, "Command1")); }},
-        Gesto{"Title", true, [](Form& form) { ClickOn(Trova<Label>(form, "Label2", 0)); }},
-        Gesto{"Date", true, [](Form& form) { ClickOn(Trova<Label>(form, "Label2", 1)); }},
-        Gesto{"Space", true, [](Form& form) { Tap(form, Qt::Key_Space); }},
-        Gesto{"Picture", false, [](Form& form) { ClickOn(Trova<VisualControl>(form, "Image1")); }},
-        Gesto{"Background", false,
-              [](Form& form) {
-                  QTest::mouseClick(WindowOf(form).windowHandle(), Qt::LeftButton, {}, {3, 3});
-                  Pump();
-              }},
-        Gesto{"OtherKey", false, [](Form& form) { Tap(form, Qt::Key_Right); }}),
-    [](const auto& voce) { return std::string(voce.param.Nome); });
 
 }  // namespace
 }  // namespace trameli

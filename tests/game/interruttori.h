@@ -18,6 +18,9 @@ inline constexpr int Manuale = 1;
 inline constexpr int Automatica = 2;
 inline constexpr int Velocita = 4;  // quarters of a second
 inline constexpr double Giro = Velocita * 0.25;
+/// A key that bounces, and one that comes too soon after a window or a button, count for nothing.
+inline constexpr double DopoUnTasto = 0.16;
+inline constexpr double DopoUnaNovita = 0.51;
 
 inline constexpr int Blu = Rgb(0, 0, 255);
 
@@ -39,7 +42,7 @@ inline int Offerta(int verso) {
 }
 
 /// A player who has Space, with `Manuale` Enter too, and otherwise waits.
-class ConInterruttori : public testing::Test {
+class ConInterruttori : public ConTavolo {
 protected:
     Tavolo Apri(int livello, int modo) {
         modo_ = modo;
@@ -50,30 +53,18 @@ protected:
     Tavolo AlTavolo(Form& form, int livello) {
         // In the first tenth of a second the keyboard may still be elsewhere.
         if (modo_ == Manuale) {
-            partita_.Tempo.Advance(0.1);
+            partita_.Tempo.Advance(DopoUnaNovita);
         }
-        return Tavolo(form, MisureLivelli.at(static_cast<std::size_t>(livello)), file_);
+        return {form, livello, file_};
     }
 
-    void Spazio(Form& form) { Tap(form, Qt::Key_Space); }
-    void Invio(Form& form) { Tap(form, Qt::Key_Return); }
+    void Spazio(Form& form) { Batti(form, Qt::Key_Space); }
+    void Invio(Form& form) { Batti(form, Qt::Key_Return); }
     void Tic(int quanti = 1) { partita_.Tempo.Advance(Giro * quanti); }
 
     /// The next direction, by key or by waiting.
-    void Prossima(Form& form) {
-        if (modo_ == Manuale) {
-            Spazio(form);
-        } else {
-            Tic();
-        }
-    }
-    void Conferma(Form& form) {
-        if (modo_ == Manuale) {
-            Invio(form);
-        } else {
-            Spazio(form);
-        }
-    }
+    void Prossima(Form& form) { modo_ == Manuale ? Spazio(form) : Tic(); }
+    void Conferma(Form& form) { modo_ == Manuale ? Invio(form) : Spazio(form); }
     /// Goes on to the direction and takes it. `offerta` is the one on offer.
     void Vai(Form& form, int verso, int& offerta) {
         // Without a stroke on show, a player with one key waits for the next one.
@@ -89,6 +80,8 @@ protected:
             Vai(tavolo.Form_, verso, offerta);
         }
     }
+    /// Waits until the direction is on offer, with one key before the first tick.
+    void Aspetta(int offerta) { Tic(offerta == 0 ? NumeroDirezioni : offerta); }
 
     /// The directions whose strokes are to be seen round the head, by a pixel near their ends.
     /// `qui` is the cell where the head is, or an opening.
@@ -116,11 +109,17 @@ protected:
             form, modo_ == Manuale ? "PictureScansioneManuale" : "PictureScansioneAutomatica"));
     }
 
-    Disco disco_;
-    Partita partita_{disco_, {800, 600}, 11};
     FileUtente file_;
     int modo_ = 0;
     Posto partenza_;  ///< of the last maze that was looked at
+
+private:
+    void Batti(Form& form, int tasto) {
+        if (modo_ == Manuale) {
+            partita_.Tempo.Advance(DopoUnTasto);
+        }
+        Tap(form, tasto);
+    }
 };
 
 struct Caso {

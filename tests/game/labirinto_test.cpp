@@ -19,8 +19,8 @@ const FileUtente Colorato = FileUtente()
 /// Wall divisor of the thickness that the settings begin with.
 constexpr int DivisoreMuri = 5;
 
-/// How many interior walls the levels of the first form leave, more or less.
-constexpr std::array MuriRimasti{0, 6, 12, 24, 30};
+/// How many interior walls the first levels leave, more or less.
+constexpr std::array MuriRimasti{0, 6, 12, 24, 30, 0, 12, 38};
 
 void HaDueApertureOpposte(const Tavolo& tavolo) {
     const Posto partenza = tavolo.Partenza();  // throws unless there are two openings
@@ -34,7 +34,7 @@ void HaDueApertureOpposte(const Tavolo& tavolo) {
 
 void HaIMuriDelLivello(const Tavolo& tavolo, int livello) {
     const MuriVisti muri = tavolo.Muri();
-    const auto [righe, colonne] = MisureLivelli.at(static_cast<std::size_t>(livello));
+    const auto [righe, colonne] = MisuraDi(livello);
     const int celle = righe * colonne;
     EXPECT_EQ(muri.Raggiungibili(), celle);
     if (livello >= 8) {
@@ -43,7 +43,7 @@ void HaIMuriDelLivello(const Tavolo& tavolo, int livello) {
         EXPECT_EQ(muri.Interni(), posti - (celle - 1));
     } else {
         EXPECT_NEAR(muri.Interni(), MuriRimasti.at(static_cast<std::size_t>(livello)),
-                    livello == 0 ? 0 : 4);
+                    livello == 0 || livello == 5 ? 0 : 4);
     }
 }
 
@@ -79,8 +79,7 @@ void HaLArrivoAlSuoPosto(const Tavolo& tavolo) {
     const double lato = 2 * ((p.Lato - muro) / 3);
     const auto& immagine = Trova<Image>(tavolo.Form_, "Image2");
     EXPECT_TRUE(WidgetOf(immagine).isVisible());
-    EXPECT_EQ(immagine.Width(), lato);
-    EXPECT_EQ(immagine.Height(), lato);
+    EXPECT_EQ(immagine.Place(), (Bounds{immagine.Left(), immagine.Top(), lato, lato}));
     const QPointF atteso = p.Verso(tavolo.Arrivo(), 1);
     EXPECT_NEAR(immagine.Left() + lato / 2, atteso.x(), p.Lato / 5.0);
     EXPECT_NEAR(immagine.Top() + lato / 2, atteso.y(), p.Lato / 5.0);
@@ -94,28 +93,18 @@ void HaIlSimboloSullaLinea(const Tavolo& tavolo) {
         std::nearbyint(2 * (static_cast<int>(p.Lato / p.TwipsPerPixel) / DivisoreMuri) *
                        vista.Immagine().devicePixelRatio());
     const QRect simbolo = MacchiaDi(vista.Immagine(), tavolo.Colore(RigaSimbolo)).Posto;
-    EXPECT_EQ(simbolo.width(), penna);
-    EXPECT_EQ(simbolo.height(), penna);
+    EXPECT_EQ(simbolo.size(), QSizeF(penna, penna).toSize());
     const QPointF atteso = p.Verso(tavolo.Partenza(), 0.5) * vista.PixelPerTwip();
     EXPECT_NEAR(simbolo.x() + penna / 2, atteso.x(), 1.1);
     EXPECT_NEAR(simbolo.y() + penna / 2, atteso.y(), 1.1);
 }
 
-struct Scena {
-    int Livello;
-    PixelSize Schermo;
-};
-
-class Labirinto : public testing::TestWithParam<Scena> {};
-
-TEST_P(Labirinto, IsDrawnAsLevelAndScreenSay) {
-    const auto [livello, schermo] = GetParam();
+void EComeVuoleIlLivello(int livello, PixelSize schermo) {
+    SCOPED_TRACE(testing::Message() << "level " << livello << " on " << schermo.Width);
     const Disco disco;
     disco.Scrivi("_predefinito", Colorato);
     Partita partita(disco, schermo, static_cast<std::uint64_t>(livello + 1));
-    Form& form = partita.ApriLivello(livello);
-    const Tavolo tavolo(form, MisureLivelli.at(static_cast<std::size_t>(livello)), Colorato);
-
+    const Tavolo tavolo(partita.ApriLivello(livello), livello, Colorato);
     HaDueApertureOpposte(tavolo);
     HaIMuriDelLivello(tavolo, livello);
     HaLineeAlLoroPosto(tavolo);
@@ -123,27 +112,20 @@ TEST_P(Labirinto, IsDrawnAsLevelAndScreenSay) {
     HaIlSimboloSullaLinea(tavolo);
 }
 
-std::vector<Scena> Scene() {
-    std::vector<Scena> scene;
-    for (const int livello : {0, 1, 2, 3, 4, 8, 9, 10, 11, 12, 13, 14, 15}) {
-        scene.push_back({livello, {1366, 768}});
+TEST(Scene, EveryLevelIsDrawnAsItShould) {
+    for (int livello = 0; livello < NumeroLivelliGioco; ++livello) {
+        EComeVuoleIlLivello(livello, {1366, 768});
     }
+}
+
+TEST(Scene, SoItIsOnEveryScreen) {
     for (const PixelSize schermo :
          {PixelSize{800, 600}, {1920, 1080}, {3840, 2160}, {1080, 1920}}) {
-        for (const int livello : {1, 8, 15}) {
-            scene.push_back({livello, schermo});
+        for (const int livello : {1, 6, 15}) {
+            EComeVuoleIlLivello(livello, schermo);
         }
     }
-    return scene;
 }
-
-std::string NomeScena(const testing::TestParamInfo<Scena>& voce) {
-    return "Level" + std::to_string(voce.param.Livello) + "On" +
-           std::to_string(voce.param.Schermo.Width) + "x" +
-           std::to_string(voce.param.Schermo.Height);
-}
-
-INSTANTIATE_TEST_SUITE_P(Scene, Labirinto, testing::ValuesIn(Scene()), NomeScena);
 
 class OgniAngolo : public testing::TestWithParam<int> {};
 
@@ -154,7 +136,7 @@ TEST_P(OgniAngolo, HasItsPlaces) {
     disco.Scrivi("_predefinito", Colorato);
     Partita partita(disco, {800, 600});
     Form& form = partita.ApriLivello(livello);
-    const Tavolo tavolo(form, MisureLivelli.at(static_cast<std::size_t>(livello)), Colorato);
+    const Tavolo tavolo(form, livello, Colorato);
     std::set<std::array<int, 3>> visti;
     for (int i = 0; i < 100 && visti.size() < 8; ++i) {
         const Posto p = tavolo.Partenza();
@@ -169,23 +151,6 @@ TEST_P(OgniAngolo, HasItsPlaces) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Livelli, OgniAngolo, testing::Values(0, 8));
-
-/// Its third draw is as high as can be, all others are 0.
-class TerzoEstrattoAlto final : public Casuale {
-public:
-    float Estrai() override { return ++estratti_ == 3 ? 0.999F : 0.0F; }
-
-private:
-    int estratti_ = 0;
-};
-
-TEST(Arrivo, IsTheSecondPictureDrawnInTheFirstForm) {
-    // The empty box draws its corners, a picture with the maze, and another one that stays.
-    const Disco disco;
-    Partita partita(disco, {800, 600}, std::make_unique<TerzoEstrattoAlto>());
-    Form& form = partita.ApriLivello(0);
-    EXPECT_EQ(Trova<Image>(form, "Image2").Picture().Name, "arrivo/19.svg");
-}
 
 }  // namespace
 }  // namespace trameli

@@ -51,6 +51,7 @@ protected:
 
     /// Presses the button, in one of the ways that the player has, in turns.
     void Prosegui(const Tavolo& tavolo, int volta) {
+        partita_.Tempo.Advance(DopoUnaNovita);
         if (modo_ == Automatica || volta % 3 == 0) {
             Spazio(tavolo.Form_);
         } else if (modo_ == Manuale || volta % 3 == 1) {
@@ -62,6 +63,7 @@ protected:
 
     /// To the other button, if there is one, and presses it; else the first one.
     void Rispondi(Form& finale, bool altro) {
+        partita_.Tempo.Advance(DopoUnaNovita);
         if (altro) {
             modo_ == Tastiera ? Tap(finale, Qt::Key_Tab) : Prossima(finale);
         }

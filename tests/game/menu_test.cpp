@@ -93,36 +93,18 @@ TEST_F(Menu, OptionStaysOrangeUntilThePointerCrossesTheFrameOrAnotherIsChosen) {
 TEST_F(Menu, ButtonStaysRedUntilThePointerCrossesOtherButtonFormOrFrame) {
     Apri();
     const auto bottoni = [this] { return std::vector<QRgb>{Tinta(Bottone(0)), Tinta(Bottone(1))}; };
-    EXPECT_EQ(bottoni(), (std::vector<QRgb>{Grigio, Grigio}));
+    const std::vector<QRgb> spenti{Grigio, Grigio};
+    EXPECT_EQ(bottoni(), spenti);
     MoveOver(Bottone(0));
     EXPECT_EQ(bottoni(), (std::vector<QRgb>{Rosso, Grigio}));
     MoveOver(Bottone(1));
-    EXPECT_EQ(bottoni(), (std::vector<QRgb>{Grigio, Rosso}));
     MoveOver(Livello(8));  // an option does not put a button out
     EXPECT_EQ(bottoni(), (std::vector<QRgb>{Grigio, Rosso}));
     SuCornice();
-    EXPECT_EQ(bottoni(), (std::vector<QRgb>{Grigio, Grigio}));
+    EXPECT_EQ(bottoni(), spenti);
     MoveOver(Bottone(0));
-    EXPECT_EQ(bottoni(), (std::vector<QRgb>{Rosso, Grigio}));
     SuSfondo();
-    EXPECT_EQ(bottoni(), (std::vector<QRgb>{Grigio, Grigio}));
-}
-
-TEST_F(Menu, LevelsFrom8OnSetTheGridAndTheOthersLeaveIt) {
-    Apri(FileUtente().Con(RigaLivello, 12));
-    const Stato& stato = partita_.Gioco.Stato();
-    Misura misura = MisureLivelli[12];
-    EXPECT_EQ(stato.RigheGriglia, misura.Righe);  // before the player touches anything
-    EXPECT_EQ(stato.ColonneGriglia, misura.Colonne);
-    for (int livello = 0; livello < NumeroLivelliGioco; ++livello) {
-        ClickOn(Livello(livello));
-        if (livello >= 8) {
-            misura = MisureLivelli.at(static_cast<std::size_t>(livello));
-        }
-        EXPECT_EQ(stato.Livello, livello);
-        EXPECT_EQ(stato.RigheGriglia, misura.Righe) << livello;
-        EXPECT_EQ(stato.ColonneGriglia, misura.Colonne) << livello;
-    }
+    EXPECT_EQ(bottoni(), spenti);
 }
 
 TEST_F(Menu, IsPlayedWithTheKeyboardAlone) {
@@ -149,59 +131,44 @@ TEST_F(Menu, TheKeyboardIsAtTheCurrentLevelFromTheFirstKeyOn) {
     EXPECT_EQ(partita_.Gioco.Stato().Livello, 8);
 }
 
-TEST_F(Menu, StartedBeforeItsTimerHasRunStillHasTheGrid) {
+TEST_F(Menu, StartedBeforeItsTimerHasRunItIsAsAfterIt) {
     disco_.Scrivi("_predefinito", FileUtente().Con(RigaLivello, 15));
     partita_.ApriMenu(false);
     ClickOn(Bottone(0));
     ASSERT_EQ(partita_.Aperte(), Nomi{"frmTrm3"});
-    EXPECT_EQ(Tavolo(partita_.Finestra("frmTrm3"), {15, 20}).Muri().Interni(), 565 - 299);
+    EXPECT_EQ(Tavolo(partita_.Finestra("frmTrm3"), 15).Muri().Interni(), 565 - 299);
     partita_.Tempo.Advance(1);  // the menu's timer went with the menu
     EXPECT_EQ(partita_.Aperte(), Nomi{"frmTrm3"});
 }
 
-TEST_F(Menu, StartedBeforeItsTimerHasRunKeepsTimedLevelsFromThoseWhoScan) {
-    disco_.Scrivi("_predefinito", FileUtente().Con(RigaLivello, 6).Con(RigaModoInput, 1));
-    partita_.ApriMenu(false);
-    ClickOn(Bottone(0));
-    EXPECT_EQ(partita_.Aperte(), Nomi{"frmTrm0"});
-    EXPECT_EQ(partita_.Gioco.Stato().Livello, 4);
-}
-
-/// How a saved level comes up for a way of playing.
-struct Scansione {
-    int ModoInput;
-    int Salvato;
-    int Mostrato;
-};
-
-class MenuScansione : public Menu, public testing::WithParamInterface<Scansione> {};
-
-TEST_P(MenuScansione, TimedLevelsAreOnlyForTheKeyboard) {
-    const Scansione& caso = GetParam();
-    const bool tastiera = caso.ModoInput == 0;
-    Apri(FileUtente().Con(RigaLivello, caso.Salvato).Con(RigaModoInput, caso.ModoInput));
-    EXPECT_EQ(partita_.Gioco.Stato().Livello, caso.Mostrato);
-    EXPECT_TRUE(Livello(caso.Mostrato).Value());
-    EXPECT_EQ(TinteLivelli(), Bianchi({{caso.Mostrato, Rosso}}));
-    for (int i = 0; i < NumeroLivelliGioco; ++i) {
-        EXPECT_EQ(WidgetOf(Livello(i)).isEnabled(), tastiera || i < 5 || i > 7) << i;
+TEST_F(Menu, TimedLevelsAreOnlyForTheKeyboard) {
+    struct {
+        int ModoInput, Salvato, Mostrato;
+    } const casi[] = {{0, 6, 6}, {0, 9, 9}, {1, 5, 4}, {2, 7, 4}, {2, 8, 8}};
+    for (const auto& [modo, salvato, mostrato] : casi) {
+        for (const bool pronto : {true, false}) {  // or started before the timer has run
+            SCOPED_TRACE(testing::Message() << modo << ", " << salvato << ", " << pronto);
+            const FileUtente file = FileUtente().Con(RigaModoInput, modo);
+            disco_.Scrivi("_predefinito", file.Con(RigaLivello, salvato));
+            Partita partita(disco_);
+            Form& menu = partita.ApriMenu(pronto);
+            if (pronto) {
+                EXPECT_TRUE(Trova<OptionButton>(menu, "Option1", mostrato).Value());
+                for (int i = 0; i < NumeroLivelliGioco; ++i) {
+                    const QWidget& opzione = WidgetOf(Trova<OptionButton>(menu, "Option1", i));
+                    EXPECT_EQ(opzione.isEnabled(), modo == 0 || i < 5 || i > 7) << i;
+                }
+                EXPECT_EQ(Trova<Shape>(menu, "Shape2").BorderColor(),
+                          modo == 0 ? Rgb(255, 128, 128) : White);
+            }
+            ClickOn(Trova<CommandButton>(menu, "Command1", 0));
+            EXPECT_EQ(partita.Gioco.Stato().Livello, mostrato);
+            if (pronto) {  // the changed level is what is saved
+                EXPECT_EQ(disco_.Leggi("_predefinito"), file.Con(RigaLivello, mostrato).Bytes());
+            }
+        }
     }
-    EXPECT_EQ(Trova<Shape>(Finestra(), "Shape2").BorderColor(),
-              tastiera ? Rgb(255, 128, 128) : White);
-    // The changed level is what the exit saves.
-    ClickOn(Bottone(1));
-    EXPECT_EQ(
-        disco_.Leggi("_predefinito"),
-        FileUtente().Con(RigaLivello, caso.Mostrato).Con(RigaModoInput, caso.ModoInput).Bytes());
 }
-
-INSTANTIATE_TEST_SUITE_P(Casi, MenuScansione,
-                         testing::Values(Scansione{0, 6, 6}, Scansione{0, 9, 9}, Scansione{1, 5, 4},
-                                         Scansione{2, 7, 4}, Scansione{2, 8, 8}),
-                         [](const auto& voce) {
-                             return "Modo" + std::to_string(voce.param.ModoInput) + "Livello" +
-                                    std::to_string(voce.param.Salvato);
-                         });
 
 }  // namespace
 }  // namespace trameli

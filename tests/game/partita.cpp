@@ -67,11 +67,15 @@ Form& Partita::ApriMenu(bool pronto) {
     return Finestra("FormMenu");
 }
 
-Form& Partita::ApriLivello(int livello) {
+void Partita::AvviaLivello(int livello) {
     Form& menu = Aperta("FormMenu") ? Finestra("FormMenu") : ApriMenu();
     Tempo.Advance(0.3);
     ClickOn(Trova<OptionButton>(menu, "Option1", livello));
     ClickOn(Trova<CommandButton>(menu, "Command1", 0));
+}
+
+Form& Partita::ApriLivello(int livello) {
+    AvviaLivello(livello);
     return Finestra(livello < 5 ? "frmTrm0" : livello < 8 ? "frmTrm1" : "frmTrm3");
 }
 
@@ -131,7 +135,7 @@ void Partita::Chiudi(Form& form) {
     Pump();
 }
 
-Tavolo::Tavolo(Form& form, Misura misura, const FileUtente& file) : Form_(form), file_(file) {
+Tavolo::Tavolo(Form& form, int livello, const FileUtente& file) : Form_(form), file_(file) {
     const double twips = form.Forms().Screen().TwipsPerPixelX();
     const double barre = 2 * Trova<StatusBar>(form, "StatusBar1").Height();
     // What lies under the maze: the button and twice the bar, the band and the same, or twice the
@@ -139,7 +143,8 @@ Tavolo::Tavolo(Form& form, Misura misura, const FileUtente& file) : Form_(form),
     const double sotto = form.Name() == "frmTrm0"   ? 660 + barre
                          : form.Name() == "frmTrm1" ? 1455 + barre
                                                     : 2 * 780.0;
-    Pianta_ = Pianta::Su(form.Width(), form.Height() - sotto, misura.Righe, misura.Colonne, twips);
+    const auto [righe, colonne] = MisuraDi(livello);
+    Pianta_ = Pianta::Su(form.Width(), form.Height() - sotto, righe, colonne, twips);
 }
 
 Vista Tavolo::Guarda() const {
@@ -207,16 +212,6 @@ bool Tavolo::Risolto() const {
 
 QRgb Tavolo::Colore(Riga riga) const {
     return Pixel(std::stoi(file_.Righe.at(riga)));
-}
-
-Tavolo ConTavolo::Apri(int livello, const FileUtente& file) {
-    disco_.Scrivi("_predefinito", file);
-    Form& form = partita_.ApriLivello(livello);
-    return Tavolo(form, MisureLivelli.at(static_cast<std::size_t>(livello)), file);
-}
-
-void ConTavolo::Comando(const Tavolo& tavolo, int lettera) {
-    Tap(tavolo.Form_, lettera, Qt::ControlModifier);
 }
 
 }  // namespace trameli

@@ -28,22 +28,13 @@ struct Misura {
     int Righe;
     int Colonne;
 };
-inline constexpr std::array<Misura, NumeroLivelliGioco> MisureLivelli{{{6, 9},
-                                                                       {6, 9},
-                                                                       {6, 9},
-                                                                       {6, 9},
-                                                                       {6, 9},
-                                                                       {8, 11},
-                                                                       {8, 11},
-                                                                       {8, 11},
-                                                                       {3, 4},
-                                                                       {4, 5},
-                                                                       {5, 6},
-                                                                       {6, 7},
-                                                                       {8, 10},
-                                                                       {10, 15},
-                                                                       {12, 18},
-                                                                       {15, 20}}};
+constexpr Misura MisuraDi(int livello) {
+    constexpr std::array<Misura, 8> crescenti{
+        {{3, 4}, {4, 5}, {5, 6}, {6, 7}, {8, 10}, {10, 15}, {12, 18}, {15, 20}}};
+    return livello < 5   ? Misura{6, 9}
+           : livello < 8 ? Misura{8, 11}
+                         : crescenti.at(static_cast<std::size_t>(livello - 8));
+}
 
 /// The control of a form by its name, and its index if it is one of several.
 template <typename T>
@@ -98,6 +89,8 @@ public:
     Form& ApriMenu(bool pronto = true);
     /// Goes to the menu if it is not there, chooses the level and starts it, up to its maze.
     Form& ApriLivello(int livello);
+    /// The same where the window may be gone again before its maze comes.
+    void AvviaLivello(int livello);
 
     Form& Finestra(const std::string& nome);
     bool Aperta(const std::string& nome);
@@ -115,7 +108,7 @@ public:
 /// A maze on the screen and the hands that walk it.
 class Tavolo {
 public:
-    explicit Tavolo(Form& form, Misura misura, const FileUtente& file = {});
+    Tavolo(Form& form, int livello, const FileUtente& file = {});
 
     Form& Form_;
     Pianta Pianta_;
@@ -154,12 +147,25 @@ private:
 class ConTavolo : public testing::Test {
 protected:
     /// Starts the level, for a user with these settings.
-    Tavolo Apri(int livello, const FileUtente& file = {});
+    Tavolo Apri(int livello, const FileUtente& file = {}) {
+        disco_.Scrivi("_predefinito", file);
+        return {partita_.ApriLivello(livello), livello, file};
+    }
     /// Ctrl with a letter, a Qt::Key.
-    static void Comando(const Tavolo& tavolo, int lettera);
+    static void Comando(const Tavolo& tavolo, int lettera) {
+        Tap(tavolo.Form_, lettera, Qt::ControlModifier);
+    }
 
     Disco disco_;
     Partita partita_{disco_, {800, 600}, 7};
 };
+
+/// The name of a case that is a level, or a screen.
+inline std::string NomeLivello(const testing::TestParamInfo<int>& voce) {
+    return "Level" + std::to_string(voce.param);
+}
+inline std::string NomeSchermo(const testing::TestParamInfo<PixelSize>& voce) {
+    return std::to_string(voce.param.Width) + "x" + std::to_string(voce.param.Height);
+}
 
 }  // namespace trameli

@@ -1,15 +1,11 @@
 // Where the keyboard is while a player has one key or two, and that it is never lost.
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QMenu>
-#include <QMenuBar>
 #include <functional>
 #include <vector>
 
 #include "game/interruttori.h"
 #include "platform/command_button.h"
-#include "platform/qt/form_window.h"
 
 namespace trameli {
 namespace {
@@ -31,48 +27,6 @@ TEST_P(OgniTastiera, TheKeyboardComesBackFromAClick) {
     ClickOn(labirinto);
     Conferma(tavolo.Form_);
     EXPECT_EQ(tavolo.Urti() + tavolo.Passi(), 1);
-}
-
-TEST_P(OgniTastiera, TheTimerTakesTheKeyboardFromNoMenuAndNoOtherProgram) {
-    const auto [livello, modo] = GetParam();
-    const Tavolo tavolo = Apri(livello, modo);
-    Tic();
-    QMenuBar* const barra = dynamic_cast<FormWindow&>(WindowOf(tavolo.Form_)).menuBar();
-    barra->setFocus(Qt::MenuBarFocusReason);
-    Tic(2);
-    EXPECT_TRUE(barra->hasFocus());
-    barra->setActiveAction(barra->actions().front());  // opens its menu
-    Pump();
-    QWidget* const menu = QApplication::activePopupWidget();
-    ASSERT_NE(menu, nullptr);
-    Tic(2);
-    EXPECT_EQ(QApplication::activePopupWidget(), menu);
-    EXPECT_FALSE(ImmagineTasti(tavolo.Form_).hasFocus());
-    menu->close();
-    barra->clearFocus();
-
-    // A menu that the mouse opens leaves the focus where it was.
-    auto& labirinto = Trova<PictureBox>(tavolo.Form_, "pictureTramelo");
-    ClickOn(labirinto);
-    QMenu delMouse(&WindowOf(tavolo.Form_));
-    delMouse.addAction("Voce");
-    delMouse.popup({10, 10});
-    Pump();
-    ASSERT_EQ(QApplication::activePopupWidget(), &delMouse);
-    Tic(2);
-    EXPECT_TRUE(WidgetOf(labirinto).hasFocus());
-    delMouse.close();
-
-    QWidget altro;
-    altro.show();
-    altro.activateWindow();
-    Pump();
-    Tic(3);
-    EXPECT_EQ(QApplication::activeWindow(), &altro);
-    WindowOf(tavolo.Form_).activateWindow();
-    Pump();
-    Tic();
-    EXPECT_TRUE(ImmagineTasti(tavolo.Form_).hasFocus());
 }
 
 TEST_P(OgniTastiera, ASolvedMazeIsFollowedByTheNextWhateverHappensInBetween) {

@@ -13,17 +13,9 @@ const std::string Boing = "wave P:\\suoni\\boing.wav";
 const std::string Si = "wave P:\\suoni\\si.wav";
 const std::string Tic = "wave P:\\suoni\\muovi.wav";
 
-class SuoniInGioco : public testing::TestWithParam<int> {
-protected:
-    Tavolo Apri(Partita& partita) const {
-        return Tavolo(partita.ApriLivello(GetParam()),
-                      MisureLivelli.at(static_cast<std::size_t>(GetParam())));
-    }
+class SuoniInGioco : public ConTavolo, public testing::WithParamInterface<int> {};
 
-    Disco disco_;
-};
-
-INSTANTIATE_TEST_SUITE_P(Livelli, SuoniInGioco, testing::Values(3, 9));
+INSTANTIATE_TEST_SUITE_P(Livelli, SuoniInGioco, testing::Values(3, 9), NomeLivello);
 
 TEST_P(SuoniInGioco, AreThoseThatThePlayerWants) {
     struct {
@@ -38,7 +30,7 @@ TEST_P(SuoniInGioco, AreThoseThatThePlayerWants) {
             "_predefinito",
             FileUtente().Con(RigaSuoni, caso.Suoni).Con(RigaSuonoMovimento, caso.Movimento));
         Partita partita(disco_, {800, 600}, 7);
-        const Tavolo tavolo = Apri(partita);
+        const Tavolo tavolo(partita.ApriLivello(GetParam()), GetParam());
         const auto passi = tavolo.Soluzione();
         // Before the first step every other way is a wall.
         tavolo.Passo(Contrario(passi.front()));
@@ -50,17 +42,6 @@ TEST_P(SuoniInGioco, AreThoseThatThePlayerWants) {
         attesi.insert(attesi.end(), caso.Coppa.begin(), caso.Coppa.end());
         EXPECT_EQ(partita.Suoni.Asked, attesi) << caso.Suoni << ", " << caso.Movimento;
     }
-}
-
-TEST_P(SuoniInGioco, TheFifthMazeGivesTheWordToTheMusic) {
-    Partita partita(disco_, {800, 600}, 7);
-    const Tavolo tavolo = Apri(partita);
-    for (int volta = 0; volta < 4; ++volta) {
-        tavolo.Risolvi();
-        ClickOn(Trova<CommandButton>(tavolo.Form_, "BottoneAvanti"));
-    }
-    tavolo.Risolvi();
-    EXPECT_EQ(partita.Suoni.Asked, (Chiesti{Si, Si, Si, Si, "music P:\\suoni\\coppa.mid"}));
 }
 
 }  // namespace
