@@ -27,6 +27,7 @@ Program::Program(const Services& services, std::unique_ptr<Casuale> casuale)
                suoni_, moduloNavigate_, services_.Dialogs, services_.DecimalSeparator},
       forms_(services_.Clock, services_.Screen) {
     RegistraForm();
+    forms_.SwitchesInUse([this] { return stato_.ModoInput != Tastiera; });
 }
 
 bool Program::Main() {

@@ -65,5 +65,33 @@ TEST_P(OgniTastiera, ASolvedMazeIsFollowedByTheNextWhateverHappensInBetween) {
     EXPECT_TRUE(partita_.Aperta("FormFinale"));
 }
 
+TEST_P(OgniTastiera, AKeyThatBouncesOrComesBeforeAnybodyHasSeenAnythingDoesNothing) {
+    const auto [livello, modo] = GetParam();
+    disco_.Scrivi("_predefinito", Utente(modo).Con(RigaLivello, 13));
+    ASSERT_TRUE(partita_.Avvia());
+    partita_.Tempo.Advance(DopoUnaNovita);
+    Tap(partita_.Finestra("FormAvvio"), Qt::Key_Space);
+    for (const double poi : {0.05, 0.2, 0.2}) {
+        partita_.Tempo.Advance(poi);
+        Tap(partita_.Finestra("FormMenu"), Qt::Key_Down);
+    }
+    EXPECT_EQ(partita_.Gioco.Stato().Livello, 13);
+
+    const Tavolo tavolo = Apri(livello, modo);
+    int offerta = 0;
+    Risolvi(tavolo, offerta);
+    for (const double poi : {0.0, 0.2, 0.2}) {
+        partita_.Tempo.Advance(poi);
+        Tap(tavolo.Form_, Qt::Key_Space);
+        ASSERT_TRUE(tavolo.Risolto());  // the cup is seen
+    }
+    partita_.Tempo.Advance(DopoUnaNovita);
+    Conferma(tavolo.Form_);
+    ASSERT_FALSE(tavolo.Risolto());
+    // Nor does the next maze begin with a hit.
+    Tap(tavolo.Form_, modo == Manuale ? Qt::Key_Return : Qt::Key_Space);
+    EXPECT_EQ(tavolo.Urti() + tavolo.Passi(), 0);
+}
+
 }  // namespace
 }  // namespace trameli
