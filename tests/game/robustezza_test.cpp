@@ -91,6 +91,17 @@ TEST_F(MezzoSecondo, CanBeLeftForTheMenuForAnotherGameAndForGood) {
     EXPECT_TRUE(partita_.Gioco.Forms().Ended());
 }
 
+TEST(MenuNonPronto, StartsAMazeThatHasItsSizeAllTheSame) {
+    const Disco disco;
+    disco.Scrivi("_predefinito", FileUtente().Con(RigaLivello, 15));
+    Partita partita(disco);
+    ClickOn(Trova<CommandButton>(partita.ApriMenu(false), "Command1", 0));
+    ASSERT_EQ(partita.Aperte(), Nomi{"frmTrm3"});
+    EXPECT_EQ(Tavolo(partita.Finestra("frmTrm3"), 15).Muri().Interni(), 565 - 299);
+    partita.Tempo.Advance(1);  // the menu's timer went with the menu
+    EXPECT_EQ(partita.Aperte(), Nomi{"frmTrm3"});
+}
+
 TEST(TracciaPiena, WalksOnAndLosesNothingThatIsSeen) {
     const Disco disco;
     Partita partita(disco, {800, 600});

@@ -96,8 +96,10 @@ private:
             // Wild, but there to play.
             ClickOn(Trova<OptionButton>(form, "Option1", Fino(NumeroLivelliGioco)));
             ClickOn(Trova<CommandButton>(form, "Command1", 0));
-        } else if (dado < 50) {
+        } else if (dado < 44) {
             UnTasto(form);
+        } else if (dado < 52) {
+            Tap(form, Qt::Key_N, Qt::ControlModifier);
         } else if (dado < 60) {
             UnaVoce(form);
         } else if (dado < 70) {
