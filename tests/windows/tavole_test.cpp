@@ -273,7 +273,12 @@ private:
                                widget.height() * std::stoi(percento.at(1)) / 100});
          }},
         {"tab", [this](const std::string& numero) { Linguetta(std::stoi(numero) - 1); }},
-        {"key", [this](const std::string& tasto) { Tap(Davanti(), Tasti.at(tasto)); }},
+        {"key",
+         [this](const std::string& tasto) {
+             partita_->Tempo.Advance(0.6);  // sooner, it might be the bouncing of a switch
+             Tap(Davanti(), Tasti.at(tasto));
+         }},
+        {"quick", [this](const std::string& tasto) { Tap(Davanti(), Tasti.at(tasto)); }},
         {"type",
          [this](const std::string& testo) {
              for (const QChar lettera : QString::fromStdString(testo)) {

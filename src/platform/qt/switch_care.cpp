@@ -27,6 +27,11 @@ bool IsHarmless(int key) {
     }
 }
 
+/// True if keys are letters there: whoever writes a name strikes one key twice in no time.
+bool IsForWriting(const QWidget* widget) {
+    return widget && widget->testAttribute(Qt::WA_InputMethodEnabled);
+}
+
 }  // namespace
 
 bool SwitchCare::Refuses(const QKeyEvent& press, const QWidget* window) {
@@ -37,7 +42,7 @@ bool SwitchCare::Refuses(const QKeyEvent& press, const QWidget* window) {
     const double now = forms_.Clock().Now();
     appeared_.removeIf([now](auto one) { return now - one.value() >= Reaction; });
     const bool refused =
-        IsMinded(press) && (Bounces(press) || (window && IsTooSoon(press, *window)));
+        IsMinded(press, window) && (Bounces(press) || (window && IsTooSoon(press, *window)));
     if (refused) {
         refused_.insert(key);
     } else {
@@ -47,7 +52,7 @@ bool SwitchCare::Refuses(const QKeyEvent& press, const QWidget* window) {
 }
 
 bool SwitchCare::IsTooSoon(const QKeyEvent& press, const QWidget& window) const {
-    return IsMinded(press) &&
+    return IsMinded(press, &window) &&
            (appeared_.contains(&window) || appeared_.contains(window.focusWidget()));
 }
 
@@ -65,8 +70,9 @@ bool SwitchCare::Bounces(const QKeyEvent& press) const {
     return last != wentUp_.end() && forms_.Clock().Now() - *last < Bounce;
 }
 
-bool SwitchCare::IsMinded(const QKeyEvent& press) const {
-    return forms_.SwitchesInUse() && !IsHarmless(press.key());
+bool SwitchCare::IsMinded(const QKeyEvent& press, const QWidget* window) const {
+    return forms_.SwitchesInUse() && !IsHarmless(press.key()) &&
+           !IsForWriting(window ? window->focusWidget() : nullptr);
 }
 
 }  // namespace trameli

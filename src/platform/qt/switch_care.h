@@ -30,7 +30,7 @@ public:
 
 private:
     bool Bounces(const QKeyEvent& press) const;
-    bool IsMinded(const QKeyEvent& press) const;
+    bool IsMinded(const QKeyEvent& press, const QWidget* window) const;
 
     const Forms& forms_;
     QHash<quint64, double> wentUp_;           // when each key did last
