@@ -141,11 +141,11 @@ TEST_F(LingueAMano, AreMissedInAMessage) {
 }
 
 TEST_F(LingueAMano, StayForTheRunWhereTheChoiceCannotBeKept) {
-    disco_.ScriviNelProgramma(FileScelta, Scelta("uno"));
+    Write(programma_.Path() / FileScelta, Scelta("uno"));
+    fs::create_directories(disco_.Radice());
+    Write(disco_.DelProgramma("").parent_path(), "");  // no folder can take its place
     Partita& partita = Apri();
     EXPECT_EQ(Cornice(), "One");
-    fs::remove(disco_.DelProgramma(FileScelta));
-    fs::create_directories(disco_.DelProgramma(FileScelta));  // nothing can take its place
     Scegli(0);
     EXPECT_EQ(partita.Messaggi.Messages.size(), 1U);
     GiocaETorna();
