@@ -136,11 +136,8 @@ void FormMenu::MLSFillMenuLanguages() {
 
 /// Marks the current language. Names of files that differ in capitals name different languages.
 void FormMenu::SpuntaLingua() {
-    bool trovata = false;
-    mnuLanguage.ForEach([&](MenuItem& voce) {
-        voce.Checked(!trovata && voce.Caption() == servizi_.Stato.LinguaCorrente);
-        trovata = trovata || voce.Checked();
-    });
+    mnuLanguage.ForEach(
+        [this](MenuItem& voce) { voce.Checked(voce.Caption() == servizi_.Stato.LinguaCorrente); });
 }
 
 void FormMenu::DisponiLivelli() {

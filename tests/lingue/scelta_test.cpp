@@ -28,7 +28,7 @@ protected:
                "mnuLanguages.Caption=\"Tongue\"\nCommand1(1).ToolTipText=\"Leave\"\n"
                "[FormAvvio]\nCommand1.Caption=\"Go\"\n");
         Lingua("due",
-               "[Language]\nLocale=\"de\"\n[FormMenu]\nFrame1.Caption=\"Zwei\"\n"
+               "[FormMenu]\nFrame1.Caption=\"Zwei\"\n"
                "Frame1.Tag=\"@L\"\nOption1(3).Caption=\"vier\"\n");
     }
 
