@@ -44,7 +44,11 @@ public:
     fs::path Folder() const { return root_ / "ImpostazioniProgrammiOvalia" / "trameli"; }
 
 private:
-    std::string pattern_ = (fs::temp_directory_path() / "trameli-XXXXXX").string();
+    // In memory: on a disk the time of a save is that of the disk, which says nothing of the
+    // folder.
+    static constexpr const char* Memory = "/dev/shm";
+    std::string pattern_ =
+        (fs::path(fs::exists(Memory) ? Memory : "/tmp") / "trameli-XXXXXX").string();
     fs::path root_ = mkdtemp(pattern_.data());
 
 public:
@@ -53,7 +57,7 @@ public:
 
 private:
     NoDialogs dialogs_;
-    Lingue texts_;
+    Lingue texts_{Record, Files, dialogs_, ""};
 
 public:
     ModuloPerIni Module{Record, Files, dialogs_, texts_};
