@@ -22,7 +22,6 @@ public:
         Routine Resize;
         Routine Activate;
         Routine Unload;
-        Routine QueryClose;
         FormStyle Style = FormStyle::Maximised;
         std::function<bool(ScriptedForm&, int)> KeyDown;
         std::function<void(ScriptedForm&, int)> KeyUp;
@@ -70,13 +69,6 @@ protected:
     void Form_Resize() override { Do("Resize", script_.Resize); }
     void Form_Activate() override { Do("Activate", script_.Activate); }
     void Form_Unload() override { Do("Unload", script_.Unload); }
-    void Form_QueryClose() override {
-        if (script_.QueryClose) {
-            script_.QueryClose(*this);
-        } else {
-            Form::Form_QueryClose();
-        }
-    }
     void Form_MouseMove() override { Note("MouseMove"); }
     bool Form_KeyDown(int keyCode, int) override {
         return script_.KeyDown && script_.KeyDown(*this, keyCode);
