@@ -105,16 +105,4 @@ inline double Share(const QImage& image, Colour colour) {
            static_cast<double>(std::max(1, image.width() * image.height()));
 }
 
-/// How many pixels of two pictures of one size differ.
-inline long Differences(const QImage& a, const QImage& b) {
-    EXPECT_EQ(a.size(), b.size());
-    long count = 0;
-    for (int y = 0; y < std::min(a.height(), b.height()); ++y) {
-        for (int x = 0; x < std::min(a.width(), b.width()); ++x) {
-            count += a.pixel(x, y) != b.pixel(x, y);
-        }
-    }
-    return count;
-}
-
 }  // namespace trameli
