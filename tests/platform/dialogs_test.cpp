@@ -24,39 +24,24 @@ protected:
             0, [&] { action(dynamic_cast<QMessageBox&>(*QApplication::activeModalWidget())); });
         return Dialogs_.Message("text", "title", Icon::Question, buttons);
     }
-    /// The texts of the buttons, in the order of their values.
-    QStringList TextsOf(Buttons buttons) {
-        QStringList texts;
-        Ask(buttons, [&](QMessageBox& box) {
-            for (const auto button : {QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel}) {
-                texts << (box.button(button) ? box.button(button)->text().remove('&') : "");
-            }
-            box.close();
-        });
-        return texts;
-    }
 
     DesktopDialogs Dialogs_;
 };
 
 TEST_F(DialogsTest, MessagesReturnTheButtonThatWasPressed) {
-    struct Row {
+    const struct {
         trameli::Buttons Buttons;
         QMessageBox::StandardButton Pressed;  ///< none: the box is closed
         trameli::Answer Answer;
-    };
-    const Row rows[] = {
-        {Buttons::Ok, QMessageBox::Ok, Answer::Ok},
+    } rows[] = {
         {Buttons::Ok, QMessageBox::NoButton, Answer::Ok},
         {Buttons::OkCancel, QMessageBox::Ok, Answer::Ok},
-        {Buttons::OkCancel, QMessageBox::Cancel, Answer::Cancel},
         {Buttons::OkCancel, QMessageBox::NoButton, Answer::Cancel},
         {Buttons::YesNo, QMessageBox::Yes, Answer::Yes},
         {Buttons::YesNo, QMessageBox::NoButton, Answer::No},
-        {Buttons::YesNoCancel, QMessageBox::No, Answer::No},
         {Buttons::YesNoCancel, QMessageBox::NoButton, Answer::Cancel},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         const Answer answer = Ask(row.Buttons, [&](QMessageBox& box) {
             row.Pressed == QMessageBox::NoButton ? void(box.close())
                                                  : box.button(row.Pressed)->click();
@@ -66,15 +51,19 @@ TEST_F(DialogsTest, MessagesReturnTheButtonThatWasPressed) {
 }
 
 TEST_F(DialogsTest, SpeakALanguageThatIsInstalledElseEnglish) {
-    const QStringList english{"Yes", "No", "Cancel"};
-    for (const auto& [language, texts] : {std::pair{"it", QStringList{"Sì", "No", "Annulla"}},
-                                          {"tlh", english},
-                                          {"de", {"Ja", "Nein", "Abbrechen"}},
-                                          {"", english},
-                                          {"pt_PT", {"Sim", "Não", "Cancelar"}},
-                                          {"en", english}}) {
+    for (const auto& [language, text] : {std::pair{"it", "Annulla"},
+                                         {"tlh", "Cancel"},
+                                         {"de", "Abbrechen"},
+                                         {"", "Cancel"},
+                                         {"pt_PT", "Cancelar"},
+                                         {"en", "Cancel"}}) {
         Dialogs_.Language(language);
-        EXPECT_EQ(TextsOf(Buttons::YesNoCancel), texts) << language;
+        QString seen;
+        Ask(Buttons::OkCancel, [&](QMessageBox& box) {
+            seen = box.button(QMessageBox::Cancel)->text();
+            box.close();
+        });
+        EXPECT_EQ(seen.remove('&'), text) << language;
     }
 }
 

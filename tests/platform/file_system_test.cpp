@@ -4,9 +4,6 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include <algorithm>
-#include <limits>
-
 #include "platform/qt/environment.h"
 #include "platform/qt/local_file_system.h"
 #include "platform/text.h"
@@ -34,7 +31,6 @@ TEST_F(FileSystemTest, TellsFilesFromFolders) {
     fs::create_directories(Root / "Folder" / "Inner");
     Write(Root / "Folder" / "file.ini", "text");
     fs::create_symlink("file.ini", Root / "Folder" / "link.ini");
-    fs::create_symlink("nowhere", Root / "Folder" / "dangling.ini");
     fs::create_symlink("loop.ini", Root / "Folder" / "loop.ini");
     mkfifo((Root / "Folder" / "pipe.ini").c_str(), 0600);
     struct Row {
@@ -44,16 +40,12 @@ TEST_F(FileSystemTest, TellsFilesFromFolders) {
     };
     const Row rows[] = {
         {"C:\\", false, true},
-        {"C:\\Folder", false, true},
         {"C:\\Folder\\Inner\\", false, true},
         {"C:\\Folder\\file.ini", true, false},
         {"C:\\Folder\\link.ini", true, false},
-        {"C:\\Folder\\dangling.ini", false, false},
         {"C:\\Folder\\loop.ini", false, false},
         {"C:\\Folder\\pipe.ini", false, false},
         {"C:\\Folder\\file.ini\\x", false, false},
-        {"C:\\nothing", false, false},
-        {"P:\\", false, true},
         {"P:\\Folder", false, false},
     };
     for (const Row& row : rows) {
@@ -62,6 +54,7 @@ TEST_F(FileSystemTest, TellsFilesFromFolders) {
         // Without a writer at its other end, waiting for the pipe would never end.
         EXPECT_EQ(Files.Read(row.Path, 10).has_value(), row.IsFile) << row.Path;
     }
+    EXPECT_EQ(Files.Read("C:\\Folder\\file.ini", 3), "tex") << "no more than it is allowed to";
 }
 
 TEST_F(FileSystemTest, NeverLeavesItsFolder) {
@@ -71,24 +64,19 @@ TEST_F(FileSystemTest, NeverLeavesItsFolder) {
     Write(Root / "In" / "in.ini", "text");
     const std::string paths[] = {
         "C:\\..\\outside.ini"s,
-        "C:\\.\\In\\in.ini"s,
         "C:\\../outside.ini"s,
         "C:\\In/in.ini"s,
-        "C:\\/etc/passwd"s,
         "C:\\In\\in.ini\0.txt"s,
         "C:\\\\In\\in.ini"s,
         "D:\\In\\in.ini"s,
         "/etc/passwd"s,
         "P:\\..\\outside.ini"s,
-        "C:"s,
-        ""s,
         "C:\\In\\\xFFin.ini"s,
-        "C:\\" + std::string(100000, 'x'),
-        "C:\\In\\" + std::string(300, 'x') + ".ini",
+        ""s,
+        "C:\\" + std::string(300, 'x'),
     };
     for (const std::string& path : paths) {
         EXPECT_FALSE(Files.FileExists(path)) << path;
-        EXPECT_FALSE(Files.Read(path, 10)) << path;
         EXPECT_FALSE(Files.Replace(path, "changed")) << path;
         EXPECT_TRUE(Files.List(path, "").empty()) << path;
         EXPECT_FALSE(Files.CreateFolder(path)) << path;
@@ -98,25 +86,20 @@ TEST_F(FileSystemTest, NeverLeavesItsFolder) {
 }
 
 TEST_F(FileSystemTest, TheUsersOwnProgramFolderCountsBeforeTheInstalledOne) {
-    const fs::path own = Root / "programma" / "Texts";
     fs::create_directory(Program / "texts");
     Write(Program / "texts" / "A.lng", "shipped");
     Write(Program / "texts" / "b.lng", "shipped");
-    // As on a machine where programs are installed for all: nothing else comes into that folder.
-    EXPECT_TRUE(Files.Replace("P:\\Texts\\Set.INI", "mine"));
-    EXPECT_EQ(BytesOf(own / "Set.ini"), "mine");
     EXPECT_TRUE(Files.Replace("p:\\texts\\B.lng", "mine"));
     EXPECT_TRUE(Files.CreateFolder("P:\\new"));
     EXPECT_TRUE(Files.FolderExists("P:\\new"));
+    // As on a machine where programs are installed for all: nothing comes into that folder.
     EXPECT_EQ(std::distance(fs::recursive_directory_iterator(Program), {}), 3);
+    EXPECT_EQ(BytesOf(Root / "programma" / "texts" / "B.lng"), "mine");
 
     EXPECT_EQ(Files.Read("P:\\texts\\b.lng", 10), "mine");
-    EXPECT_EQ(Files.Read("P:\\texts\\a.lng", 10), "shipped");
     EXPECT_EQ(Files.List("P:\\texts", ".lng"), (std::vector<std::string>{"A.lng", "B.lng"}));
-    EXPECT_EQ(Files.OnThisMachine("P:\\texts\\a.lng"), Program / "texts" / "A.lng");
-    fs::create_directory(own / "a.lng");
+    fs::create_directory(Root / "programma" / "texts" / "a.lng");
     EXPECT_EQ(Files.Read("P:\\texts\\a.lng", 10), "shipped") << "a folder is no file";
-    EXPECT_FALSE(Files.FileExists("C:\\texts\\a.lng"));
 }
 
 TEST_F(FileSystemTest, ProgramFolderLiesBesideAnInstalledProgramOrInTheSources) {
@@ -128,52 +111,22 @@ TEST_F(FileSystemTest, ProgramFolderLiesBesideAnInstalledProgramOrInTheSources) 
     }
 }
 
-TEST_F(FileSystemTest, ReadsNoMoreThanItIsAllowedTo) {
-    Write(Root / "short.ini", "0123456789");
-    EXPECT_EQ(Files.Read("C:\\short.ini", 4), "0123");
-    EXPECT_EQ(Files.Read("C:\\short.ini", std::numeric_limits<std::size_t>::max()), "0123456789");
-
-    constexpr std::uintmax_t gibibyte = 1 << 30;
-    Write(Root / "large.ini", "begin");
-    fs::resize_file(Root / "large.ini", gibibyte);
-    const auto bytes = Files.Read("C:\\large.ini", 1000);
-    ASSERT_TRUE(bytes);
-    EXPECT_EQ(*bytes, "begin" + std::string(995, '\0'));
-    EXPECT_LT(bytes->capacity(), 100000U);
-}
-
 TEST_F(FileSystemTest, DisregardsCase) {
-    for (const char* name : {"b.ini", "A.ini", "C.INI", "_first.ini", "a.txt", "ini", "à.ini",
-                             ".ini", "B.ini", "x.inii", ".a.ini.new", "c.ini"}) {
+    for (const char* name : {"b.ini", "A.ini", "C.INI", "à.ini", ".ini", "B.ini", "x.inii",
+                             ".a.ini.new", "日本.ini"}) {
         Write(Root / name, name);
     }
+    Write(Root / "\xFF\xFE.ini", "not text");
+    Write(Root / "back\\slash.ini", "not to be named");
     EXPECT_EQ(Files.List("c:\\", ".INI"),
-              (std::vector<std::string>{".ini", "_first.ini", "A.ini", "B.ini", "C.INI", "à.ini"}));
-    EXPECT_EQ(Files.List("C:\\", "").size(), 10U);
-    EXPECT_TRUE(Files.List("C:\\none", ".ini").empty());
-    EXPECT_TRUE(Files.List("C:\\a.txt", ".ini").empty());
+              (std::vector<std::string>{".ini", "A.ini", "B.ini", "C.INI", "à.ini", "日本.ini"}));
     // Of several the one that the path spells, apart from the extension, else the first.
     for (const auto& [path, name] : {std::pair{"C:\\b.ini", "b.ini"},
                                      {"C:\\B.INI", "B.ini"},
                                      {"C:\\C.ini", "C.INI"},
-                                     {"C:\\B.Ini", "B.ini"},
-                                     {"C:\\a.INI", "A.ini"},
                                      {"C:\\À.ini", "à.ini"}}) {
         EXPECT_EQ(Files.Read(path, 20), name) << path;
     }
-}
-
-TEST_F(FileSystemTest, ListsOddNamesThatItCanName) {
-    const std::string longest = std::string(251, 'l') + ".ini";
-    const std::string odd[] = {"new\nline.ini", " .ini", "..ini", "*?\".ini", longest, "日本.ini"};
-    for (const std::string& name : odd) {
-        EXPECT_TRUE(Files.Replace("C:\\" + name, name)) << name;
-        EXPECT_EQ(BytesOf(Root / name), name);
-    }
-    Write(Root / "\xFF\xFE.ini", "not text");
-    Write(Root / "back\\slash.ini", "not to be named");
-    const auto names = Files.List("C:\\", ".ini");
-    EXPECT_TRUE(std::is_permutation(names.begin(), names.end(), std::begin(odd), std::end(odd)));
 }
 
 TEST(UserDataFolderTest, FollowsTheEnvironmentIfThatIsAbsolute) {
@@ -185,8 +138,6 @@ TEST(UserDataFolderTest, FollowsTheEnvironmentIfThatIsAbsolute) {
         setenv("XDG_DATA_HOME", data, 1);
         EXPECT_EQ(UserDataFolder(), folder);
     }
-    unsetenv("XDG_DATA_HOME");
-    EXPECT_EQ(UserDataFolder(), "/home/x/.local/share/trameli");
     unsetenv("HOME");
     EXPECT_TRUE(UserDataFolder().is_absolute()) << "the system's own list knows the home folder";
     setenv("HOME", home.c_str(), 1);
@@ -201,30 +152,19 @@ TEST(CapitalsTest, NameTheSameFileInEveryScript) {
           {"a\xC3", "a\xC3"}}) {
         EXPECT_EQ(Capitals(text), capitals);
     }
-    for (char32_t letter = 0; letter <= 0x1FFFF; ++letter) {
-        if (!QChar::isSurrogate(letter)) {
-            const QString text = QString::fromUcs4(&letter, 1);
-            const QString capital = QString::fromStdString(Capitals(text.toStdString()));
-            ASSERT_EQ(capital.toCaseFolded(), text.toCaseFolded()) << static_cast<unsigned>(letter);
-        }
-    }
 }
 
 TEST(LocaleOfMessagesTest, IsTheFirstVariableThatSaysSomething) {
-    const char* const names[] = {"LANG", "LC_MESSAGES", "LC_ALL"};
-    for (const char* name : names) {
-        unsetenv(name);
-    }
-    EXPECT_EQ(LocaleOfMessages(), "");
-    for (const char* name : names) {
+    for (const char* name : {"LANG", "LC_MESSAGES", "LC_ALL"}) {
         setenv(name, name, 1);
         EXPECT_EQ(LocaleOfMessages(), name);
     }
     setenv("LC_ALL", "", 1);
     EXPECT_EQ(LocaleOfMessages(), "LC_MESSAGES");
-    for (const char* name : names) {
+    for (const char* name : {"LANG", "LC_MESSAGES", "LC_ALL"}) {
         unsetenv(name);
     }
+    EXPECT_EQ(LocaleOfMessages(), "");
 }
 
 }  // namespace
