@@ -21,23 +21,15 @@ struct Caso {
 const std::vector<Caso> Piccoli{
     {"[S]\nK=\"a\"", "a"},
     {"[S]\r\nK=\"a\"\r\n", "a"},
-    {"[S]\rK=\"a\"\rL=\"b\"", "a"},
     {" [ s ] \n\t k = \"a\" \t\n", "a"},  // case and blanks round the parts do not matter
     {"[S]\nK=a b", "a b"},
     {"[S]\nK=\" a \"", " a "},
     {"[S]\nK=\"a\"\"b=c\"", "a\"\"b=c"},
     {"[S]\nK=\"a", "\"a"},
-    {"[S]\nK=a\"", "a\""},
-    {"[S]\nK=\"", "\""},
-    {"[S]\nK=", ""},
     {"[S]\nK\n=\"x\"\n[\n]\n;K=\"x\"\nKK=\"x\"\nK=\"a\"", "a"},  // lines that say nothing
     {"K=\"x\"\n[T]\nK=\"x\"\n[S]\nK=\"a\"\nK=\"x\"\n[S]\nK=\"x\"", "a"},
-    {"[S]\n[T]\n[S]\nK=\"a\"", "a"},
-    {"[S\nK=\"x\"", ""},
-    {"", ""},
     // Up to the first zero character, at most 511 characters.
     {"[S]\nK=\"a\0b\""s, "a"},
-    {"\0[S]\n[S]\nK=\"a\""s, "a"},
     {"[S]\nK=\"" + std::string(512, 'a') + "\"", std::string(511, 'a')},
     {"[S]\nK=\"" + std::string(510, 'a') + "\xC3\xA8\xC3\xA8\"",
      std::string(510, 'a') + "\xC3\xA8"},
@@ -45,8 +37,6 @@ const std::vector<Caso> Piccoli{
     {"\xEF\xBB\xBF[S]\nK=\"perch\xC3\xA9\"", "perch\xC3\xA9"},
     {"[S]\nK=\"perch\xE9 \x80\x9F\"", "perch\xC3\xA9 \xE2\x82\xAC\xC5\xB8"},
     {"\xEF\xBB\xBF[S]\nK=\"\xE9\"", "\xC3\xA9"},
-    {"[S]\nK=\"\xED\xA0\x80\"", "\xC3\xAD\xC2\xA0\xE2\x82\xAC"},  // half of a pair
-    {"[S]\nK=\"\xF0\x9F\x8F\x86 \xE2\x9C\x93\"", "\xF0\x9F\x8F\x86 \xE2\x9C\x93"},
     {"[S]\nK=\"\xC0\xAF\"", "\xC3\x80\xC2\xAF"},  // longer than need be
     {"[S]\nK=\"\xC3", "\"\xC3\x83"},              // cut off
 };
@@ -71,29 +61,17 @@ TEST(FileLingua, LosesItsSectionsWhereItIsLong) {
     EXPECT_EQ(piccolo.Valore("S", "K"), "b");
     EXPECT_EQ(grande.Valore("S", "K"), "a\xC3\xA8");
 
-    const std::string sparso = "KK=\"a\"\n K=\"b\"\nM(x\xC3\xA8y\xC3\xA8\nN=\"" +
-                               std::string(600, 'a') + "\"\nO\nP=\nQ=\xC3\xA8\nR=\"a\0b\"\n"s;
-    const std::vector<std::pair<std::string, std::string>> valori{
-        {"K", "\"a"},  // the longer key begins with it, and comes first
-        {"k", ""},    {"M", "\xC3\xA8y"}, {"N", std::string(600, 'a')},
-        {"O", ""},    {"P", ""},          {"Q", ""},
-        {"R", "a"},   {"Z", ""}};
+    const std::string sparso = "KK=\"a\"\n K=\"b\"\nM(x\xC3\xA8y\xC3\xA8\nO\nR=\"a\0b\"\n"s;
     const FileLingua file(Lungo(sparso, 64001));
-    for (const auto& [chiave, valore] : valori) {
+    for (const auto& [chiave, valore] :
+         {std::pair{"K", "\"a"},  // the longer key begins with it, and comes first
+          {"k", ""},
+          {"M", "\xC3\xA8y"},
+          {"O", ""},
+          {"R", "a"},
+          {"Z", ""}}) {
         EXPECT_EQ(file.Valore("S", chiave), valore) << chiave;
     }
-}
-
-TEST(FileLingua, IsReadAsFarAsItsLimit) {
-    std::string file = "K=\"\xC3\xA9\"\n";
-    while (file.size() < FileLingua::LimiteLettura) {
-        file += "L=\"\xC3\xA9\"\n";  // one of them lies across the limit
-    }
-    file += "M=\"a\"\n";
-    const FileLingua letto(file);
-    EXPECT_EQ(letto.Valore("S", "K"), "\xC3\xA9");
-    EXPECT_EQ(letto.Valore("S", "M"), "");
-    EXPECT_EQ(FileLingua(std::string(FileLingua::LimiteLettura, 'K')).Valore("S", "K"), "");
 }
 
 TEST(FileLingua, TakesAValueAndKeepsTheRest) {

@@ -15,9 +15,8 @@ namespace trameli {
 /// Files that live in a map, without regard to case, and fail when told to. Every folder is there.
 class FileSystemFinto : public FileSystem {
 public:
-    bool ScritturaGuasta = false;        ///< no file can be written
-    std::set<std::string> Illeggibili;   ///< paths in capitals of files that cannot be read
-    mutable std::size_t UltimoLimite{};  ///< how much was asked for at the last read
+    bool ScritturaGuasta = false;       ///< no file can be written
+    std::set<std::string> Illeggibili;  ///< paths in capitals of files that cannot be read
 
     bool FileExists(const std::string& path) const override {
         return file_.contains(Capitals(path));
@@ -26,7 +25,6 @@ public:
     bool CreateFolder(const std::string& /*path*/) override { return true; }
 
     std::optional<std::string> Read(const std::string& path, std::size_t limit) const override {
-        UltimoLimite = limit;
         if (!FileExists(path) || Illeggibili.contains(Capitals(path))) {
             return std::nullopt;
         }

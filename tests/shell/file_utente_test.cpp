@@ -48,22 +48,18 @@ TEST(FileUtente, IsWrittenAndReadByteForByte) {
     EXPECT_EQ(Leggi(Unisci(Predefinite)), Impostazioni());
     EXPECT_EQ(Testo(Diverse), Unisci(RigheDiverse));
     EXPECT_EQ(Leggi(Unisci(RigheDiverse)), Diverse);
-    Impostazioni negativo;
-    negativo.Livello = -5;
-    EXPECT_TRUE(Testo(negativo).starts_with("-5 \r\n"));
 }
 
-TEST(FileUtente, CutAtEveryByte) {
+TEST(FileUtente, CutShortIsNoRecordAndWhatFollowsIsNotLookedAt) {
     const std::string testo = Unisci(RigheDiverse);
-    // Only the digits of the last value must be there; cut behind the first of them, it is another
-    // number.
-    const std::size_t ultimaCifra = testo.rfind("60") + 1;
-    for (std::size_t lunghezza = 0; lunghezza <= testo.size(); ++lunghezza) {
-        const auto lette = Leggi(testo.substr(0, lunghezza));
-        EXPECT_EQ(lette.has_value(), lunghezza >= ultimaCifra) << lunghezza;
-        if (lunghezza > ultimaCifra) {
-            EXPECT_EQ(lette, Diverse) << lunghezza;
-        }
+    // Only the digits of the last value must be there.
+    const std::size_t fine = testo.rfind("60") + 2;
+    for (std::size_t lunghezza = 0; lunghezza < fine - 1; ++lunghezza) {
+        EXPECT_EQ(Leggi(testo.substr(0, lunghezza)), std::nullopt) << lunghezza;
+    }
+    EXPECT_EQ(Leggi(testo.substr(0, fine)), Diverse);
+    for (const char* coda : {"17\r\n", "parola", ",,,", "\x1A"}) {
+        EXPECT_EQ(Leggi(testo + coda), Diverse) << coda;
     }
 }
 
@@ -72,80 +68,57 @@ TEST(FileUtente, ValuesArePartedByAnyLineEndOrComma) {
         EXPECT_EQ(Leggi(Unisci(RigheDiverse, separatore)), Diverse);
     }
     EXPECT_EQ(Leggi("12,True,False,False\n16777215 , 1,100000 1000000 10000000 0\r6,False,True,"
-                    "True,2   60\r\n17,"),
-              Diverse)
-        << "mixed, and with more behind";
+                    "True,2   60"),
+              Diverse);
 }
 
-TEST(FileUtente, OnlyACapitalTAtTheStartOfAFlagCounts) {
-    Impostazioni senza = Diverse;
-    senza.UsaMaiuscolo = false;
-    for (const char* parola : {"True", "T", "Tavolo e sedia"}) {
-        EXPECT_EQ(Leggi(ConRiga(2, parola)), Diverse) << parola;
-    }
-    for (const char* parola : {"", "true", "-1", "\"True\"", " True", "\xD0\xA2"}) {
-        EXPECT_EQ(Leggi(ConRiga(2, parola)), senza) << parola;
-    }
-}
-
-TEST(FileUtente, NumbersAreConverted) {
-    const struct {
-        std::size_t Riga;
-        const char* Valore;
-        int Atteso;
-    } casi[] = {
-        {1, "\t 7 ", 7},   {1, "+007.", 7}, {1, ".5", 0}, {1, "2.5", 2},  {1, "3.5", 4},
-        {1, "1.2E+1", 12}, {5, "-0", 0},    {15, "2", 2}, {16, "60", 60},
-    };
-    for (const auto& [riga, valore, atteso] : casi) {
-        // All other values stay.
-        EXPECT_EQ(Testo(Leggi(ConRiga(riga, valore)).value()),
-                  ConRiga(riga, " " + std::to_string(atteso) + " "))
-            << riga << ": " << valore;
-    }
-}
-
-/// Texts for one line of a file.
+/// Texts that one line of a file can have, and what that value is saved as.
 struct ValoriDi {
     std::size_t Riga;
     std::vector<const char*> Valori;
+    std::string Salvato;
 };
 
-TEST(FileUtente, OnlyTheValueOutsideItsRangeIsDefaulted) {
+TEST(FileUtente, EachValueIsReadAsWhatItCanMean) {
+    const auto predefinita = [](std::size_t riga) { return Predefinite.at(riga - 1); };
     const ValoriDi casi[] = {
-        {1, {"16", "-1", "15.5", "32767", "-32768"}},
-        {5, {"16777216", "-1", "254.5", "1e300"}},
-        {6, {"16777216", "-1"}},
-        {7, {"16777216", "-1"}},
-        {8, {"16777216", "-1"}},
-        {9, {"16777216", "-1"}},
-        {10, {"16777216", "-1"}},
-        {11, {"7", "-1"}},
-        {15, {"3", "-1"}},
-        {16, {"1", "61"}},
+        {1, {"     7      ", "\t7\t", "+7", "007", "7."}, " 7 "},
+        {1, {".5", "-0.5", "0"}, " 0 "},
+        {1, {"2.5"}, " 2 "},
+        {1, {"3.5"}, " 4 "},
+        {1, {"1.2E+1"}, " 12 "},
+        {1, {"15"}, " 15 "},
+        {1, {"16", "-1", "15.5", "32767", "-32768"}, predefinita(1)},
+        {2, {"True", "T", "Tavolo e sedia"}, "True"},
+        {2, {"", "true", "-1", "\"True\"", " True", "\xD0\xA2"}, "False"},
+        {5, {"1e3"}, " 1000 "},
+        {5, {"16777215"}, " 16777215 "},
+        {5, {"16777216", "-1", "254.5", "1e300"}, predefinita(5)},
+        {6, {"16777216", "-1"}, predefinita(6)},
+        {10, {"16777216", "-1"}, predefinita(10)},
+        {11, {"7", "-1"}, predefinita(11)},
+        {15, {"2"}, " 2 "},
+        {15, {"3", "-1"}, predefinita(15)},
+        {16, {"2"}, " 2 "},
+        {16, {"1", "61"}, predefinita(16)},
     };
-    for (const auto& [riga, valori] : casi) {
+    for (const auto& [riga, valori, salvato] : casi) {
         for (const char* valore : valori) {
-            EXPECT_EQ(Testo(Leggi(ConRiga(riga, valore)).value()),
-                      ConRiga(riga, Predefinite.at(riga - 1)))
+            // All other values stay.
+            EXPECT_EQ(Testo(Leggi(ConRiga(riga, valore)).value()), ConRiga(riga, salvato))
                 << riga << ": " << valore;
         }
     }
 }
 
 TEST(FileUtente, WhatIsNoNumberSpoilsTheRecord) {
-    const ValoriDi casi[] = {
-        {1,
+    for (const char* valore :
          {"", "32768", "-32769", "32767.5", "4294967299", "1e400", "tre", "3tre", "3;4", "\"3\"",
-          "0x3", "+-3", "+", "-", "- 3", "\xEF\xBB\xBF 3 "}},
-        {5, {"   ", "1e400", "inf", "nan", "3,5", "rosso"}},
-        {11, {"True"}},
-        {16, {"?"}},
-    };
-    for (const auto& [riga, valori] : casi) {
-        for (const char* valore : valori) {
-            EXPECT_EQ(Leggi(ConRiga(riga, valore)), std::nullopt) << riga << ": " << valore;
-        }
+          "0x3", "+-3", "-", "- 3", "\xEF\xBB\xBF 3 ", "True"}) {
+        EXPECT_EQ(Leggi(ConRiga(1, valore)), std::nullopt) << valore;
+    }
+    for (const char* valore : {"   ", "1e400", "inf", "nan", "3,5"}) {
+        EXPECT_EQ(Leggi(ConRiga(5, valore)), std::nullopt) << valore;
     }
 }
 
