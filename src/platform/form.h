@@ -61,6 +61,8 @@ public:
     void Top(double twips);
     void Width(double twips);
     void Height(double twips);
+    void ScaleWidth(double twips) { Width(twips); }
+    void ScaleHeight(double twips) { Height(twips); }
     /// Normal, minimised or maximised.
     enum WindowStates { Normal = 0, Minimised = 1, Maximised = 2 };
     int WindowState() const;
@@ -131,6 +133,10 @@ protected:
     /// the caller returns at once.
     [[nodiscard]] bool Attesa(double secondi);
 
+    /// True while a key, by its KeyCode, is held down that was pressed in this form. A key that was
+    /// down when a menu or another window took the keyboard is not any more.
+    bool KeyIsDown(int keyCode) const;
+
 private:
     friend class trameli::Control;
     friend class trameli::Forms;
@@ -146,6 +152,7 @@ private:
     bool loaded_ = false;
     bool loading_ = false;  // its Form_Load is under way
     bool awaited_ = false;  // to be shown as soon as it is loaded
+    bool leaving_ = false;  // another form is about to take its place
     bool unloading_ = false;
     std::unique_ptr<Native> native_;
 };

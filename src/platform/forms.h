@@ -50,6 +50,9 @@ public:
     Form* Find(const std::string& name) const;
     /// All forms that are loaded just now, the one in front last.
     std::vector<Form*> Loaded() const;
+    /// Shows the form `to` and unloads `from`. None of its events arrives meanwhile, though loading
+    /// the other one serves events: two quick clicks never lead to two windows.
+    void HandOver(Form& from, const std::string& to);
     /// Runs the form's `Form_Unload` and takes it from the screen. None of its routines is started
     /// any more; it is destroyed when the last one under way has returned. The program ends when
     /// no form is left on the screen.

@@ -16,6 +16,10 @@ public:
     const trameli::Picture& Picture() const { return picture_; }
     void Picture(const trameli::Picture& picture);
 
+    /// Whether the Tab key comes to it; it does not, unless told. Space and Enter arrive by
+    /// `KeyUp`.
+    void TakesKeyboard(bool takes);
+
     /// The left mouse button was pressed and released on it.
     std::function<void()> Click;
 

@@ -16,7 +16,7 @@ public:
     bool Value() const;
     void Value(bool chosen);
 
-    /// The button was not the chosen one and is now.
+    /// The button was chosen: by hand, be it once more, or by code that changed the choice.
     std::function<void()> Click;
 
 protected:

@@ -1,6 +1,7 @@
 #include "play/form_a_passi.h"
 
 #include <cstddef>
+#include <utility>
 
 #include "base/rounding.h"
 #include "platform/keys.h"
@@ -31,11 +32,6 @@ FormAPassi::FormAPassi(trameli::Forms& forms, Servizi& servizi, Casuale& casuale
     };
 }
 
-void FormAPassi::Form_Activate() {
-    tenuto_ = false;  // a switch that was down when the window went was let go in another one
-    FormTrm::Form_Activate();
-}
-
 /// Brings the keyboard to where the switches count, before the key goes down there. The timer alone
 /// would not do: its next tick can be 15 seconds away, and while a solved maze is on show it stands
 /// still. A click somewhere would then leave the player no way to go on.
@@ -58,7 +54,6 @@ bool FormAPassi::Form_KeyDown(int keyCode, int /*shift*/) {
 
 void FormAPassi::Form_KeyUp(int keyCode, int /*shift*/) {
     if (stato_.ModoInput != Tastiera) {
-        tenuto_ = tenuto_ && keyCode != KeySpace;
         return;
     }
     if (BottoneAvanti.Visible()) {
@@ -74,7 +69,8 @@ void FormAPassi::Form_KeyUp(int keyCode, int /*shift*/) {
 void FormAPassi::Timer1_Timer() {
     if (stato_.ModoInput == ScansioneManuale) {
         PictureScansioneManuale.SetFocus();
-    } else if (stato_.ModoInput == ScansioneAutomatica && stato_.TrameloDisegnato && !tenuto_) {
+    } else if (stato_.ModoInput == ScansioneAutomatica && stato_.TrameloDisegnato &&
+               !(tenuto_ && KeyIsDown(KeySpace))) {
         OffriProssima();
         offerto_ = true;
         PictureScansioneAutomatica.SetFocus();
@@ -95,7 +91,9 @@ void FormAPassi::PictureScansioneManuale_KeyUp(int keyCode) {
 }
 
 void FormAPassi::PictureScansioneAutomatica_KeyUp(int keyCode) {
-    if (stato_.ModoInput == ScansioneAutomatica && keyCode == KeySpace && InGioco()) {
+    // A new start meanwhile has taken the offer back.
+    if (stato_.ModoInput == ScansioneAutomatica && keyCode == KeySpace &&
+        std::exchange(tenuto_, false) && InGioco()) {
         TogliLineeRotazione();
         PrendiOfferta();
     }

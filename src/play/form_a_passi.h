@@ -19,7 +19,6 @@ protected:
     FormAPassi(trameli::Forms& forms, Servizi& servizi, Casuale& casuale, const DisegnoTrm& disegno,
                DimensioniGriglia griglia, const Bounds& automatica, const Bounds& manuale);
 
-    void Form_Activate() override;
     bool Form_KeyDown(int keyCode, int shift) override;
     void Form_KeyUp(int keyCode, int shift) override;
     /// With one switch, offers the next direction; with either number, fetches the keyboard.
@@ -42,8 +41,6 @@ protected:
 private:
     void OffriProssima();
     void PrendiOfferta();
-
-    bool tenuto_ = false;  ///< the one switch went down on an offer and is still down
 };
 
 }  // namespace trameli

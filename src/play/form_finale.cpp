@@ -145,6 +145,11 @@ void FormFinale::Form_KeyUp(int keyCode, int /*shift*/) {
     }
 }
 
+void FormFinale::Form_QueryClose() {
+    servizi_.ModuloPerIni.ScriviUtente();
+    Form::Form_QueryClose();
+}
+
 void FormFinale::Form_Unload() {
     servizi_.Suoni.FermaMidi();
 }
@@ -204,8 +209,7 @@ void FormFinale::Evidenzia(CommandButton& bottone) {
 }
 
 void FormFinale::ApriGioco() {
-    Forms().Show(FormDelLivello(stato_.Livello));
-    Forms().Unload(*this);
+    Forms().HandOver(*this, FormDelLivello(stato_.Livello));
 }
 
 }  // namespace trameli

@@ -32,6 +32,8 @@ protected:
     void Form_Load() override;
     void Form_Resize() override;
     void Form_Activate() override;
+    /// The level reached is saved before the window goes.
+    void Form_QueryClose() override;
     bool Form_KeyDown(int keyCode, int shift) override;
     void Form_KeyUp(int keyCode, int shift) override;
     void Form_Unload() override;

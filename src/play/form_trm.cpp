@@ -121,6 +121,11 @@ void FormTrm::Form_Activate() {
     }
 }
 
+void FormTrm::Form_QueryClose() {
+    servizi_.ModuloPerIni.ScriviUtente();
+    Form::Form_QueryClose();
+}
+
 void FormTrm::Sgombra() {
     BottoneAvanti.Visible(false);
     ContaPassi = 0;
@@ -154,8 +159,7 @@ void FormTrm::mnuLinee_Click() {
 
 void FormTrm::mnuEsci_Click() {
     Timer1.Enabled(false);
-    Forms().Show("FormMenu");
-    Forms().Unload(*this);
+    Forms().HandOver(*this, "FormMenu");
 }
 
 void FormTrm::BottoneAvanti_GotFocus() {

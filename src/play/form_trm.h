@@ -92,6 +92,8 @@ protected:
 
     void Form_Load() override;
     void Form_Activate() override;
+    /// A thickness changed while playing, or a level reached, is saved before the window goes.
+    void Form_QueryClose() override;
     void BottoneAvanti_Click();
     /// Keeps the timer from taking the keyboard away again.
     void BottoneAvanti_GotFocus();
@@ -161,6 +163,7 @@ protected:
     /// The direction on offer while scanning, a place in DirezioniScansione.
     std::int16_t DirezioneScansione = 0;
     bool offerto_ = false;  ///< its stroke was shown by the timer, and is still there
+    bool tenuto_ = false;   ///< the one switch went down on this offer
 
 private:
     bool sempreIntestata_;

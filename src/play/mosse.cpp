@@ -67,8 +67,7 @@ void FormTrm::MostraFrameTrameloRisolto() {
         ++TrameliRisolti;
         return;
     }
-    Forms().Show("FormFinale");
-    Forms().Unload(*this);
+    Forms().HandOver(*this, "FormFinale");
 }
 
 }  // namespace trameli

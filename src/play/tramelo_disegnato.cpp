@@ -51,6 +51,7 @@ void FormTrm::AzzeraVariabili() {
     giocatore_.Azzera();
     traccia_.Comincia(giocatore_.Percorso().PuntoIniziale);
     offerto_ = false;
+    tenuto_ = false;
 }
 
 void FormTrm::InserisciPartenza() {

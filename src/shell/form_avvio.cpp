@@ -102,8 +102,7 @@ void FormAvvio::DisegnaSfondo() {
 }
 
 void FormAvvio::MostraMenu() {
-    Forms().Show("FormMenu");
-    Forms().Unload(*this);
+    Forms().HandOver(*this, "FormMenu");
 }
 
 }  // namespace trameli

@@ -197,8 +197,7 @@ void FormConfigura::mnuEsci_Click() {
     if (!Loaded()) {
         return;
     }
-    Forms().Show("FormMenu");
-    Forms().Unload(*this);
+    Forms().HandOver(*this, "FormMenu");
 }
 
 }  // namespace trameli

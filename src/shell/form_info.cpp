@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "platform/forms.h"
+#include "platform/keys.h"
 #include "platform/screen.h"
 #include "scaling/cls_resize.h"
 #include "shell/puntatori.h"
@@ -53,6 +54,13 @@ FormInfo::FormInfo(trameli::Forms& forms, Servizi& servizi)
     Image1.AccessibleName("Apri il documento sulle licenze");
     Image1.ToolTipText("Apri il documento sulle licenze");
     Image1.Click = [this] { Image1_Click(); };
+    Image1.TakesKeyboard(true);
+    Image1.TabIndex(1);
+    Image1.KeyUp = [this](int keyCode, int) {
+        if (keyCode == KeySpace || keyCode == KeyEnter) {
+            Image1_Click();
+        }
+    };
     for (Label* const scritta : {&Label1, &Label4, &Label3}) {
         scritta->Font(Grande);
     }
@@ -112,8 +120,7 @@ void FormInfo::Image1_Click() {
 }
 
 void FormInfo::Command1_Click() {
-    Forms().Show("FormMenu");
-    Forms().Unload(*this);
+    Forms().HandOver(*this, "FormMenu");
 }
 
 }  // namespace trameli

@@ -51,6 +51,7 @@ struct Bottone {
 
 /// Start and exit.
 constexpr int Inizio = 0;
+constexpr int Uscita = 1;
 constexpr std::array<Bottone, 2> Bottoni{{
     {{6360, 4080, 3315, 1095}, "menu/inizio.svg", "Inizia il gioco", NumeroLivelli},
     {{6360, 5280, 3315, 1095}, "menu/fine.svg", "Esci dal programma", NumeroLivelli + 2},
@@ -196,6 +197,11 @@ void FormMenu::Form_Activate() {
 
 void FormMenu::Form_MouseMove() {
     Command1.ForEach([](CommandButton& bottone) { Colora(bottone, GrigioChiaro); });
+}
+
+/// To close the window is to leave the program.
+void FormMenu::Form_QueryClose() {
+    Command1_Click(Uscita);
 }
 
 void FormMenu::Frame1_MouseMove() {
@@ -366,8 +372,7 @@ void FormMenu::AvviaGioco() {
 
 /// Hands over to another window.
 void FormMenu::Cedi(const char* form) {
-    Forms().Show(form);
-    Forms().Unload(*this);
+    Forms().HandOver(*this, form);
 }
 
 }  // namespace trameli

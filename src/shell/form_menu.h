@@ -49,6 +49,7 @@ protected:
     void Form_Resize() override;
     void Form_Activate() override;
     void Form_MouseMove() override;
+    void Form_QueryClose() override;
 
 private:
     void Frame1_MouseMove();

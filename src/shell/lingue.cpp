@@ -123,8 +123,8 @@ std::string Lingue::LinguaDelDesktop() const {
 
 void Lingue::Prendi(const std::string& lingua) {
     stato_.LinguaCorrente = lingua;
-    const auto sigla = LeggiChiave(FileDi(lingua), SezioneLingua, ChiaveSigla);
-    dialogs_.Language(sigla && !sigla->empty() ? *sigla : SiglaPrima);
+    // Without a file the windows are in the language of their making.
+    dialogs_.Language(LeggiChiave(FileDi(lingua), SezioneLingua, ChiaveSigla).value_or(SiglaPrima));
 }
 
 }  // namespace trameli

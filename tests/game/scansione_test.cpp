@@ -198,6 +198,13 @@ TEST_F(ConInterruttori, WithOneKeyTheOfferStandsStillWhileTheKeyIsDownAndIsTheOn
     Partita::ViaERitorno(tavolo.Form_);
     Tic();
     EXPECT_EQ(Tratti(tavolo, partenza_, false), std::vector{(dentro + 2) % 4});
+    // Nor one that went down before a new start, which takes the offer back.
+    partita_.Tempo.Advance(DopoUnTasto);
+    Press(tavolo.Form_, Qt::Key_Space);
+    Partita::Scegli(tavolo.Form_, "mnuRicomincia");
+    Tic();
+    EXPECT_EQ(TrattiAllInizio(tavolo), std::vector{(dentro + 3) % 4});
+    Release(tavolo.Form_, Qt::Key_Space);
     EXPECT_EQ(tavolo.Passi() + tavolo.Urti(), 1);
 }
 

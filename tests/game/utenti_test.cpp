@@ -149,13 +149,13 @@ TEST_F(Utenti, FileChangesAtTheSavingStepsOnly) {
     EXPECT_EQ(file(), "touched");
 }
 
-TEST_F(Utenti, ClosedByTheDesktopNothingIsSaved) {
+TEST_F(Utenti, AMenuClosedByTheDesktopIsSaved) {
     disco_.Scrivi("_predefinito");
     partita_.ApriMenu();
     ClicLivello(12);
     Partita::Chiudi(Menu());
     EXPECT_TRUE(partita_.Gioco.Forms().Ended());
-    EXPECT_EQ(disco_.Leggi("_predefinito"), FileUtente().Bytes());
+    EXPECT_EQ(disco_.Leggi("_predefinito"), FileUtente().Con(RigaLivello, 12).Bytes());
 }
 
 TEST_F(Utenti, WhatCannotBeSavedIsToldOncePerRunAndKept) {

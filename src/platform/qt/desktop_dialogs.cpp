@@ -87,6 +87,10 @@ Answer DesktopDialogs::Message(const std::string& text, const std::string& title
 std::optional<Colour> DesktopDialogs::ChooseColour() {
     const QPointer dialog = new QColorDialog(Qt::black, QApplication::activeWindow());
     dialog->setOption(QColorDialog::DontUseNativeDialog);
+    // The toolkit would keep these for the next user.
+    for (int i = 0; i < QColorDialog::customCount(); ++i) {
+        QColorDialog::setCustomColor(i, Qt::black);
+    }
     Run(*dialog);
     std::optional<Colour> chosen;
     if (dialog && dialog->result() == QDialog::Accepted) {

@@ -129,6 +129,10 @@ void Form::Form_QueryClose() {
     forms_.Unload(*this);
 }
 
+bool Form::KeyIsDown(int keyCode) const {
+    return native_->Window.Keys().IsDown(keyCode);
+}
+
 bool Form::Attesa(double secondi) {
     // Nobody should wait in front of nothing.
     native_->Window.ComeUp();

@@ -5,6 +5,7 @@
 #include <QEventLoop>
 #include <algorithm>
 
+#include "platform/qt/dialog_care.h"
 #include "platform/qt/form_window.h"
 #include "platform/timer.h"
 
@@ -17,13 +18,16 @@ struct Forms::Native {
         QEventLoop* Loop;
     };
 
+    explicit Native(const Forms& forms) : Dialogs(forms) {}
+
     QEventLoop Loop;
     std::vector<Modal> Modals;  // one inside the other
     QObject Grave;              // receives the call that buries; gone with the program
+    DialogCare Dialogs;
 };
 
 Forms::Forms(trameli::Clock& clock, trameli::Screen& screen)
-    : clock_(clock), screen_(screen), native_(std::make_unique<Native>()) {}
+    : clock_(clock), screen_(screen), native_(std::make_unique<Native>(*this)) {}
 
 Forms::~Forms() {
     // Windows still say something while they are taken apart; no routine may hear it.
@@ -115,6 +119,13 @@ void Forms::AwaitUnload(const Form& form) {
     Bury();
 }
 
+void Forms::HandOver(Form& from, const std::string& to) {
+    from.leaving_ = true;
+    Show(to);
+    from.leaving_ = false;
+    Unload(from);
+}
+
 void Forms::Unload(Form& form) {
     if (!form.Loaded() || form.unloading_) {
         return;
@@ -183,7 +194,7 @@ void Forms::ForEachControl(Form& form, const std::function<void(Control&)>& acti
 }
 
 void Forms::Dispatch(Form& form, const std::function<void()>& routine) {
-    if (!form.Loaded()) {
+    if (!form.Loaded() || form.leaving_) {
         return;
     }
     ++routinesUnderWay_;

@@ -3,6 +3,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "platform/qt/drawing.h"
 #include "platform/qt/graphics.h"
 #include "platform/qt/native.h"
 
@@ -19,8 +20,11 @@ public:
 
 protected:
     void paintEvent(QPaintEvent*) override {
-        QPainter painter(this);
-        Shown.Paint(painter, rect(), devicePixelRatioF());
+        {
+            QPainter painter(this);
+            Shown.Paint(painter, rect(), devicePixelRatioF());
+        }
+        PaintFocusRing(*this);
     }
     void mousePressEvent(QMouseEvent*) override {}
     void mouseReleaseEvent(QMouseEvent* event) override {
@@ -37,6 +41,10 @@ Image::Image(Container& container, ControlName name, const Bounds& bounds,
     : InteractiveControl(container, std::move(name), bounds, MakeNative<ImageWidget>(container)) {
     WidgetOf<ImageWidget>(*this).Owner = this;
     Picture(picture);
+}
+
+void Image::TakesKeyboard(bool takes) {
+    WidgetOf<ImageWidget>(*this).setFocusPolicy(takes ? Qt::TabFocus : Qt::NoFocus);
 }
 
 void Image::Picture(const trameli::Picture& picture) {

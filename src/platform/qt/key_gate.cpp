@@ -59,7 +59,7 @@ int ShiftBitsOf(const QKeyEvent& event) {
 
 void KeyGate::Press(const QKeyEvent& event) {
     if (!event.isAutoRepeat()) {
-        pressed_.insert(IdentityOf(event));
+        pressed_.insert(IdentityOf(event), KeyCodeOf(event));
     }
 }
 

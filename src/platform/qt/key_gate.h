@@ -1,8 +1,8 @@
 // Which keys reach a form.
 #pragma once
 
+#include <QHash>
 #include <QKeyEvent>
-#include <QSet>
 #include <functional>
 
 namespace trameli {
@@ -26,9 +26,11 @@ public:
     bool Release(const QKeyEvent& event);
     /// The window lost the keyboard, be it to a menu: what is held down is not its own any more.
     void Forget() { pressed_.clear(); }
+    /// True while a key of this code is held down whose press was noted.
+    bool IsDown(int keyCode) const { return pressed_.values().contains(keyCode); }
 
 private:
-    QSet<quint64> pressed_;
+    QHash<quint64, int> pressed_;  // key codes by what the keys are
 };
 
 }  // namespace trameli

@@ -25,6 +25,8 @@ public:
     void Forget();
     /// The window, or a widget in it, came to be seen or can be used from now on.
     void Appeared(const QWidget& what) { care_.Appeared(what); }
+    /// True while a key of this code is held down that was pressed in this window.
+    bool IsDown(int keyCode) const { return gate_.IsDown(keyCode); }
     /// True while the form is told of a key's press.
     bool AnswersPress() const { return answersPress_; }
 

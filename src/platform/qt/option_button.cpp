@@ -5,6 +5,7 @@
 #include <QPointer>
 #include <QRadioButton>
 #include <algorithm>
+#include <utility>
 
 #include "platform/qt/convert.h"
 #include "platform/qt/drawing.h"
@@ -19,8 +20,16 @@ class OptionWidget : public PressedByRelease<QRadioButton> {
 public:
     using PressedByRelease::PressedByRelease;
 
+    bool Changes = false;  ///< the click under way has made this the chosen one
+
 protected:
     bool hitButton(const QPoint& position) const override { return rect().contains(position); }
+
+    /// Comes before a click's end if the click changes the choice.
+    void nextCheckState() override {
+        Changes = true;
+        QRadioButton::nextCheckState();
+    }
 
     /// An arrow chooses the next option and gives it the keyboard afterwards. Where the routine of
     /// the choice has given the keyboard to somebody else, that holds.
@@ -71,6 +80,11 @@ OptionButton::OptionButton(Container& container, ControlName name, const Bounds&
     QObject::connect(&WidgetOf<OptionWidget>(*this), &QRadioButton::toggled, [this](bool chosen) {
         LeadTab(WidgetOf<OptionWidget>(*this));
         if (chosen) {
+            Fire(*this, Click);
+        }
+    });
+    QObject::connect(&WidgetOf<OptionWidget>(*this), &QRadioButton::clicked, [this] {
+        if (!std::exchange(WidgetOf<OptionWidget>(*this).Changes, false)) {
             Fire(*this, Click);
         }
     });
