@@ -86,6 +86,18 @@ TEST_F(DialogsTest, AColourIsChosenByKeyboardOrNot) {
     EXPECT_EQ(Times("A KeyUp 13"), 0);
 }
 
+TEST_F(DialogsTest, ABouncingSwitchClosesNoneBeforeItCanBeRead) {
+    Program.SwitchesInUse([] { return true; });
+    for (const auto& [waited, pressed] : {std::pair{0.49, false}, {0.51, true}}) {
+        Ask(Buttons::Ok, [&](QMessageBox& box) {
+            Time.Advance(waited);
+            QTest::keyClick(box.button(QMessageBox::Ok), Qt::Key_Space);
+            EXPECT_EQ(!box.isVisible(), pressed) << waited;
+            box.close();
+        });
+    }
+}
+
 TEST_F(DialogsTest, OutliveTheirWindowAndEndWithTheProgram) {
     Bring("B");
     Bring("A");

@@ -56,6 +56,14 @@ TEST_F(FormTest, IsPresentedAfterItsLoadWhateverHappensMeanwhile) {
     }
 }
 
+TEST_F(FormTest, HearsNothingWhileAnotherOneTakesItsPlace) {
+    ScriptedForm& form = Bring("A");
+    Scripts["B"].Load = [&](ScriptedForm&) { ClickOn(form.First); };
+    Program.HandOver(form, "B");
+    Pump();
+    EXPECT_EQ(Seen, (Log{"B Load", "B Resize", "A Unload", "B Activate"}));
+}
+
 TEST_F(FormTest, ControlsAreWalkedOverThoughTheyGo) {
     ScriptedForm& form = Bring("A");
     ControlArray<Label> labels("Labels");
