@@ -1,19 +1,15 @@
 #include "shell/form_configura.h"
 
 #include <array>
-#include <memory>
 #include <vector>
 
 #include "platform/forms.h"
-#include "platform/screen.h"
-#include "scaling/cls_resize.h"
 
 namespace trameli {
 
 namespace {
 
 constexpr Form::DesignSize Dimensioni{10770, 8925};
-constexpr int PercentualeSchermo = 75;  // of the screen, until the activation
 constexpr int Sottile = 1;
 
 // Widest and narrowest pace, quarters of a second, and the step of a click beside the handle.
@@ -24,7 +20,7 @@ constexpr int UnSecondo = 4;
 }  // namespace
 
 FormConfigura::FormConfigura(trameli::Forms& forms, Servizi& servizi)
-    : Form(forms, "FormConfigura", Dimensioni, FormStyle::Windowed),
+    : FinestraAdattata(forms, "FormConfigura", Dimensioni, servizi),
       mnuEsci(*this, "mnuEsci", "&Esci"),
       TabStrip1(*this, "TabStrip1", {480, 1080, 9975, 7575},
                 {"Utente", "Trameli", "Caratteri", "Modalità di input"}),
@@ -81,8 +77,7 @@ FormConfigura::FormConfigura(trameli::Forms& forms, Servizi& servizi)
       CommandScansione(FramePunt, "CommandScansione", {6720, 2280, 1935, 855}, "Colore scansione"),
       HScroll3(FramePunt, "HScroll3", {480, 4800, 7215, 375}, VelocitaMinima, VelocitaMassima,
                UnSecondo),
-      Label7(FramePunt, "Label7", {720, 5400, 6855, 375}, ""),
-      servizi_(servizi) {
+      Label7(FramePunt, "Label7", {720, 5400, 6855, 375}, "") {
     Caption("Configurazioni");
     mnuEsci.Click = [this] { mnuEsci_Click(); };
 
@@ -116,21 +111,8 @@ void FormConfigura::OrdinaPerTab() {
     }
 }
 
-void FormConfigura::Form_Load() {
-    servizi_.Lingue.TraduciForm(*this);
-    if (!Loaded()) {
-        return;
-    }
-    auto ridimensiona = std::make_shared<clsResize>();
-    servizi_.Stato.RidimensionaFinestra = ridimensiona;
-    ridimensiona->SourceForm(*this);
-    ridimensiona->SizeFormToScreen(PercentualeSchermo);
-}
-
 void FormConfigura::Form_Resize() {
-    if (const auto ridimensiona = servizi_.Stato.RidimensionaFinestra) {
-        ridimensiona->ResizeControls();
-    }
+    FinestraAdattata::Form_Resize();
     ImpostaAnteprima();
 }
 
@@ -142,11 +124,7 @@ void FormConfigura::Form_Activate() {
     }
     attivata_ = true;
 
-    const Screen& schermo = Forms().Screen();
-    Left(0);
-    Top(0);
-    Width(schermo.Width());
-    Height(schermo.Height());
+    RiempiSchermo();
     Option4(servizi_.Stato.ModoInput).Value(true);
     Label4.Caption(servizi_.Stato.NomeUtente);
     NascondiFrame();

@@ -4,7 +4,6 @@
 #include "platform/check_box.h"
 #include "platform/command_button.h"
 #include "platform/control_array.h"
-#include "platform/form.h"
 #include "platform/frame.h"
 #include "platform/label.h"
 #include "platform/line.h"
@@ -15,7 +14,7 @@
 #include "platform/shape.h"
 #include "platform/tab_strip.h"
 #include "platform/text_box.h"
-#include "shell/servizi.h"
+#include "shell/finestra_adattata.h"
 
 namespace trameli {
 
@@ -24,7 +23,7 @@ namespace trameli {
 /// saves it.
 ///
 /// A page is a file of its own beside form_configura.cpp.
-class FormConfigura : public Form {
+class FormConfigura : public FinestraAdattata {
 public:
     /// `servizi` must outlive it.
     FormConfigura(trameli::Forms& forms, Servizi& servizi);
@@ -79,7 +78,6 @@ public:
     void NascondiFrame();
 
 protected:
-    void Form_Load() override;
     void Form_Resize() override;
     void Form_Activate() override;
     void Form_QueryClose() override;
@@ -124,8 +122,6 @@ private:
     void ImpostaColori();
     void ImpostaScansione();
     void MostraVelocita();
-
-    Servizi& servizi_;
     bool attivata_ = false;  ///< it has come to the front before
 };
 

@@ -1,12 +1,9 @@
 #include "shell/form_info.h"
 
 #include <array>
-#include <memory>
 
 #include "platform/forms.h"
 #include "platform/keys.h"
-#include "platform/screen.h"
-#include "scaling/cls_resize.h"
 #include "shell/puntatori.h"
 
 namespace trameli {
@@ -14,7 +11,6 @@ namespace trameli {
 namespace {
 
 constexpr Form::DesignSize Dimensioni{8745, 6510};
-constexpr int PercentualeSchermo = 75;  // of the screen, until the activation
 constexpr Colour Sfondo = Rgb(255, 255, 192);
 constexpr const char* ARigaNuova = "\r\n";
 
@@ -41,13 +37,12 @@ const Font Grande{"Arial", 14.25, false};
 }  // namespace
 
 FormInfo::FormInfo(trameli::Forms& forms, Servizi& servizi)
-    : Form(forms, "FormInfo", Dimensioni, FormStyle::Windowed),
+    : FinestraAdattata(forms, "FormInfo", Dimensioni, servizi),
       Image1(*this, "Image1", {240, 120, 1575, 615}, {"info/documento.svg"}),
       Label1(*this, "Label1", {240, 1200, 3855, 2535}, ""),
       Label4(*this, "Label4", {4920, 1200, 3375, 2535}, ""),
       Label3(*this, "Label3", {240, 3960, 5055, 2295}, ""),
-      Command1(*this, "Command1", {5520, 5040, 2655, 975}, "Chiudi"),
-      servizi_(servizi) {
+      Command1(*this, "Command1", {5520, 5040, 2655, 975}, "Chiudi") {
     Caption("Informazioni");
     BackColor(Sfondo);
     Image1.MouseIcon(FrecciaBlu());
@@ -71,29 +66,8 @@ FormInfo::FormInfo(trameli::Forms& forms, Servizi& servizi)
     Command1.Click = [this] { Command1_Click(); };
 }
 
-void FormInfo::Form_Load() {
-    servizi_.Lingue.TraduciForm(*this);
-    if (!Loaded()) {
-        return;
-    }
-    auto ridimensiona = std::make_shared<clsResize>();
-    servizi_.Stato.RidimensionaFinestra = ridimensiona;
-    ridimensiona->SourceForm(*this);
-    ridimensiona->SizeFormToScreen(PercentualeSchermo);
-}
-
-void FormInfo::Form_Resize() {
-    if (const auto ridimensiona = servizi_.Stato.RidimensionaFinestra) {
-        ridimensiona->ResizeControls();
-    }
-}
-
 void FormInfo::Form_Activate() {
-    const Screen& schermo = Forms().Screen();
-    Left(0);
-    Top(0);
-    Height(schermo.Height());
-    Width(schermo.Width());
+    RiempiSchermo();
 
     Lingue& lingue = servizi_.Lingue;
     const auto testo = [&](const Riga& riga) { return lingue.TestoLingua(riga.Id, riga.Disegno); };

@@ -2,15 +2,14 @@
 #pragma once
 
 #include "platform/command_button.h"
-#include "platform/form.h"
 #include "platform/image.h"
 #include "platform/label.h"
-#include "shell/servizi.h"
+#include "shell/finestra_adattata.h"
 
 namespace trameli {
 
 /// The About window. Its picture opens the document about the use of the program.
-class FormInfo : public Form {
+class FormInfo : public FinestraAdattata {
 public:
     /// `servizi` must outlive it.
     FormInfo(trameli::Forms& forms, Servizi& servizi);
@@ -22,16 +21,12 @@ public:
     CommandButton Command1;
 
 protected:
-    void Form_Load() override;
-    void Form_Resize() override;
     void Form_Activate() override;
     void Form_QueryClose() override;
 
 private:
     void Image1_Click();
     void Command1_Click();
-
-    Servizi& servizi_;
 };
 
 }  // namespace trameli
