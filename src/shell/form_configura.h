@@ -122,6 +122,7 @@ private:
     void ImpostaColori();
     void ImpostaScansione();
     void MostraVelocita();
+
     bool attivata_ = false;  ///< it has come to the front before
 };
 
