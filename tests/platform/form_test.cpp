@@ -64,6 +64,17 @@ TEST_F(FormTest, HearsNothingWhileAnotherOneTakesItsPlace) {
     EXPECT_EQ(Seen, (Log{"B Load", "B Resize", "A Unload", "B Activate"}));
 }
 
+TEST_F(FormTest, TimerWhoseRoutineWaitsDoesNotEnterItAgain) {
+    ScriptedForm& form = Bring("A");
+    form.Ticker.Tick = [&] {
+        Seen.push_back("tick");
+        form.Wait(0.25);
+    };
+    form.Ticker.Enabled(true);
+    Time.Advance(0.75);
+    EXPECT_EQ(Times("tick"), 3);
+}
+
 TEST_F(FormTest, ControlsAreWalkedOverThoughTheyGo) {
     ScriptedForm& form = Bring("A");
     ControlArray<Label> labels("Labels");

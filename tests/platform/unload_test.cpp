@@ -74,15 +74,6 @@ TEST_F(UnloadTest, InAWaitLeavesNothingDangling) {
     }
 }
 
-TEST_F(UnloadTest, OfAnotherFormDoesNotEndAWait) {
-    Bring("B");
-    ScriptedForm& form = Bring("A");
-    const double begin = Time.Now();
-    Time.In(1, [&] { Program.Unload(Get("B")); });
-    EXPECT_TRUE(form.Wait(5));
-    EXPECT_EQ(Time.Now(), begin + 5);
-}
-
 TEST_F(UnloadTest, ByAKeyThatTheControlWouldSeeNext) {
     Bring("B");
     ScriptedForm* form = &Bring("A");
