@@ -23,10 +23,7 @@ protected:
     Tavolo IlTavolo() { return {Gioco(), 5}; }
     QImage Immagine() { return IlTavolo().Guarda().Immagine(); }
     int Passi() { return IlTavolo().Passi(); }
-    int Urti() { return IlTavolo().Urti(); }
     int Soli() { return Visibili(Gioco(), "ImageSole", 5); }
-    /// New starts from zero; none before the panel tells.
-    int Ripartenze() { return IlTavolo().Pannello(5).empty() ? 0 : IlTavolo().NumeroPannello(5); }
     QRgb Centro(int riga, int colonna) { return IlTavolo().Guarda().Centro(riga, colonna); }
     Timer& Orologio() { return Trova<Timer>(Gioco(), "Timer1"); }
     std::string Pausa() { return Trova<MenuItem>(Gioco(), "mnuPausa").Caption(); }
@@ -105,38 +102,19 @@ TEST_F(ATempo, WalksDownAndBackAndAHitLeadsToTheStart) {
 TEST_F(ATempo, HitsTakeTheSunsAndTheSixthStartsTheMazeAgainFromZero) {
     Apri(7);
     const QImage prima = Immagine();
-    for (int volte = 1; volte <= 2; ++volte) {
-        for (int soli = 4; soli >= 0; --soli) {
-            Sbaglia(1);  // and the next step leads down again
-            EXPECT_EQ(Soli(), soli);
-            EXPECT_EQ(Ripartenze(), volte - 1);
-            EXPECT_TRUE(Orologio().Enabled());
-        }
-        Fra(1.8 + TreSecondi - UnIstante, [&] { EXPECT_FALSE(Orologio().Enabled()); });
-        Sbaglia(1);
-        EXPECT_TRUE(Orologio().Enabled());
-        EXPECT_EQ(Soli(), 5);
-        EXPECT_EQ(Urti(), 6 * volte);
-        EXPECT_EQ(Ripartenze(), volte);
-        EXPECT_EQ(Immagine(), prima);
-        Scatti(1);
-        EXPECT_EQ(Passi(), volte);
+    for (int soli = 4; soli >= 0; --soli) {
+        Sbaglia(1);  // and the next step leads down again
+        EXPECT_EQ(Soli(), soli);
+        EXPECT_EQ(IlTavolo().Pannello(5), "");
     }
-}
-
-TEST_F(ATempo, RestartsCostNoSunAndLeaveClockAndDirectionAlone) {
-    Apri(5);
-    Scatti(2);
-    for (const char* voce : {"mnuColora", "mnuLinee", "mnuColora", "mnuRicomincia"}) {
-        Scegli(voce);
-    }
-    FaUnPassoDopo(1.8);  // downward still
-    Guida({AllaDestra});
-    Scegli("mnuRicomincia");
+    Fra(1.8 + TreSecondi - UnIstante, [&] { EXPECT_FALSE(Orologio().Enabled()); });
+    Sbaglia(1);
     EXPECT_EQ(Soli(), 5);
-    Scatti(1);  // to the right still
-    EXPECT_EQ(Soli(), 4);
-    FaUnPassoDopo(1.8);
+    EXPECT_EQ(IlTavolo().Urti(), 6);
+    EXPECT_EQ(IlTavolo().NumeroPannello(5), 1);
+    EXPECT_EQ(Immagine(), prima);
+    Scatti(1);
+    EXPECT_EQ(Passi(), 1);
 }
 
 TEST_F(ATempo, PauseStopsTheClockAndKeysStillSteer) {
@@ -152,38 +130,10 @@ TEST_F(ATempo, PauseStopsTheClockAndKeysStillSteer) {
     EXPECT_EQ(Pausa(), Via);
     FaUnPassoDopo(1.8);  // a whole step's time again
     EXPECT_EQ(Centro(2, 2), IlTavolo().Colore(RigaSimbolo));
-
-    // A new maze ends the pause, and the entry lags behind.
-    Scegli("mnuPausa");
-    CtrlN();
-    for (const bool acceso : {true, false}) {
-        EXPECT_EQ(Orologio().Enabled(), acceso);
-        EXPECT_EQ(Pausa(), InPausa);
-        Scegli("mnuPausa");
-    }
-    EXPECT_EQ(Pausa(), Via);
-}
-
-TEST_F(ATempo, ThoseWhoScanSteerWithArrowsAndWithTwoSwitchesSeeTheLeftStroke) {
-    for (const std::int16_t modo : {ScansioneManuale, ScansioneAutomatica}) {
-        // The menu does not offer these levels to those who scan, but a finished level leads here.
-        disco_.Scrivi("_predefinito", FileUtente().Con(RigaScansione, Rgb(0, 0, 255)));
-        Partita partita(disco_, {800, 600}, 7);
-        partita.ApriMenu();
-        partita.Gioco.Stato().ModoInput = modo;
-        const Tavolo tavolo(partita.ApriLivello(5), 5);
-        const bool tratto = modo == ScansioneManuale;
-        EXPECT_EQ(MacchiaDi(tavolo.Guarda().Immagine(), qRgb(0, 0, 255)).Quanti > 0, tratto);
-        partita.Tempo.Advance(2);
-        tavolo.Passo(AllaDestra);
-        partita.Tempo.Advance(1.8);
-        EXPECT_EQ(tavolo.Guarda().Fra(2, 2, -0.35, 0) == qRgb(0, 0, 255), tratto);
-        EXPECT_EQ(tavolo.Passi(), 3);
-    }
 }
 
 /// What the player waits after.
-enum class Dopo { Apertura, TrameloNuovo, Bottone, Ripartenza };
+enum class Dopo { Apertura, TrameloNuovo, Ripartenza };
 
 class OgniAttesa : public ATempo, public testing::WithParamInterface<Dopo> {
 protected:
@@ -198,11 +148,7 @@ protected:
             return;
         }
         Apri(5);
-        if (GetParam() == Dopo::Bottone) {
-            Guida(IlTavolo().Soluzione());
-            Fra(secondi, std::move(azione));
-            Tap(Gioco(), Qt::Key_Space);
-        } else if (GetParam() == Dopo::Ripartenza) {
+        if (GetParam() == Dopo::Ripartenza) {
             Sbaglia(5);
             Fra(1.8 + secondi, std::move(azione));
             Sbaglia(1);
@@ -215,8 +161,7 @@ protected:
 };
 
 INSTANTIATE_TEST_SUITE_P(Tutte, OgniAttesa,
-                         testing::Values(Dopo::Apertura, Dopo::TrameloNuovo, Dopo::Bottone,
-                                         Dopo::Ripartenza));
+                         testing::Values(Dopo::Apertura, Dopo::TrameloNuovo, Dopo::Ripartenza));
 
 TEST_P(OgniAttesa, CanBeLeftAtAnyMoment) {
     for (const double quando : {UnIstante, 1.5, TreSecondi - UnIstante}) {
@@ -243,44 +188,25 @@ TEST_P(OgniAttesa, EndsWithTheClockStartedWhateverElseHappens) {
         Scegli("mnuPausa");
         EXPECT_TRUE(Orologio().Enabled());
         Scegli("mnuPausa");
+        Tasto(AllaDestra);
     });
     EXPECT_NEAR(partita_.Tempo.Now(), fine, 1e-6);
     EXPECT_TRUE(Orologio().Enabled());
-    EXPECT_EQ(Pausa(), InPausa);  // left behind
     EXPECT_EQ(Soli(), 5);
+    Scatti(2);  // the arrow leads the first step, into a wall, and none after it
+    EXPECT_EQ(Soli(), 4);
 }
 
-TEST_P(OgniAttesa, BeginsAnewWithEachNewMaze) {
-    double inizio = 0;
-    Aspetta(2, [&] {
-        inizio = partita_.Tempo.Now();
-        for (const double quando : {0.0, 2.0, 4.5}) {
-            Fra(quando, [&] {
-                CtrlN();
-                EXPECT_EQ(partita_.Tempo.WaitsUnderWay(), 1);
-            });
-            Fra(quando + 1.1, [&] { EXPECT_FALSE(Orologio().Enabled()); });
-        }
-    });
-    EXPECT_NEAR(partita_.Tempo.Now() - inizio, 4.5 + TreSecondi, 1e-6);
+TEST_F(ATempo, ANewMazeHasAllSunsAndAWaitOfItsOwn) {
+    Apri(5);
+    Sbaglia(2);
+    const double inizio = partita_.Tempo.Now();
+    Fra(2, [&] { CtrlN(); });
+    Fra(4, [&] { EXPECT_FALSE(Orologio().Enabled()); });
+    CtrlN();
+    EXPECT_NEAR(partita_.Tempo.Now(), inizio + 2 + TreSecondi, 1e-6);
+    EXPECT_EQ(Soli(), 5);
     EXPECT_TRUE(Orologio().Enabled());
-}
-
-TEST_P(OgniAttesa, AnArrowLeadsTheFirstStepAndNoneAfterIt) {
-    for (const bool nuovo : {false, true}) {  // a new maze comes before the key
-        Aspetta(1, [&] {
-            if (nuovo) {
-                CtrlN();
-            }
-            Tasto(AllaDestra);
-        });
-        const int urti = Urti();
-        const int passi = Passi();
-        Scatti(3);
-        EXPECT_EQ(Urti(), urti + 1);
-        EXPECT_EQ(Passi(), passi + 2);
-        Scegli("mnuEsci");
-    }
 }
 
 }  // namespace
