@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "game/partita.h"
-#include "platform/image.h"
 #include "platform/picture_box.h"
 
 namespace trameli {
@@ -82,25 +81,6 @@ TEST_F(Barre, MazesComeWithOneOfFourPictures) {
     }
     EXPECT_EQ(visti,
               (std::set<std::string>{"muri/0.svg", "muri/1.svg", "muri/2.svg", "muri/3.svg"}));
-}
-
-TEST_F(Barre, LieAboveAllElseAndAClickOnOneTakesTheKeyboardFromNobody) {
-    const Tavolo tavolo = Apri(0, ConBarre);
-    const PictureBox& barra = Barra(tavolo, 5);
-    const auto centro = [&] {
-        const QImage vista = tavolo.Guarda().Immagine();
-        return vista.pixel(WidgetOf(barra).geometry().center() * vista.devicePixelRatio());
-    };
-    const QRgb prima = centro();
-    Trova<Image>(tavolo.Form_, "Image2").Place(barra.Place());
-    const auto& [sinistra, alto, larga, alta] = barra.Place();
-    Trova<PictureBox>(tavolo.Form_, "pictureTramelo")
-        .FillBox(sinistra, alto, sinistra + larga, alto + alta, Rgb(255, 0, 255));
-    EXPECT_EQ(centro(), prima);
-
-    const QWidget* const tastiera = WindowOf(tavolo.Form_).focusWidget();
-    ClickOn(barra);
-    EXPECT_EQ(WindowOf(tavolo.Form_).focusWidget(), tastiera);
 }
 
 }  // namespace
