@@ -77,7 +77,8 @@ TEST_F(Utenti, CapitalsComeWithTheUserWhoWantsThemStayAndNameTheSameFiles) {
     Scorri(Qt::Key_Down);
     EXPECT_EQ(stato_.NomeGiocatore, "ÆNNE É");
     ClicLivello(11);
-    ClicBottone(1);
+    Partita::Chiudi(Menu());  // which saves as the exit does
+    EXPECT_TRUE(partita_.Gioco.Forms().Ended());
     EXPECT_EQ(disco_.Leggi("Ænne é"), grande.Con(RigaLivello, 11).Bytes());
     EXPECT_EQ(disco_.Tutti().size(), 4U);
 }
@@ -103,19 +104,6 @@ TEST_F(Utenti, ChangeOfUserSavesTheOldOneFirst) {
     dopo.ApriMenu();
     EXPECT_EQ(dopo.Gioco.Stato().NomeUtente, "_predefinito");
     EXPECT_EQ(dopo.Gioco.Stato().Livello, 14);
-}
-
-TEST_F(Utenti, TimedLevelsStayAsTheFirstUserFoundThem) {
-    // Who is chosen in the list neither shuts nor opens them, and keeps his level.
-    for (const bool scandisce : {false, true}) {
-        disco_.Scrivi("Anna", FileUtente().Con(RigaModoInput, scandisce).Con(RigaLivello, 6));
-        disco_.Scrivi("_predefinito", FileUtente().Con(RigaModoInput, scandisce ? 0 : 2));
-        Partita partita(disco_);
-        Form& menu = partita.ApriMenu();
-        Trova<ComboBox>(menu, "Combo1").ListIndex(1);
-        EXPECT_EQ(partita.Gioco.Stato().Livello, 6);
-        EXPECT_EQ(Trova<OptionButton>(menu, "Option1", 6).Enabled(), scandisce);
-    }
 }
 
 /// What is in the first user's file at each step from the splash to the exit.
@@ -147,15 +135,6 @@ TEST_F(Utenti, FileChangesAtTheSavingStepsOnly) {
     partita_.Tempo.Advance(10);
     Tap(menu, Qt::Key_Space);
     EXPECT_EQ(file(), "touched");
-}
-
-TEST_F(Utenti, AMenuClosedByTheDesktopIsSaved) {
-    disco_.Scrivi("_predefinito");
-    partita_.ApriMenu();
-    ClicLivello(12);
-    Partita::Chiudi(Menu());
-    EXPECT_TRUE(partita_.Gioco.Forms().Ended());
-    EXPECT_EQ(disco_.Leggi("_predefinito"), FileUtente().Con(RigaLivello, 12).Bytes());
 }
 
 TEST_F(Utenti, WhatCannotBeSavedIsToldOncePerRunAndKept) {
