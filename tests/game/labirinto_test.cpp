@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <set>
 
 #include "game/partita.h"
 #include "platform/image.h"
@@ -126,31 +125,6 @@ TEST(Scene, SoItIsOnEveryScreen) {
         }
     }
 }
-
-class OgniAngolo : public testing::TestWithParam<int> {};
-
-/// All eight ways of placing start and finish come up, and each has its picture and its symbol.
-TEST_P(OgniAngolo, HasItsPlaces) {
-    const int livello = GetParam();
-    const Disco disco;
-    disco.Scrivi("_predefinito", Colorato);
-    Partita partita(disco, {800, 600});
-    Form& form = partita.ApriLivello(livello);
-    const Tavolo tavolo(form, livello, Colorato);
-    std::set<std::array<int, 3>> visti;
-    for (int i = 0; i < 100 && visti.size() < 8; ++i) {
-        const Posto p = tavolo.Partenza();
-        if (visti.insert({p.Riga, p.Colonna, p.Lato}).second) {
-            HaDueApertureOpposte(tavolo);
-            HaLArrivoAlSuoPosto(tavolo);
-            HaIlSimboloSullaLinea(tavolo);
-        }
-        Tap(form, Qt::Key_N, Qt::ControlModifier);
-    }
-    EXPECT_EQ(visti.size(), 8U);
-}
-
-INSTANTIATE_TEST_SUITE_P(Livelli, OgniAngolo, testing::Values(0, 8));
 
 }  // namespace
 }  // namespace trameli
