@@ -12,7 +12,13 @@
 #include "platform/combo_box.h"
 #include "platform/command_button.h"
 #include "platform/option_button.h"
-#include "support/live_memory.h"
+
+#ifdef __SANITIZE_ADDRESS__
+/// Of the sanitizer's runtime; its header does not come with every compiler.
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
+#else
+#include <malloc.h>
+#endif
 
 namespace trameli {
 namespace {
@@ -24,6 +30,16 @@ constexpr int LabirintiInTutto = 10000;
 constexpr int LabirintiInTutto = 2000;
 #endif
 constexpr int Giocatori = 4;
+
+/// Bytes that were allocated on the heap and not given back, by the libraries too.
+std::int64_t LiveBytes() {
+#ifdef __SANITIZE_ADDRESS__
+    return static_cast<std::int64_t>(__sanitizer_get_current_allocated_bytes());
+#else
+    const struct mallinfo2 info = mallinfo2();
+    return static_cast<std::int64_t>(info.uordblks + info.hblkhd);
+#endif
+}
 
 /// The game's chance, and whether it was asked for anything lately.
 class CasualeSpiato final : public Casuale {
