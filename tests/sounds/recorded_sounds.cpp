@@ -44,14 +44,6 @@ std::string Little(std::uint32_t number, int bytes) {
     return text;
 }
 
-std::string WaveOf(const Samples& sound) {
-    const auto length = static_cast<std::uint32_t>(2 * sound.size());
-    std::string wave = "RIFF" + Little(36 + length, 4) + "WAVEfmt " + Little(16, 4) + Little(1, 2) +
-                       Little(1, 2) + Little(Rate, 4) + Little(2 * Rate, 4) + Little(2, 2) +
-                       Little(16, 2) + "data" + Little(length, 4);
-    return wave.append(reinterpret_cast<const char*>(sound.data()), length);
-}
-
 Samples SamplesOf(const std::string& wave) {
     Samples sound((wave.size() - WaveHeader) / 2);
     std::memcpy(sound.data(), wave.data() + WaveHeader, 2 * sound.size());
@@ -64,7 +56,11 @@ std::string Tone(double pitch, double seconds) {
         const double turn = 2 * std::numbers::pi * pitch / Rate * static_cast<double>(i);
         sound[i] = static_cast<std::int16_t>(std::lround(25000 * std::sin(turn)));
     }
-    return WaveOf(sound);
+    const auto length = static_cast<std::uint32_t>(2 * sound.size());
+    std::string wave = "RIFF" + Little(36 + length, 4) + "WAVEfmt " + Little(16, 4) + Little(1, 2) +
+                       Little(1, 2) + Little(Rate, 4) + Little(2 * Rate, 4) + Little(2, 2) +
+                       Little(16, 2) + "data" + Little(length, 4);
+    return wave.append(reinterpret_cast<const char*>(sound.data()), length);
 }
 
 std::string Tune(int secondsOfA, int secondsOfB) {

@@ -20,15 +20,13 @@ using Samples = std::vector<std::int16_t>;
 
 /// A whole number as sound files hold it, its lowest byte first.
 std::string Little(std::uint32_t number, int bytes);
-/// A wave file of 16 bits, mono, that holds `sound`.
-std::string WaveOf(const Samples& sound);
-/// The samples of a file that WaveOf could have made.
+/// The samples of a wave file of 16 bits, mono, that has no chunk too many.
 Samples SamplesOf(const std::string& wave);
 
 /// The two pitches that the tests tell apart, hertz. No overtone of one is near the other.
 constexpr double PitchA = 440;
 constexpr double PitchB = 659.26;
-/// So many seconds of one pitch, in a wave file.
+/// So many seconds of one pitch, in a wave file of 16 bits, mono.
 std::string Tone(double pitch, double seconds);
 
 /// A MIDI file with both pitches one after the other, held for so many seconds.
