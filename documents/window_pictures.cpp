@@ -12,6 +12,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/no_printers.h"
 #include "platform/qt/form_window.h"
 #include "platform/qt/local_file_system.h"
 #include "platform/status_bar.h"
@@ -114,10 +115,12 @@ private:
     NobodyElse instances_;
     Silence sounds_;
     NoReader documents_;
+    NoPrinters printers_;
 
 public:
-    Program Game{{clock_, screen_, files_, dialogs_, instances_, sounds_, documents_, ""},
-                 std::make_unique<CasualeConSeme>(3)};
+    Program Game{
+        {clock_, screen_, files_, dialogs_, instances_, sounds_, documents_, printers_, ""},
+        std::make_unique<CasualeConSeme>(3)};
 };
 
 template <typename T>

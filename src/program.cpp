@@ -9,6 +9,7 @@
 #include "play/frm_trm0.h"
 #include "play/frm_trm1.h"
 #include "play/frm_trm3.h"
+#include "printing/frm_stampa.h"
 #include "shell/form_avvio.h"
 #include "shell/form_configura.h"
 #include "shell/form_info.h"
@@ -23,8 +24,17 @@ Program::Program(const Services& services, std::unique_ptr<Casuale> casuale)
       moduloPerIni_(stato_, services_.FileSystem, services_.Dialogs, lingue_),
       suoni_(stato_, services_.Sounds),
       moduloNavigate_(stato_, services_.FileSystem, services_.Documents),
-      servizi_{stato_, lingue_,         moduloPerIni_,     services_.FileSystem,
-               suoni_, moduloNavigate_, services_.Dialogs, services_.DecimalSeparator},
+      stampa_(forms_),
+      servizi_{stato_,
+               lingue_,
+               moduloPerIni_,
+               services_.FileSystem,
+               suoni_,
+               moduloNavigate_,
+               services_.Dialogs,
+               services_.Printers,
+               stampa_,
+               services_.DecimalSeparator},
       forms_(services_.Clock, services_.Screen) {
     RegistraForm();
     forms_.SwitchesInUse([this] { return stato_.ModoInput != Tastiera; });
@@ -70,6 +80,9 @@ void Program::RegistraForm() {
                     [](trameli::Forms& forms) { return std::make_unique<FormArchivio>(forms); });
     forms_.Register("FormFinale", [this](trameli::Forms& forms) {
         return std::make_unique<FormFinale>(forms, servizi_, *casuale_);
+    });
+    forms_.Register("frmStampa", [this](trameli::Forms& forms) {
+        return std::make_unique<frmStampa>(forms, servizi_);
     });
     forms_.Register("frmTrm0", [this](trameli::Forms& forms) {
         return std::make_unique<frmTrm0>(forms, servizi_, *casuale_);

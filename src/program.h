@@ -6,6 +6,7 @@
 #include "engine/casuale.h"
 #include "platform/forms.h"
 #include "platform/services.h"
+#include "printing/stampa_con_finestra.h"
 #include "shell/lingue.h"
 #include "shell/modulo_navigate.h"
 #include "shell/modulo_per_ini.h"
@@ -46,6 +47,7 @@ private:
     ModuloPerIni moduloPerIni_;
     Suoni suoni_;
     ModuloNavigate moduloNavigate_;
+    StampaConFinestra stampa_;
     Servizi servizi_;
     trameli::Forms forms_;  // last: the forms work with all of the above to their end
 };

@@ -8,6 +8,7 @@
 #include "platform/documents.h"
 #include "platform/file_system.h"
 #include "platform/instances.h"
+#include "platform/printers.h"
 #include "platform/screen.h"
 #include "platform/sounds.h"
 
@@ -22,6 +23,7 @@ struct Services {
     trameli::Instances& Instances;
     trameli::Sounds& Sounds;
     trameli::Documents& Documents;
+    trameli::Printers& Printers;
     /// What the desktop says of its language, for instance "de_DE.UTF-8"; may be empty.
     std::string Locale;
     /// What the desktop writes between a number's whole part and the rest.

@@ -5,9 +5,11 @@
 
 #include "platform/dialogs.h"
 #include "platform/file_system.h"
+#include "platform/printers.h"
 #include "shell/lingue.h"
 #include "shell/modulo_navigate.h"
 #include "shell/modulo_per_ini.h"
+#include "shell/stampa.h"
 #include "shell/stato.h"
 #include "shell/suoni.h"
 
@@ -22,6 +24,8 @@ struct Servizi {
     trameli::Suoni& Suoni;
     trameli::ModuloNavigate& ModuloNavigate;
     trameli::Dialogs& Dialogs;
+    trameli::Printers& Printers;
+    trameli::Stampa& Stampa;
     std::string SeparatoreDecimale;  ///< of numbers, as the desktop writes them
 };
 

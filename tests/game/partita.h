@@ -16,6 +16,7 @@
 #include "platform/qt/local_file_system.h"
 #include "program.h"
 #include "support/hand_clock.h"
+#include "support/noted_printers.h"
 #include "support/noted_sounds.h"
 #include "support/stage.h"
 
@@ -81,6 +82,7 @@ public:
     FixedInstances Istanze;
     NotedSounds Suoni;
     NotedDocuments Documenti;
+    NotedPrinters Stampanti;
     Program Gioco;
 
     /// The splash comes up. False if the program does not start.

@@ -8,6 +8,7 @@
 #include <chrono>
 #include <thread>
 
+#include "platform/no_printers.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/desktop_clock.h"
 #include "platform/qt/desktop_dialogs.h"
@@ -45,6 +46,7 @@ struct Desktop::Native {
     FolderLock Lock;
     MixerSounds Sounds;
     DesktopDocuments Documents;
+    NoPrinters Printers;
 };
 
 Desktop::Desktop(int& argc, char** argv) {
@@ -63,9 +65,11 @@ Desktop::Desktop(int& argc, char** argv) {
 Desktop::~Desktop() = default;
 
 Services Desktop::Services() const {
-    return {native_->Clock,     native_->Screen,    native_->Files,
-            native_->Dialogs,   native_->Lock,      native_->Sounds,
-            native_->Documents, LocaleOfMessages(), FromQt(QLocale::system().decimalPoint())};
+    return {native_->Clock,     native_->Screen,
+            native_->Files,     native_->Dialogs,
+            native_->Lock,      native_->Sounds,
+            native_->Documents, native_->Printers,
+            LocaleOfMessages(), FromQt(QLocale::system().decimalPoint())};
 }
 
 }  // namespace trameli
