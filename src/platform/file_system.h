@@ -29,6 +29,9 @@ public:
     /// True if an ordinary file of that path exists.
     virtual bool FileExists(const std::string& path) const = 0;
 
+    /// True if the file that would be replaced is a link, wherever that leads.
+    virtual bool IsLink(const std::string& path) const = 0;
+
     /// True if the path names an existing folder.
     virtual bool FolderExists(const std::string& path) const = 0;
 
@@ -42,6 +45,9 @@ public:
     /// the file holds either what it held before or what it is given. A new file gets its
     /// extension in small letters. False if it could not; there must be a folder for it, but for
     /// the program folder one is made.
+    ///
+    /// Of a link, the file that it leads to is replaced, whoever's that is; see `IsLink`. One that
+    /// is not there yet is made only in the link's own folder or below.
     virtual bool Replace(const std::string& path, const std::string& bytes) = 0;
 
     /// Names in a folder, files and folders, that end in `ending` (without regard to case), in

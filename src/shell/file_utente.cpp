@@ -1,5 +1,6 @@
 #include "shell/file_utente.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -75,6 +76,11 @@ public:
         Prendi(Blank);
         SaltaSeparatore();
         return numero;
+    }
+
+    bool RestanoBlank() const {
+        return std::all_of(resto_.begin(), resto_.end(),
+                           [](char c) { return Blank(c) || FineRiga(c); });
     }
 
 private:
@@ -200,6 +206,22 @@ std::optional<Impostazioni> Leggi(std::string_view testo) {
         }
     }
     return impostazioni;
+}
+
+bool Riconosci(std::string_view testo) {
+    Impostazioni impostazioni;
+    Lettore lettore(testo);
+    for (const Riga& riga : Formato) {
+        if (std::holds_alternative<Logico>(riga.Campo)) {
+            const std::string_view parola = lettore.Parola();
+            if (parola != "True" && parola != "False") {
+                return false;
+            }
+        } else if (!std::visit(Lettura{lettore, riga, impostazioni}, riga.Campo)) {
+            return false;
+        }
+    }
+    return lettore.RestanoBlank();
 }
 
 }  // namespace trameli

@@ -17,4 +17,9 @@ std::string Testo(const Impostazioni& impostazioni);
 /// its default, so all values of the result are within theirs.
 std::optional<Impostazioni> Leggi(std::string_view testo);
 
+/// True if the text is a user file and nothing more: `Leggi` takes it, its flags are the words that
+/// `Testo` writes, and behind the sixteenth value there are blanks at most. A list of any numbers
+/// can be read as a record too.
+bool Riconosci(std::string_view testo);
+
 }  // namespace trameli

@@ -40,7 +40,10 @@ bool Lingue::ScriviChiave(const std::string& file, std::string_view sezione,
         fileSystem_.Read(file, FileLingua::LimiteLettura).value_or(std::string());
     const std::string testo = ConValore(prima, sezione, chiave, valore);
     letti_[file] = FileLingua(testo);
-    return fileSystem_.Replace(file, testo);
+    // Behind a link there may be anything. It is ours if it has this value already.
+    const bool altrui = fileSystem_.IsLink(file) && fileSystem_.FileExists(file) &&
+                        FileLingua(prima).Valore(sezione, chiave).empty();
+    return !altrui && fileSystem_.Replace(file, testo);
 }
 
 std::string Lingue::TestoLingua(std::string_view id) {

@@ -16,7 +16,8 @@ void ModuloPerIni::ImpostaPredefiniti() {
 
 void ModuloPerIni::ScriviUtente() {
     const std::string chiave = Capitals(stato_.FileUtente);
-    if (!illeggibili_.contains(chiave) && fileSystem_.Replace(stato_.FileUtente, Testo(stato_))) {
+    if (!illeggibili_.contains(chiave) && !PortaAltrove() &&
+        fileSystem_.Replace(stato_.FileUtente, Testo(stato_))) {
         nonSalvati_.erase(chiave);
         return;
     }
@@ -31,7 +32,8 @@ void ModuloPerIni::ScriviUtente() {
 
 void ModuloPerIni::LeggiUtente() {
     const std::string chiave = Capitals(stato_.FileUtente);
-    const auto testo = fileSystem_.Read(stato_.FileUtente, LimiteLettura);
+    const auto testo =
+        PortaAltrove() ? std::nullopt : fileSystem_.Read(stato_.FileUtente, LimiteLettura);
     if (!testo && EsisteFile(stato_.FileUtente)) {
         illeggibili_.insert(chiave);
     } else if (illeggibili_.erase(chiave) > 0 && testo) {
@@ -49,6 +51,14 @@ void ModuloPerIni::LeggiUtente() {
     }
 }
 
+bool ModuloPerIni::PortaAltrove() const {
+    if (!fileSystem_.IsLink(stato_.FileUtente) || !EsisteFile(stato_.FileUtente)) {
+        return false;
+    }
+    const auto testo = fileSystem_.Read(stato_.FileUtente, LimiteLettura);
+    return !testo || testo->size() == LimiteLettura || !Riconosci(*testo);
+}
+
 bool ModuloPerIni::EsisteFile(const std::string& percorso) const {
     return fileSystem_.FileExists(percorso);
 }
@@ -61,9 +71,11 @@ void ModuloPerIni::CreaCartella(const std::string& percorso) {
     fileSystem_.CreateFolder(percorso);
     const std::string separatore = "\r\n \r\n";
     // Nobody misses the readme if it cannot be written, so that is not told.
-    fileSystem_.Replace(FileLeggimi, lingue_.TestoLingua("0004") + separatore +
-                                         lingue_.TestoLingua("0005") + separatore +
-                                         lingue_.TestoLingua("0006") + "\r\n");
+    if (!fileSystem_.IsLink(FileLeggimi)) {
+        fileSystem_.Replace(FileLeggimi, lingue_.TestoLingua("0004") + separatore +
+                                             lingue_.TestoLingua("0005") + separatore +
+                                             lingue_.TestoLingua("0006") + "\r\n");
+    }
 }
 
 void ModuloPerIni::VerificaCartelle() {

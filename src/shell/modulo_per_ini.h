@@ -53,6 +53,9 @@ public:
     void VerificaCartelle();
 
 private:
+    /// True if the current user's file is a link to what is there and no user file.
+    bool PortaAltrove() const;
+
     Stato& stato_;
     FileSystem& fileSystem_;
     Dialogs& dialogs_;
@@ -62,8 +65,8 @@ private:
     /// menu, which saves and reads the current user whenever it is shown, would bring back the old
     /// settings of a file that cannot be written.
     std::map<std::string, Impostazioni> nonSalvati_;
-    /// Files that were there and could not be read, by the path in capitals. What they hold is not
-    /// replaced by the defaults that stand in for it.
+    /// Files that were there and could not be read or lie behind a link and are something else, by
+    /// the path in capitals. What they hold is not replaced by the defaults that stand in for it.
     std::set<std::string> illeggibili_;
     bool avvisato_ = false;
 };

@@ -106,6 +106,41 @@ TEST_F(Utenti, ChangeOfUserSavesTheOldOneFirst) {
     EXPECT_EQ(dopo.Gioco.Stato().Livello, 14);
 }
 
+TEST_F(Utenti, LinksAreFollowedToSettingsAndIntoTheirFolderAlone) {
+    const FileUtente vere = FileUtente().Con(RigaLivello, 9);
+    const struct {
+        const char* Dove;
+        std::string Prima;  // empty: no such file
+        std::string Dopo;   // empty: as before
+    } casi[] = {
+        {"../../../settings.txt", vere.Bytes(), vere.Con(RigaVelocita, 5).Bytes()},
+        {"../../../diary.txt", "Dear diary", ""},
+        {"../../../numbers.csv", "1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16", ""},
+        {"../../../long.txt", vere.Bytes() + "and more", ""},
+        {"../../../none.txt", "", ""},
+        {"new", "", FileUtente().Con(RigaVelocita, 5).Bytes()},
+    };
+    for (const auto& [dove, prima, dopo] : casi) {
+        SCOPED_TRACE(dove);
+        const Disco disco;
+        disco.Scrivi("_predefinito");
+        const fs::path file = disco.Utenti() / dove;
+        if (!prima.empty()) {
+            Write(file, prima);
+        }
+        fs::create_symlink(dove, disco.FileDi("Anna"));
+        Partita partita(disco);
+        ComboBox& lista = Trova<ComboBox>(partita.ApriMenu(), "Combo1");
+        lista.ListIndex(1 - lista.ListIndex());
+        EXPECT_EQ(partita.Gioco.Stato().Livello, prima == vere.Bytes() ? 9 : 3);
+        partita.Gioco.Stato().VelocitaScansione = 5;
+        Partita::Chiudi(partita.Finestra("FormMenu"));
+        EXPECT_EQ(fs::exists(file) ? BytesOf(file) : "", dopo.empty() ? prima : dopo);
+        EXPECT_EQ(partita.Messaggi.Messages.size(), dopo.empty() ? 1U : 0U);
+        EXPECT_TRUE(fs::is_symlink(disco.FileDi("Anna")));
+    }
+}
+
 /// What is in the first user's file at each step from the splash to the exit.
 TEST_F(Utenti, FileChangesAtTheSavingStepsOnly) {
     const auto file = [this] { return disco_.Leggi("_predefinito"); };

@@ -34,16 +34,6 @@ TEST_F(ReplaceTest, WritesTheBytesAsTheyAre) {
     }
 }
 
-TEST_F(ReplaceTest, ReplacesWhatALinkPointsTo) {
-    fs::create_directory(Root / "elsewhere");
-    fs::create_symlink(fs::path("elsewhere") / "real.ini", Root / "link.ini");
-    for (const char* bytes : {"first", "second"}) {
-        EXPECT_TRUE(Files.Replace("C:\\link.ini", bytes));
-        EXPECT_TRUE(fs::is_symlink(Root / "link.ini"));
-        EXPECT_EQ(BytesOf(Root / "elsewhere" / "real.ini"), bytes);
-    }
-}
-
 TEST_F(ReplaceTest, RefusesWhatIsNoFile) {
     fs::create_directory(Root / "folder.ini");
     mkfifo((Root / "pipe.ini").c_str(), 0600);

@@ -21,6 +21,7 @@ public:
     bool FileExists(const std::string& path) const override {
         return file_.contains(Capitals(path));
     }
+    bool IsLink(const std::string& /*path*/) const override { return false; }
     bool FolderExists(const std::string& /*path*/) const override { return true; }
     bool CreateFolder(const std::string& /*path*/) override { return true; }
 

@@ -159,6 +159,14 @@ std::optional<fs::path> EndOfLinks(fs::path place) {
     return std::nullopt;
 }
 
+/// True if a file would lie in that folder or below, whichever way its path goes.
+bool IsBelow(const fs::path& place, const fs::path& folder) {
+    std::error_code error;
+    const fs::path from =
+        fs::weakly_canonical(place, error).lexically_relative(fs::weakly_canonical(folder, error));
+    return !from.empty() && *from.begin() != "..";
+}
+
 /// A file that is closed when it goes out of scope.
 class OpenFile {
 public:
@@ -255,6 +263,12 @@ bool LocalFileSystem::FileExists(const std::string& path) const {
     return FindFile(path).has_value();
 }
 
+bool LocalFileSystem::IsLink(const std::string& path) const {
+    const auto place = PlaceToWrite(path);
+    std::error_code error;
+    return place && fs::is_symlink(*place, error);
+}
+
 bool LocalFileSystem::FolderExists(const std::string& path) const {
     const auto places = PlacesOf(path);
     return std::any_of(places.begin(), places.end(), [](const fs::path& place) {
@@ -310,8 +324,10 @@ bool LocalFileSystem::Replace(const std::string& path, const std::string& bytes)
         fs::create_directories(place->parent_path(), error);
     }
     // What a link points to is replaced, not the link.
-    place = EndOfLinks(*place);
-    if (!place) {
+    const fs::path named = *place;
+    place = EndOfLinks(named);
+    if (!place ||
+        (*place != named && !fs::exists(*place, error) && !IsBelow(*place, named.parent_path()))) {
         return false;
     }
     // A file that somebody made read-only stays as it is.

@@ -17,6 +17,7 @@ public:
         : root_(std::move(root)), program_(std::move(program)) {}
 
     bool FileExists(const std::string& path) const override;
+    bool IsLink(const std::string& path) const override;
     bool FolderExists(const std::string& path) const override;
     bool CreateFolder(const std::string& path) override;
     std::optional<std::string> Read(const std::string& path, std::size_t limit) const override;
