@@ -34,6 +34,22 @@ TEST_F(ReplaceTest, WritesTheBytesAsTheyAre) {
     }
 }
 
+TEST_F(ReplaceTest, KeepsModeOwnerAndGroup) {
+    const std::string file = Root / "file.ini";
+    Write(file, "old");
+    constexpr uid_t other = 65534;
+    for (const mode_t mode : {0600U, 0666U, 0750U}) {
+        const bool given = chown(file.c_str(), other, other) == 0;  // by root alone
+        chmod(file.c_str(), mode);
+        ASSERT_TRUE(Files.Replace("C:\\file.ini", "new"));
+        struct stat state {};
+        stat(file.c_str(), &state);
+        EXPECT_EQ(state.st_mode & ~S_IFMT, mode);
+        EXPECT_EQ(state.st_uid, given ? other : geteuid());
+        EXPECT_EQ(state.st_gid, given ? other : getegid());
+    }
+}
+
 TEST_F(ReplaceTest, RefusesWhatIsNoFile) {
     fs::create_directory(Root / "folder.ini");
     mkfifo((Root / "pipe.ini").c_str(), 0600);

@@ -10,6 +10,8 @@
 #include <set>
 
 #include "platform/qt/convert.h"
+#include "platform/qt/open_file.h"
+#include "platform/qt/whole_file.h"
 #include "platform/text.h"
 
 namespace fs = std::filesystem;
@@ -23,9 +25,6 @@ constexpr std::size_t DriveLength = UserDrive.size();
 
 /// The folder on "C:\" for what belongs into the program folder, where nobody may write.
 constexpr const char* OwnProgramFolder = "programma";
-
-/// Longest name that a file can have on the disk, in bytes.
-constexpr std::size_t LongestName = 255;
 
 /// Longest path on the disk that is tried; longer ones are refused by the system anyway.
 constexpr std::size_t LongestPath = 4000;
@@ -167,48 +166,6 @@ bool IsBelow(const fs::path& place, const fs::path& folder) {
     return !from.empty() && *from.begin() != "..";
 }
 
-/// A file that is closed when it goes out of scope.
-class OpenFile {
-public:
-    OpenFile(const fs::path& path, int flags) : handle_(open(path.c_str(), flags, 0666)) {}
-    ~OpenFile() { Close(); }
-    OpenFile(const OpenFile&) = delete;
-    OpenFile& operator=(const OpenFile&) = delete;
-
-    int Handle() const { return handle_; }
-    bool IsOpen() const { return handle_ >= 0; }
-    bool Close() {
-        const bool closed = handle_ >= 0 && close(handle_) == 0;
-        handle_ = -1;
-        return closed;
-    }
-
-private:
-    int handle_;
-};
-
-/// The name under which a file is written before it takes its place.
-fs::path Beside(const fs::path& place) {
-    constexpr std::string_view ending = ".new";
-    const std::string name = "." + place.filename().string();
-    return place.parent_path() /
-           (name.substr(0, LongestName - ending.size()) + std::string(ending));
-}
-
-bool WriteAll(int handle, std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t written = write(handle, bytes.data(), bytes.size());
-        if (written < 0) {
-            if (errno == EINTR) {
-                continue;
-            }
-            return false;
-        }
-        bytes.remove_prefix(static_cast<std::size_t>(written));
-    }
-    return true;
-}
-
 }  // namespace
 
 std::vector<fs::path> LocalFileSystem::FoldersOf(std::string_view path) const {
@@ -289,7 +246,7 @@ std::optional<std::string> LocalFileSystem::Read(const std::string& path, std::s
         return std::nullopt;
     }
     // A pipe of that name must not hold the program up.
-    const OpenFile file(*place, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    const OpenFile file(*place, O_RDONLY | O_NONBLOCK);
     struct stat state {};
     if (!file.IsOpen() || fstat(file.Handle(), &state) != 0 || !S_ISREG(state.st_mode)) {
         return std::nullopt;
@@ -335,23 +292,7 @@ bool LocalFileSystem::Replace(const std::string& path, const std::string& bytes)
         (!fs::is_regular_file(*place, error) || access(place->c_str(), W_OK) != 0)) {
         return false;
     }
-    const fs::path beside = Beside(*place);
-    // Always the same name, so that what a crash left there goes, whatever it is.
-    unlink(beside.c_str());
-    OpenFile file(beside, O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC);
-    const bool written = file.IsOpen() && WriteAll(file.Handle(), bytes) &&
-                         fsync(file.Handle()) == 0 && file.Close() &&
-                         rename(beside.c_str(), place->c_str()) == 0;
-    if (!written) {
-        unlink(beside.c_str());
-        return false;
-    }
-    // The new name itself has to reach the disk too; not every file system can be asked for that.
-    const OpenFile folder(place->parent_path(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (folder.IsOpen()) {
-        fsync(folder.Handle());
-    }
-    return true;
+    return ReplaceWhole(*place, bytes);
 }
 
 std::vector<std::string> LocalFileSystem::List(const std::string& folder,

@@ -1,0 +1,86 @@
+#include "platform/qt/whole_file.h"
+
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <optional>
+#include <string>
+
+#include "platform/qt/open_file.h"
+
+namespace fs = std::filesystem;
+
+namespace trameli {
+
+namespace {
+
+/// Longest name that a file can have on the disk, in bytes.
+constexpr std::size_t LongestName = 255;
+
+constexpr mode_t OfEverybody = 0666;  // what the process does not mask
+
+/// The name under which a file is written before it takes its place.
+fs::path Beside(const fs::path& place) {
+    constexpr std::string_view ending = ".new";
+    const std::string name = "." + place.filename().string();
+    return place.parent_path() /
+           (name.substr(0, LongestName - ending.size()) + std::string(ending));
+}
+
+bool WriteAll(int handle, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t written = write(handle, bytes.data(), bytes.size());
+        if (written < 0) {
+            if (errno == EINTR) {
+                continue;
+            }
+            return false;
+        }
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return true;
+}
+
+std::optional<struct stat> StateOf(const fs::path& place) {
+    struct stat state {};
+    return stat(place.c_str(), &state) == 0 ? std::optional(state) : std::nullopt;
+}
+
+/// Makes a new file as reachable as the old one was. What the system refuses is no reason to lose
+/// what is saved, but no other group must get the rights of the old one.
+void Inherit(int handle, const struct stat& old) {
+    constexpr auto sameOwner = static_cast<uid_t>(-1);
+    const bool groupStays =
+        fchown(handle, old.st_uid, old.st_gid) == 0 || fchown(handle, sameOwner, old.st_gid) == 0;
+    const mode_t others = old.st_mode & S_IRWXO;
+    const mode_t group = groupStays ? old.st_mode & S_IRWXG : old.st_mode & (others << 3);
+    fchmod(handle, (old.st_mode & ~S_IFMT & ~S_IRWXG) | group);
+}
+
+}  // namespace
+
+bool ReplaceWhole(const fs::path& place, std::string_view bytes) {
+    const auto old = StateOf(place);
+    const fs::path beside = Beside(place);
+    // Always the same name, so that what a crash left there goes, whatever it is.
+    unlink(beside.c_str());
+    OpenFile file(beside, O_WRONLY | O_CREAT | O_EXCL, old ? old->st_mode & S_IRWXU : OfEverybody);
+    if (old && file.IsOpen()) {
+        Inherit(file.Handle(), *old);
+    }
+    const bool written = file.IsOpen() && WriteAll(file.Handle(), bytes) &&
+                         fsync(file.Handle()) == 0 && file.Close() &&
+                         rename(beside.c_str(), place.c_str()) == 0;
+    if (!written) {
+        unlink(beside.c_str());
+        return false;
+    }
+    // The new name itself has to reach the disk too; not every file system can be asked for that.
+    const OpenFile folder(place.parent_path(), O_RDONLY | O_DIRECTORY);
+    if (folder.IsOpen()) {
+        fsync(folder.Handle());
+    }
+    return true;
+}
+
+}  // namespace trameli

@@ -1,0 +1,14 @@
+// Replacing files on the disk.
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+
+namespace trameli {
+
+/// Makes `bytes` the content of a file, whole or not at all, whatever happens in between. A file
+/// that is there already keeps its mode, owner and group as far as the system allows it. False if
+/// it could not be written; then the old one is as it was.
+bool ReplaceWhole(const std::filesystem::path& place, std::string_view bytes);
+
+}  // namespace trameli
