@@ -1,10 +1,10 @@
 // Replacing a file: whole or not at all, whatever happens in between.
 #include <gtest/gtest.h>
-#include <signal.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 
 #include "platform/in_child.h"
+#include "platform/qt/environment.h"
 #include "platform/qt/local_file_system.h"
 #include "support/stage.h"
 
@@ -114,7 +114,7 @@ TEST_F(ReplaceTest, KeepsTheOldFileWhenTheDiskIsFull) {
     Write(Root / "file.ini", "old");
     EXPECT_EQ(RunInChild([&] {
                   // As on a full disk, writing stops in the middle.
-                  signal(SIGXFSZ, SIG_IGN);
+                  OutliveFileSizeLimit();
                   const rlimit limit{1000, 1000};
                   setrlimit(RLIMIT_FSIZE, &limit);
                   return Files.Replace("C:\\file.ini", std::string(5000, 'n')) ? 1 : 0;

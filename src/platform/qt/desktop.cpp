@@ -50,6 +50,7 @@ struct Desktop::Native {
 };
 
 Desktop::Desktop(int& argc, char** argv) {
+    OutliveFileSizeLimit();
     // The toolkit asks for the system's fonts when it needs the first one. Reading which there are
     // takes as long as starting the toolkit, which mostly waits for the screen, so it goes beside.
     const std::jthread fonts([] { FcInit(); });

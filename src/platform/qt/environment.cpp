@@ -3,6 +3,7 @@
 #include <pwd.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <cstdlib>
 
 namespace fs = std::filesystem;
@@ -47,6 +48,14 @@ std::string LocaleOfMessages() {
         }
     }
     return {};
+}
+
+void OutliveFileSizeLimit() {
+    // Not ignored: that would hold for the programs too that open documents.
+    struct sigaction nothing {};
+    nothing.sa_handler = [](int) {};
+    nothing.sa_flags = SA_RESTART;
+    sigaction(SIGXFSZ, &nothing, nullptr);
 }
 
 }  // namespace trameli

@@ -21,4 +21,8 @@ std::filesystem::path ThisExecutable();
 /// $LANG, the first that is set and not empty. Empty if none is.
 std::string LocaleOfMessages();
 
+/// Lets a write beyond the limit for the size of files fail as on a full disk. By itself the system
+/// would end the process there.
+void OutliveFileSizeLimit();
+
 }  // namespace trameli
