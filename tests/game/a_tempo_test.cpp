@@ -132,50 +132,30 @@ TEST_F(ATempo, PauseStopsTheClockAndKeysStillSteer) {
     EXPECT_EQ(Centro(2, 2), IlTavolo().Colore(RigaSimbolo));
 }
 
-/// What the player waits after.
-enum class Dopo { Apertura, TrameloNuovo, Ripartenza };
-
-class OgniAttesa : public ATempo, public testing::WithParamInterface<Dopo> {
+class Attesa : public ATempo {
 protected:
-    /// Brings such a wait about, with `azione` so many seconds after its beginning.
+    /// Starts a level, with `azione` so many seconds after its wait began.
     void Aspetta(double secondi, std::function<void()> azione) {
-        if (GetParam() == Dopo::Apertura) {
-            if (!partita_.Aperta("FormMenu")) {
-                partita_.ApriMenu();
-            }
-            Fra(0.3 + secondi, std::move(azione));
-            partita_.AvviaLivello(5);
-            return;
+        if (!partita_.Aperta("FormMenu")) {
+            partita_.ApriMenu();
         }
-        Apri(5);
-        if (GetParam() == Dopo::Ripartenza) {
-            Sbaglia(5);
-            Fra(1.8 + secondi, std::move(azione));
-            Sbaglia(1);
-        } else {
-            Scatti(2);
-            Fra(secondi, std::move(azione));
-            CtrlN();
-        }
+        Fra(0.3 + secondi, std::move(azione));
+        partita_.AvviaLivello(5);
+        EXPECT_EQ(partita_.Tempo.WaitsUnderWay(), 0);
     }
 };
 
-INSTANTIATE_TEST_SUITE_P(Tutte, OgniAttesa,
-                         testing::Values(Dopo::Apertura, Dopo::TrameloNuovo, Dopo::Ripartenza));
-
-TEST_P(OgniAttesa, CanBeLeftAtAnyMoment) {
+TEST_F(Attesa, CanBeLeftAtAnyMoment) {
     for (const double quando : {UnIstante, 1.5, TreSecondi - UnIstante}) {
         Aspetta(quando, [&] { Scegli("mnuEsci"); });
-        EXPECT_EQ(partita_.Tempo.WaitsUnderWay(), 0);
         EXPECT_EQ(partita_.Aperte(), std::vector<std::string>{"FormMenu"});
         partita_.Tempo.Advance(20);
     }
     Aspetta(1.5, [&] { Partita::Chiudi(Gioco()); });
     EXPECT_TRUE(partita_.Gioco.Forms().Ended());
-    EXPECT_EQ(partita_.Tempo.WaitsUnderWay(), 0);
 }
 
-TEST_P(OgniAttesa, EndsWithTheClockStartedWhateverElseHappens) {
+TEST_F(Attesa, EndsWithTheClockStartedWhateverElseHappens) {
     double fine = 0;
     Aspetta(1, [&] {
         fine = partita_.Tempo.Now() + TreSecondi - 1;
@@ -184,7 +164,6 @@ TEST_P(OgniAttesa, EndsWithTheClockStartedWhateverElseHappens) {
         Scegli("mnuRicomincia");
         Partita::ViaERitorno(Gioco());  // which makes no new maze
         EXPECT_EQ(Immagine(), prima);
-        EXPECT_EQ(partita_.Tempo.WaitsUnderWay(), 1);
         Scegli("mnuPausa");
         EXPECT_TRUE(Orologio().Enabled());
         Scegli("mnuPausa");

@@ -84,6 +84,8 @@ TEST_P(LivelloIntero, FiveMazesAndBothAnswers) {
     Apri(livello, modo);
     for (const bool altro : {false, true}) {
         const Tavolo tavolo = AlTavolo(partita_.Finestra(FormDelLivello(livello)), livello);
+        EXPECT_EQ(tavolo.Pannello(1), "_predefinito");
+        EXPECT_EQ(tavolo.NumeroPannello(2), livello + 1);
         offerta_ = 0;
         for (int labirinto = 0; labirinto < LabirintiPerLivello; ++labirinto) {
             SCOPED_TRACE(testing::Message() << "maze " << labirinto);
@@ -121,7 +123,9 @@ TEST_P(LivelloIntero, FiveMazesAndBothAnswers) {
             }
         }
         ASSERT_EQ(partita_.Aperte(), Nomi{"FormFinale"});
+        EXPECT_EQ(partita_.Suoni.Asked.back(), "music P:\\suoni\\coppa.mid");
         Rispondi(partita_.Finestra("FormFinale"), altro);
+        EXPECT_EQ(partita_.Suoni.Asked.back(), "stop");
         // After the last level there is none but itself.
         const int dopo = std::min(livello + (altro ? 1 : 0), NumeroLivelliGioco - 1);
         ASSERT_EQ(partita_.Gioco.Stato().Livello, dopo);

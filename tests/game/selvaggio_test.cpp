@@ -219,30 +219,5 @@ TEST_P(GiocatoreSelvaggio, BreaksNothingAndLeavesNothing) {
 
 INSTANTIATE_TEST_SUITE_P(Semi, GiocatoreSelvaggio, testing::Range(1U, 1U + Giocatori));
 
-/// What stays within one game, from visit to visit.
-TEST(MolteVisite, LeaveNothingBehind) {
-    const Disco disco;
-    Partita partita(disco, {800, 600});
-    const auto visita = [&](int volte) {
-        for (int i = 0; i < volte; ++i) {
-            for (const int livello : {2, 6, 9}) {
-                Form& form = partita.ApriLivello(livello);
-                Tap(form, Qt::Key_N, Qt::ControlModifier);
-                Partita::Scegli(form, "mnuEsci");
-            }
-            partita.Tempo.Advance(0.3);
-            partita.Suoni.Asked.clear();
-        }
-        QPixmapCache::clear();
-        return LiveBytes();
-    };
-    const std::int64_t prima = visita(20);
-    const auto finestre = QApplication::allWidgets().size();
-    // Bytes; the allocator of the C library counts what it keeps at hand as well.
-    EXPECT_LT(visita(40) - prima, 48 * 1024);
-    EXPECT_EQ(QApplication::allWidgets().size(), finestre);
-    EXPECT_EQ(partita.Tempo.TimersRunning(), 0);
-}
-
 }  // namespace
 }  // namespace trameli

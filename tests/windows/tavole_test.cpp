@@ -185,6 +185,10 @@ private:
     void Apri(const std::string& nome) {
         if (!partita_) {
             partita_.emplace(disco_, schermo_);
+            if (nome == "FormAvvio") {
+                partita_->Avvia();
+                return;
+            }
             partita_->ApriMenu(false);
         }
         if (nome == "early") {
@@ -214,6 +218,9 @@ private:
             }
             if (proprieta == "Focus") {
                 return detto(widget.hasFocus() || widget.isAncestorOf(QApplication::focusWidget()));
+            }
+            if (proprieta == "Pointer") {
+                return widget.cursor().shape() == Qt::BitmapCursor ? "game" : "system";
             }
             const QImage vista = Shot(Davanti());
             const QPoint mezzo = widget.mapTo(&WindowOf(Davanti()), widget.rect().center());
@@ -259,6 +266,7 @@ private:
              disco_.Scrivi(nome, ConImpostazioni(impostazioni));
          }},
         {"lang", [this](const std::string& testo) { ScriviLingua(testo); }},
+        {"put", [this](const std::string& nome) { disco_.ScriviNelProgramma(nome, ""); }},
         {"open", [this](const std::string& nome) { Apri(nome); }},
         {"click",
          [this](const std::string& nome) {

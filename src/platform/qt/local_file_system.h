@@ -9,7 +9,7 @@
 namespace trameli {
 
 /// The program's paths on a file system that tells capitals from small letters.
-class LocalFileSystem final : public FileSystem {
+class LocalFileSystem : public FileSystem {
 public:
     /// `root` is the folder that "C:\" stands for. It is made when something is first put into it.
     /// `program` is the program folder as it was installed, if there is one.
