@@ -8,11 +8,11 @@
 #include <chrono>
 #include <thread>
 
-#include "platform/no_printers.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/desktop_clock.h"
 #include "platform/qt/desktop_dialogs.h"
 #include "platform/qt/desktop_documents.h"
+#include "platform/qt/desktop_printers.h"
 #include "platform/qt/desktop_screen.h"
 #include "platform/qt/environment.h"
 #include "platform/qt/folder_lock.h"
@@ -46,7 +46,7 @@ struct Desktop::Native {
     FolderLock Lock;
     MixerSounds Sounds;
     DesktopDocuments Documents;
-    NoPrinters Printers;
+    DesktopPrinters Printers;
 };
 
 Desktop::Desktop(int& argc, char** argv) {

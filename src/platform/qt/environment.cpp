@@ -10,6 +10,19 @@ namespace fs = std::filesystem;
 
 namespace trameli {
 
+namespace {
+
+std::string LocaleOf(const char* category) {
+    for (const char* name : {"LC_ALL", category, "LANG"}) {
+        if (const char* value = std::getenv(name); value && *value) {
+            return value;
+        }
+    }
+    return {};
+}
+
+}  // namespace
+
 fs::path UserDataFolder() {
     const char* data = std::getenv("XDG_DATA_HOME");
     if (data && fs::path(data).is_absolute()) {
@@ -42,12 +55,11 @@ fs::path FindProgramFolder(const fs::path& executable) {
 }
 
 std::string LocaleOfMessages() {
-    for (const char* name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-        if (const char* value = std::getenv(name); value && *value) {
-            return value;
-        }
-    }
-    return {};
+    return LocaleOf("LC_MESSAGES");
+}
+
+std::string LocaleOfPaper() {
+    return LocaleOf("LC_PAPER");
 }
 
 void OutliveFileSizeLimit() {

@@ -20,6 +20,8 @@ std::filesystem::path ThisExecutable();
 /// The language of messages, as every program of the system finds it: $LC_ALL, $LC_MESSAGES or
 /// $LANG, the first that is set and not empty. Empty if none is.
 std::string LocaleOfMessages();
+/// The country whose paper is used, found in the same way: $LC_ALL, $LC_PAPER or $LANG.
+std::string LocaleOfPaper();
 
 /// Lets a write beyond the limit for the size of files fail as on a full disk. By itself the system
 /// would end the process there.

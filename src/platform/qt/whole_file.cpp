@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 
 #include <cerrno>
+#include <cstdio>
 #include <optional>
 #include <string>
 
@@ -57,20 +58,20 @@ void Inherit(int handle, const struct stat& old) {
     fchmod(handle, (old.st_mode & ~S_IFMT & ~S_IRWXG) | group);
 }
 
-}  // namespace
-
-bool ReplaceWhole(const fs::path& place, std::string_view bytes) {
-    const auto old = StateOf(place);
+/// Writes all bytes into a new file beside `place` and gives it its name by `name`; the answer is
+/// that of `name`. Nothing is left behind if anything fails.
+template <typename Prepare, typename Name>
+bool WriteBeside(const fs::path& place, std::string_view bytes, mode_t mode, Prepare prepare,
+                 Name name) {
     const fs::path beside = Beside(place);
     // Always the same name, so that what a crash left there goes, whatever it is.
     unlink(beside.c_str());
-    OpenFile file(beside, O_WRONLY | O_CREAT | O_EXCL, old ? old->st_mode & S_IRWXU : OfEverybody);
-    if (old && file.IsOpen()) {
-        Inherit(file.Handle(), *old);
+    OpenFile file(beside, O_WRONLY | O_CREAT | O_EXCL, mode);
+    if (file.IsOpen()) {
+        prepare(file.Handle());
     }
     const bool written = file.IsOpen() && WriteAll(file.Handle(), bytes) &&
-                         fsync(file.Handle()) == 0 && file.Close() &&
-                         rename(beside.c_str(), place.c_str()) == 0;
+                         fsync(file.Handle()) == 0 && file.Close() && name(beside);
     if (!written) {
         unlink(beside.c_str());
         return false;
@@ -81,6 +82,49 @@ bool ReplaceWhole(const fs::path& place, std::string_view bytes) {
         fsync(folder.Handle());
     }
     return true;
+}
+
+/// Renames a file unless there is one of the new name. `errno` tells why it failed.
+bool RenameToNew(const fs::path& from, const fs::path& to) {
+    if (renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) {
+        return true;
+    }
+    // File systems of other machines do not know that flag, but they know links.
+    if ((errno != EINVAL && errno != ENOSYS) || link(from.c_str(), to.c_str()) != 0) {
+        return false;
+    }
+    unlink(from.c_str());
+    return true;
+}
+
+}  // namespace
+
+bool ReplaceWhole(const fs::path& place, std::string_view bytes) {
+    const auto old = StateOf(place);
+    return WriteBeside(
+        place, bytes, old ? old->st_mode & S_IRWXU : OfEverybody,
+        [&old](int handle) {
+            if (old) {
+                Inherit(handle, *old);
+            }
+        },
+        [&place](const fs::path& beside) { return rename(beside.c_str(), place.c_str()) == 0; });
+}
+
+Creation CreateWhole(const fs::path& place, std::string_view bytes) {
+    std::error_code error;
+    Creation result = Creation::Failed;
+    if (fs::exists(fs::symlink_status(place, error))) {
+        return Creation::Taken;
+    }
+    WriteBeside(
+        place, bytes, OfEverybody, [](int) {},
+        [&](const fs::path& beside) {
+            const bool named = RenameToNew(beside, place);
+            result = named ? Creation::Made : errno == EEXIST ? Creation::Taken : Creation::Failed;
+            return named;
+        });
+    return result;
 }
 
 }  // namespace trameli

@@ -1,4 +1,4 @@
-// Replacing files on the disk.
+// Files on the disk that are there whole or not at all.
 #pragma once
 
 #include <filesystem>
@@ -10,5 +10,11 @@ namespace trameli {
 /// that is there already keeps its mode, owner and group as far as the system allows it. False if
 /// it could not be written; then the old one is as it was.
 bool ReplaceWhole(const std::filesystem::path& place, std::string_view bytes);
+
+enum class Creation { Made, Taken, Failed };
+
+/// Makes a new file with `bytes`, whole or not at all. One that has the name already stays as it
+/// is, and the name counts as taken.
+Creation CreateWhole(const std::filesystem::path& place, std::string_view bytes);
 
 }  // namespace trameli

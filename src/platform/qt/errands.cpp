@@ -1,0 +1,108 @@
+#include "platform/qt/errands.h"
+
+#include <QEventLoop>
+#include <QTimer>
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <exception>
+#include <mutex>
+#include <system_error>
+#include <thread>
+#include <utility>
+
+namespace trameli {
+
+namespace {
+
+using namespace std::chrono_literals;
+using Now = std::chrono::steady_clock;
+
+/// How long nothing may go on until work counts as failed.
+constexpr auto Standstill = 30s;
+/// How often that is looked at.
+constexpr auto Round = 1s;
+/// How long the end of the program waits for what is on its way.
+constexpr auto Farewell = 2s;
+
+}  // namespace
+
+/// Shared with the threads, which may live longer.
+struct Errands::UnderWay {
+    std::mutex Mutex;
+    std::condition_variable Changed;
+    int Count = 0;
+    QObject* WindowThread = nullptr;  ///< where answers go; nothing once nobody waits for them
+
+    void Answer(std::function<void(bool)> then, bool result) {
+        const std::lock_guard lock(Mutex);
+        if (WindowThread) {
+            QMetaObject::invokeMethod(
+                WindowThread, [then = std::move(then), result] { then(result); },
+                Qt::QueuedConnection);
+        }
+        --Count;
+        Changed.notify_all();
+    }
+};
+
+Errands::Errands() : underWay_(std::make_shared<UnderWay>()) {
+    underWay_->WindowThread = &windowThread_;
+}
+
+Errands::~Errands() {
+    std::unique_lock lock(underWay_->Mutex);
+    underWay_->Changed.wait_for(lock, Farewell, [this] { return underWay_->Count == 0; });
+    underWay_->WindowThread = nullptr;
+}
+
+void Errands::Send(Work work, std::function<void(bool)> then) {
+    {
+        const std::lock_guard lock(underWay_->Mutex);
+        ++underWay_->Count;
+    }
+    try {
+        std::thread([underWay = underWay_, work = std::move(work), then]() mutable {
+            bool result = false;
+            try {
+                result = work([] {});
+            } catch (const std::exception&) {
+                // Out of memory, say: the work has failed.
+            }
+            work = nullptr;
+            underWay->Answer(std::move(then), result);
+        }).detach();
+    } catch (const std::system_error&) {
+        underWay_->Answer(std::move(then), false);
+    }
+}
+
+bool Errands::Run(const Work& work) {
+    struct Wait {
+        QEventLoop* Loop = nullptr;  ///< nothing once nobody waits any more
+        bool Result = false;
+        std::atomic<Now::time_point> LastSign{Now::now()};
+    };
+    const auto wait = std::make_shared<Wait>();
+    QEventLoop loop;
+    wait->Loop = &loop;
+    Send([work, wait](const Progress&) { return work([wait] { wait->LastSign = Now::now(); }); },
+         [wait](bool result) {
+             wait->Result = result;
+             if (wait->Loop) {
+                 wait->Loop->quit();
+             }
+         });
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, &loop, [&wait, &loop] {
+        if (Now::now() - wait->LastSign.load() > Standstill) {
+            loop.quit();
+        }
+    });
+    watch.start(Round);
+    loop.exec();
+    wait->Loop = nullptr;
+    return wait->Result;
+}
+
+}  // namespace trameli
