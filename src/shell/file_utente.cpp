@@ -5,6 +5,8 @@
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <locale>
+#include <sstream>
 #include <system_error>
 #include <variant>
 
@@ -106,6 +108,15 @@ private:
     std::string_view resto_;
 };
 
+/// Of numbers that no double can hold, those that come to nothing are nought, and those that are
+/// too large are none. Among the library's conversions that of streams tells them apart.
+std::optional<double> Minuscolo(std::string_view testo) {
+    std::istringstream flusso{std::string(testo)};
+    flusso.imbue(std::locale::classic());
+    double valore = 0;
+    return flusso >> valore ? std::optional(valore) : std::nullopt;
+}
+
 /// A number as free-format input takes it: a sign, decimals and an exponent are allowed, an empty
 /// text, a word or an infinite value are not.
 std::optional<double> Converti(std::string_view testo) {
@@ -116,6 +127,9 @@ std::optional<double> Converti(std::string_view testo) {
     const char* const fine = testo.data() + testo.size();
     // Unlike the other conversions of the library this one knows no locale.
     const auto [arrivo, errore] = std::from_chars(testo.data(), fine, valore);
+    if (errore == std::errc::result_out_of_range && arrivo == fine) {
+        return Minuscolo(testo);
+    }
     if (errore != std::errc() || arrivo != fine || !std::isfinite(valore)) {
         return std::nullopt;
     }

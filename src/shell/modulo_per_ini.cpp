@@ -15,6 +15,7 @@ void ModuloPerIni::ImpostaPredefiniti() {
 }
 
 void ModuloPerIni::ScriviUtente() {
+    VerificaCartelle();  // they may have gone since the start
     const std::string chiave = Capitals(stato_.FileUtente);
     if (!illeggibili_.contains(chiave) && !PortaAltrove() &&
         fileSystem_.Replace(stato_.FileUtente, Testo(stato_))) {

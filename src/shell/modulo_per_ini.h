@@ -26,9 +26,9 @@ public:
     static constexpr const char* PrimoFileUtente =
         "C:\\ImpostazioniProgrammiOvalia\\trameli\\_predefinito.INI";
 
-    /// No user file is read any further. Sixteen lines need far less, but a hand-made file may be
-    /// generous with blanks.
-    static constexpr std::size_t LimiteLettura = 4096;
+    /// No user file is read any further. Sixteen lines need far less, but blanks in front of a
+    /// number are no fault, however many.
+    static constexpr std::size_t LimiteLettura = std::size_t{64} * 1024;
 
     /// Works on `stato`. All four must outlive it; nothing is read or written yet.
     ModuloPerIni(Stato& stato, FileSystem& fileSystem, Dialogs& dialogs, Lingue& lingue);
@@ -36,8 +36,9 @@ public:
     /// Gives all sixteen settings their defaults.
     void ImpostaPredefiniti();
 
-    /// Writes the settings to `FileUtente`. The first failure of a run is told in a message box,
-    /// which serves events: a window's routine asks afterwards whether the window is still loaded.
+    /// Writes the settings to `FileUtente`, into folders made anew where they have gone. The first
+    /// failure of a run is told in a message box, which serves events: a window's routine asks
+    /// afterwards whether the window is still loaded.
     void ScriviUtente();
 
     /// Fills the settings from `FileUtente`; a missing or damaged file gives the defaults.

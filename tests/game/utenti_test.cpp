@@ -172,6 +172,15 @@ TEST_F(Utenti, FileChangesAtTheSavingStepsOnly) {
     EXPECT_EQ(file(), "touched");
 }
 
+TEST_F(Utenti, ASaveMakesTheFolderAgainThatWasRemoved) {
+    partita_.ApriLivello(9);
+    fs::remove_all(disco_.Radice());
+    Partita::Chiudi(partita_.Finestra("frmTrm3"));
+    EXPECT_EQ(disco_.Leggi("_predefinito"), FileUtente().Con(RigaLivello, 9).Bytes());
+    EXPECT_TRUE(fs::exists(disco_.Leggimi()));
+    EXPECT_TRUE(partita_.Messaggi.Messages.empty());
+}
+
 TEST_F(Utenti, WhatCannotBeSavedIsToldOncePerRunAndKept) {
     Form& gioco = partita_.ApriLivello(9);
     fs::remove(disco_.FileDi("_predefinito"));

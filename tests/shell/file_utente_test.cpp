@@ -83,7 +83,7 @@ TEST(FileUtente, EachValueIsReadAsWhatItCanMean) {
     const auto predefinita = [](std::size_t riga) { return Predefinite.at(riga - 1); };
     const ValoriDi casi[] = {
         {1, {"     7      ", "\t7\t", "+7", "007", "7."}, " 7 "},
-        {1, {".5", "-0.5", "0"}, " 0 "},
+        {1, {".5", "-0.5", "0", "1e-400"}, " 0 "},
         {1, {"2.5"}, " 2 "},
         {1, {"3.5"}, " 4 "},
         {1, {"1.2E+1"}, " 12 "},
@@ -92,6 +92,7 @@ TEST(FileUtente, EachValueIsReadAsWhatItCanMean) {
         {2, {"True", "T", "Tavolo e sedia"}, "True"},
         {2, {"", "true", "-1", "\"True\"", " True", "\xD0\xA2"}, "False"},
         {5, {"1e3"}, " 1000 "},
+        {5, {"-0.1e-9999999999"}, " 0 "},
         {5, {"16777215"}, " 16777215 "},
         {5, {"16777216", "-1", "254.5", "1e300"}, predefinita(5)},
         {6, {"16777216", "-1"}, predefinita(6)},

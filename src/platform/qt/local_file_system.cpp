@@ -325,6 +325,14 @@ std::string LocalFileSystem::OnThisMachine(const std::string& path) const {
     if (!place) {
         place = PlaceToWrite(path);
     }
+    const auto folders = FoldersOf(path);
+    if (const auto parts = folders.empty() ? std::nullopt : PartsOf(path); !place && parts) {
+        // A folder that cannot be looked through keeps to itself how its files are spelled.
+        place = folders.front();
+        for (const std::string& part : *parts) {
+            *place /= part;
+        }
+    }
     return place ? place->string() : path;
 }
 
