@@ -119,7 +119,7 @@ public:
     void Height(double twips);
     /// All four at once, for a control that is moved and sized in one go.
     const Bounds& Place() const { return bounds_; }
-    void Place(const Bounds& bounds);
+    virtual void Place(const Bounds& bounds);
 
 protected:
     PlacedControl(Container& container, ControlName name, const Bounds& bounds,

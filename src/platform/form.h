@@ -95,6 +95,18 @@ public:
     /// What is drawn on the form itself, under its controls; made at the first call.
     Surface& Canvas();
 
+    // What can be seen of the form, in the device's own pixels: the window within the desktop's
+    // frame, or the client area alone, without menu bar. Reading returns the rows that were copied:
+    // none unless `into` has just that size.
+    PixelSize WindowPixels() const;
+    int ReadPixels(const PixelBlock& into) const;
+    PixelSize ClientPixels() const;
+    int ReadClientPixels(const PixelBlock& into) const;
+
+    /// Whether the pointer says over the whole form, whatever lies under it, that it has to be
+    /// waited for.
+    void Hourglass(bool shown);
+
     /// All controls in the order of their making, timers and menu entries included.
     const std::vector<Control*>& Controls() const { return controls_; }
 

@@ -22,6 +22,25 @@ public:
     /// A picture shown at its own size from the upper left corner, under the drawing.
     const trameli::Picture& Picture() const { return picture_; }
     void Picture(const trameli::Picture& picture);
+    /// What is drawn on another surface becomes the picture, pixel by pixel, and the box takes its
+    /// size. What is drawn there later does not show.
+    void Picture(const Surface& drawing);
+
+    /// Width and height in pixels as the layout counts them.
+    double ScaleWidthPixels() const;
+    double ScaleHeightPixels() const;
+
+    /// Whether the Tab key comes to the box. Space and Enter then click it as they press a button,
+    /// and a ring shows that it has the keyboard. A new box does neither: it can hold the keyboard
+    /// for a form that answers the keys itself.
+    void TakesKeyboard(bool takes);
+
+    /// The left mouse button was pressed and released on it, or Space or Enter if it takes the
+    /// keyboard.
+    std::function<void()> Click;
+
+    using InteractiveControl::Place;
+    void Place(const Bounds& bounds) override;
 
     Form& ContainerForm() override { return OwnerForm(); }
     Container::Native ContainerNative() override;

@@ -15,7 +15,7 @@ constexpr int TwipsPerPixelFor(int width, int height) {
     return fitting < 1 ? 1 : fitting < usual ? fitting : usual;
 }
 
-/// Sizes in pixels, which are logical ones where the system scales.
+/// A size in pixels, which are logical ones where the system scales and nothing else is said.
 struct PixelSize {
     int Width = 0;
     int Height = 0;

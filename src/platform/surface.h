@@ -5,6 +5,8 @@
 #include <span>
 
 #include "platform/colour.h"
+#include "platform/pixel_block.h"
+#include "platform/screen.h"
 
 namespace trameli {
 
@@ -35,8 +37,18 @@ public:
     /// proportions. The longer half axis of the largest is `radius`, in any unit; it touches the
     /// edges and has the first colour. Each further one is smaller by 1, the last takes the middle.
     void FillRings(std::span<const Colour> colours, double radius);
+    /// Lays a picture over a rectangle of the surface, given in pixels as the layout counts them.
+    /// Shrunk it is averaged, so that no thin line gets lost; enlarged its pixels stay pixels.
+    /// Costs only what can be seen of it. False if the picture is none.
+    bool StretchPixels(const PixelRectangle& where, const PixelBlock& picture);
     /// Clears to the background.
     void Cls();
+
+    /// Size of the drawing in the device's own pixels, of which a scaled screen has more.
+    PixelSize DevicePixels() const;
+    /// Copies the drawing, pixel by pixel, without the controls on it. Returns how many rows were
+    /// copied: none unless `into` has just the size of `DevicePixels`.
+    int ReadPixels(const PixelBlock& into) const;
 
     /// The toolkit's side of the surface; of use below `platform` only.
     Native& SurfaceNative() const { return *native_; }

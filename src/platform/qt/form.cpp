@@ -8,6 +8,7 @@
 #include "platform/qt/form_window.h"
 #include "platform/qt/graphics.h"
 #include "platform/qt/native.h"
+#include "platform/qt/pixel_rows.h"
 #include "platform/qt/surface_native.h"
 
 namespace trameli {
@@ -20,6 +21,21 @@ void Ask(Form& form, void (QRect::*part)(int), double twips) {
     QRect place = window.Asked();
     (place.*part)(Nearest(twips / TwipsPerPixel(form)));
     window.Place(place);
+}
+
+PixelSize DevicePixelsOf(const QWidget& widget) {
+    const QSize size = (QSizeF(widget.size()) * widget.devicePixelRatioF()).toSize();
+    return {size.width(), size.height()};
+}
+
+int ReadWidget(QWidget& widget, const PixelBlock& into) {
+    const PixelSize size = DevicePixelsOf(widget);
+    QImage seen(size.Width, size.Height, QImage::Format_RGB32);
+    seen.setDevicePixelRatio(widget.devicePixelRatioF());
+    if (!seen.isNull()) {
+        widget.render(&seen);
+    }
+    return ReadRows(seen, into);
 }
 
 }  // namespace
@@ -101,6 +117,26 @@ void Form::BackColor(Colour colour) {
 void Form::MouseIcon(std::optional<PointerImage> icon) {
     mouseIcon_ = std::move(icon);
     SetPointer(native_->Window.Client(), mouseIcon_);
+}
+
+PixelSize Form::WindowPixels() const {
+    return DevicePixelsOf(native_->Window);
+}
+
+int Form::ReadPixels(const PixelBlock& into) const {
+    return ReadWidget(native_->Window, into);
+}
+
+PixelSize Form::ClientPixels() const {
+    return DevicePixelsOf(native_->Window.Client());
+}
+
+int Form::ReadClientPixels(const PixelBlock& into) const {
+    return ReadWidget(native_->Window.Client(), into);
+}
+
+void Form::Hourglass(bool shown) {
+    native_->Window.Hourglass(shown);
 }
 
 Surface& Form::Canvas() {

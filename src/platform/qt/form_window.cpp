@@ -227,6 +227,25 @@ void FormWindow::LookUpFonts() {
     }
 }
 
+void FormWindow::Hourglass(bool wanted) {
+    hourglassWanted_ = wanted;
+    ShowHourglass();
+}
+
+/// The pointer is that of all windows, or controls with one of their own would show theirs. So it
+/// comes and goes with the window's being in front: over a message box nobody has to wait.
+void FormWindow::ShowHourglass() {
+    const bool due = hourglassWanted_ && isActiveWindow() && presented_;
+    if (due == std::exchange(hourglassShown_, due)) {
+        return;
+    }
+    if (due) {
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    } else {
+        QApplication::restoreOverrideCursor();
+    }
+}
+
 bool FormWindow::FocusMovedTo(const Control& control) {
     const bool moved = focused_ != &control;
     focused_ = &control;
@@ -236,6 +255,7 @@ bool FormWindow::FocusMovedTo(const Control& control) {
 void FormWindow::Dismiss() {
     settling_.stop();
     presented_ = false;
+    ShowHourglass();
     // A menu left open would stay on the screen without its window.
     while (QWidget* popup = QApplication::activePopupWidget()) {
         popup->close();
@@ -246,6 +266,7 @@ void FormWindow::Dismiss() {
 bool FormWindow::event(QEvent* event) {
     switch (event->type()) {
         case QEvent::WindowActivate:
+            ShowHourglass();
             keys_.Appeared(*this);
             if (frontAnnounced_ && activated_) {
                 // Later, because the desktop's event is not over yet and the routine may wait.
@@ -259,6 +280,7 @@ bool FormWindow::event(QEvent* event) {
             frontAnnounced_ = true;
             break;
         case QEvent::WindowDeactivate:
+            ShowHourglass();
             keys_.Forget();
             break;
         case QEvent::Resize:

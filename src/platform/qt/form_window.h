@@ -31,6 +31,7 @@ private:
 class FormWindow : public QMainWindow {
 public:
     FormWindow(Form& form, QSize clientSize, FormStyle style);
+    ~FormWindow() override { Hourglass(false); }
 
     ClientArea& Client() { return client_; }
     /// The text in the window's frame; it may be empty.
@@ -56,6 +57,8 @@ public:
     void HoldPainting();
     void ReleasePainting();
 
+    void Hourglass(bool wanted);
+
     /// Notes which control has the keyboard; true if it is another one than before.
     bool FocusMovedTo(const Control& control);
     KeyRoad& Keys() { return keys_; }
@@ -79,6 +82,7 @@ private:
     std::vector<const InteractiveControl*> OrderTabs();
     void FocusFirst();
     void LookUpFonts();
+    void ShowHourglass();
 
     Form& form_;
     ClientArea& client_;
@@ -90,6 +94,8 @@ private:
     bool presented_ = false;
     int paintingHolds_ = 0;
     bool firstPictureHeld_ = false;
+    bool hourglassWanted_ = false;
+    bool hourglassShown_ = false;
     QTimer settling_;
     bool settled_ = false;         // the desktop has given the window its size
     bool activated_ = false;       // Form_Activate has come once

@@ -38,6 +38,34 @@ QPixmap Rendered(QSvgRenderer& renderer, const QSize& size, double devicePixelRa
     return pixmap;
 }
 
+class AccessibleGraphic final : public QAccessibleWidget {
+public:
+    explicit AccessibleGraphic(GraphicWidget* graphic) : QAccessibleWidget(graphic) {}
+
+    QAccessible::Role role() const override {
+        return Press() ? QAccessible::Button : QAccessible::Graphic;
+    }
+    QStringList actionNames() const override {
+        QStringList names = QAccessibleWidget::actionNames();
+        if (Press() && widget()->isEnabled()) {
+            names.prepend(pressAction());
+        }
+        return names;
+    }
+    void doAction(const QString& name) override {
+        if (name == pressAction() && actionNames().contains(name)) {
+            Press()();
+        } else {
+            QAccessibleWidget::doAction(name);
+        }
+    }
+
+private:
+    const std::function<void()>& Press() const {
+        return static_cast<const GraphicWidget*>(widget())->Press;
+    }
+};
+
 /// What `draw` draws, or drew the last time that this key was asked for.
 template <typename Draw>
 QPixmap Kept(const QString& key, Draw draw) {
@@ -131,7 +159,7 @@ QIcon WindowIcon() {
 void DescribeGraphics() {
     QAccessible::installFactory([](const QString&, QObject* object) -> QAccessibleInterface* {
         auto* graphic = dynamic_cast<GraphicWidget*>(object);
-        return graphic ? new QAccessibleWidget(graphic, QAccessible::Graphic) : nullptr;
+        return graphic ? new AccessibleGraphic(graphic) : nullptr;
     });
 }
 

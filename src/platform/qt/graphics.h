@@ -6,6 +6,7 @@
 #include <QPixmap>
 #include <QSvgRenderer>
 #include <QWidget>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -43,10 +44,13 @@ void SetPointer(QWidget& widget, const std::optional<PointerImage>& icon);
 /// The program's icon in the sizes that window frames and lists of windows show.
 QIcon WindowIcon();
 
-/// A widget that shows something drawn: for assistive technology it is a graphic.
+/// A widget that shows something drawn: for assistive technology it is a graphic, or a button if it
+/// can be pressed.
 class GraphicWidget : public QWidget {
 public:
     using QWidget::QWidget;
+
+    std::function<void()> Press;
 };
 
 /// Makes assistive technology see graphics as such; called once at the start of the process.

@@ -1,11 +1,13 @@
 #include "platform/picture_box.h"
 
+#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 
 #include "base/rounding.h"
-#include "platform/qt/convert.h"
+#include "platform/qt/drawing.h"
 #include "platform/qt/graphics.h"
+#include "platform/qt/key_press.h"
 #include "platform/qt/native.h"
 #include "platform/qt/surface_native.h"
 
@@ -23,19 +25,53 @@ public:
         setFocusPolicy(Qt::StrongFocus);
     }
 
-    /// The surface of the control; the control makes it after its widget.
+    // The control makes its surface after the widget.
+    PictureBox* Owner = nullptr;
     Surface::Native* Drawn = nullptr;
 
 protected:
     void paintEvent(QPaintEvent* event) override {
-        QPainter painter(this);
-        Drawn->Paint(painter, event->rect());
+        {
+            QPainter painter(this);
+            Drawn->Paint(painter, event->rect());
+        }
+        if (Press) {
+            PaintFocusRing(*this);
+        }
     }
     void resizeEvent(QResizeEvent*) override {
         if (Drawn) {
             Drawn->Resize(size(), devicePixelRatioF());
         }
     }
+
+    void mousePressEvent(QMouseEvent*) override {}
+    void mouseReleaseEvent(QMouseEvent* event) override {
+        if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
+            Fire(*Owner, Owner->Click);
+        }
+    }
+    void keyPressEvent(QKeyEvent* event) override {
+        if (!Press || !KeyStroke::IsMeant(*event)) {
+            event->ignore();
+        } else {
+            stroke_.Press(*event);
+        }
+    }
+    void keyReleaseEvent(QKeyEvent* event) override {
+        if (!stroke_.Release(*event)) {
+            event->ignore();
+        } else if (Press) {
+            Press();
+        }
+    }
+    void focusOutEvent(QFocusEvent* event) override {
+        stroke_.Forget();
+        GraphicWidget::focusOutEvent(event);
+    }
+
+private:
+    KeyStroke stroke_;
 };
 
 }  // namespace
@@ -45,6 +81,7 @@ PictureBox::PictureBox(Container& container, ControlName name, const Bounds& bou
                          MakeNative<PictureBoxWidget>(container)),
       container_(container) {
     auto& widget = WidgetOf<PictureBoxWidget>(*this);
+    widget.Owner = this;
     widget.Drawn = &SurfaceNative();
     SurfaceNative().Changed = [&widget](const QRect& where) { widget.update(where); };
     SurfaceNative().Setup(TwipsPerPixel(OwnerForm()), BackColor());
@@ -72,6 +109,37 @@ void PictureBox::Picture(const trameli::Picture& picture) {
     picture_ = picture;
     const double ratio = WidgetOf<PictureBoxWidget>(*this).devicePixelRatioF();
     SurfaceNative().Backdrop(AtOwnSize(picture, ratio));
+}
+
+void PictureBox::Picture(const Surface& drawing) {
+    picture_ = {};
+    const QSize size = drawing.SurfaceNative().Size();
+    const double twips = TwipsPerPixel(OwnerForm());
+    Place({Left(), Top(), size.width() * twips, size.height() * twips});
+    SurfaceNative().Adopt(drawing.SurfaceNative());
+}
+
+double PictureBox::ScaleWidthPixels() const {
+    return WidgetOf<PictureBoxWidget>(*this).width();
+}
+
+double PictureBox::ScaleHeightPixels() const {
+    return WidgetOf<PictureBoxWidget>(*this).height();
+}
+
+void PictureBox::TakesKeyboard(bool takes) {
+    auto& widget = WidgetOf<PictureBoxWidget>(*this);
+    widget.setFocusPolicy(takes ? Qt::StrongFocus : Qt::NoFocus);
+    widget.Press = takes ? std::function([this] { Fire(*this, Click); }) : nullptr;
+    widget.update();
+}
+
+void PictureBox::Place(const Bounds& bounds) {
+    InteractiveControl::Place(bounds);
+    // The toolkit tells a widget that cannot be seen of its size when it comes to be seen, and it
+    // can be drawn on before.
+    const auto& widget = WidgetOf<PictureBoxWidget>(*this);
+    SurfaceNative().Resize(widget.size(), widget.devicePixelRatioF());
 }
 
 Container::Native PictureBox::ContainerNative() {

@@ -5,6 +5,8 @@
 #include <iterator>
 
 #include "base/rounding.h"
+#include "platform/qt/pixel_rows.h"
+#include "platform/qt/stretch.h"
 #include "platform/qt/surface_native.h"
 
 namespace trameli {
@@ -46,8 +48,20 @@ void Surface::FillRings(std::span<const Colour> colours, double radius) {
     native_->Rings(colours, radius);
 }
 
+bool Surface::StretchPixels(const PixelRectangle& where, const PixelBlock& picture) {
+    return native_->Stretch(where, picture);
+}
+
 void Surface::Cls() {
     native_->Clear();
+}
+
+PixelSize Surface::DevicePixels() const {
+    return {native_->Image().width(), native_->Image().height()};
+}
+
+int Surface::ReadPixels(const PixelBlock& into) const {
+    return ReadRows(native_->Image(), into);
 }
 
 void Surface::Native::Setup(double twipsPerPixel, Colour background) {
@@ -78,6 +92,14 @@ void Surface::Native::Background(Colour colour) {
 void Surface::Native::Backdrop(QImage picture) {
     backdrop_ = std::move(picture);
     Clear();
+}
+
+void Surface::Native::Adopt(const Native& drawing) {
+    // Both share the memory until one of them is drawn on.
+    backdrop_ = drawing.image_;
+    image_ = drawing.image_;
+    ratio_ = drawing.ratio_;
+    Touch(0, 0, image_.width(), image_.height());
 }
 
 void Surface::Native::Clear() {
@@ -143,6 +165,25 @@ void Surface::Native::Rings(std::span<const Colour> colours, double radius) {
     std::transform(colours.begin(), colours.end(), std::back_inserter(pixels), PixelOf);
     trameli::FillRings(Target(), pixels, radius);
     Touch(0, 0, image_.width(), image_.height());
+}
+
+bool Surface::Native::Stretch(const PixelRectangle& where, const PixelBlock& picture) {
+    if (!picture.Bits || picture.Width <= 0 || picture.Height <= 0) {
+        return false;
+    }
+    // Of a huge rectangle the far edges are beyond what an int of device pixels can tell.
+    const auto onDevice = [this](double pixels) { return std::floor(pixels * ratio_ + 0.5); };
+    const double left = onDevice(where.Left);
+    const double top = onDevice(where.Top);
+    const double right = onDevice(static_cast<double>(where.Left) + where.Width);
+    const double bottom = onDevice(static_cast<double>(where.Top) + where.Height);
+    trameli::Stretch(Target(), {left, right}, {top, bottom}, picture);
+    const auto inside = [](double edge, int end) {
+        return static_cast<int>(std::clamp(edge, 0.0, static_cast<double>(end)));
+    };
+    Touch(inside(left, image_.width()), inside(top, image_.height()), inside(right, image_.width()),
+          inside(bottom, image_.height()));
+    return true;
 }
 
 void Surface::Native::Paint(QPainter& painter, const QRect& where) {

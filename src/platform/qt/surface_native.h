@@ -25,6 +25,8 @@ struct Surface::Native {
     void Background(Colour colour);
     /// A picture that `Clear` puts on the background, at the upper left corner.
     void Backdrop(QImage picture);
+    /// Takes the pixels of another surface, and its size, as the picture under the drawing.
+    void Adopt(const Native& drawing);
     /// Back to background and backdrop.
     void Clear();
 
@@ -38,10 +40,15 @@ struct Surface::Native {
     /// As Surface::FillRings.
     void Rings(std::span<const Colour> colours, double radius);
 
+    /// As Surface::StretchPixels.
+    bool Stretch(const PixelRectangle& where, const PixelBlock& picture);
+
     /// Shows what lies in `where`, in logical pixels.
     void Paint(QPainter& painter, const QRect& where);
     /// All pixels, in the resolution of the device.
     const QImage& Image() const { return image_; }
+    /// Logical size.
+    QSize Size() const { return (QSizeF(image_.size()) / ratio_).toSize(); }
 
 private:
     struct Point {
