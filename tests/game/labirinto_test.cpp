@@ -46,28 +46,28 @@ void HaIMuriDelLivello(const Tavolo& tavolo, int livello) {
     }
 }
 
-/// The walls that stand, each as thick as it should be and centred on its edge, and nothing else.
+/// The walls that stand, each as thick as it should be and centred on its edge, and nothing else;
+/// in the middle of one opening the symbol, a round point on the line of the outside wall.
 void HaLineeAlLoroPosto(const Tavolo& tavolo) {
     const Vista vista = tavolo.Guarda();
     const Pianta& p = vista.LaPianta();
     const MuriVisti muri = tavolo.Muri();
-    const int spesso = std::max(1, static_cast<int>(p.Lato / p.TwipsPerPixel) / DivisoreMuri);
-    const double penna = std::nearbyint(spesso * vista.Immagine().devicePixelRatio());
+    const int spesso = static_cast<int>(p.Lato / p.TwipsPerPixel) / DivisoreMuri;
     for (int r = 1; r <= p.Righe; ++r) {
         for (int c = 1; c <= p.Colonne; ++c) {
             ASSERT_EQ(vista.Centro(r, c), tavolo.Colore(RigaSfondo)) << r << ", " << c;
             for (int lato = 0; lato < 4; ++lato) {
                 const Posto posto{r, c, lato};
                 const bool lungoX = lato == AllaDestra || lato == AllaSinistra;
-                const Tratto visto = vista.TrattoDi(tavolo.Colore(RigaPareti), posto, lungoX);
-                ASSERT_EQ(visto.Lunghezza, muri.Ha(posto) ? penna : 0) << r << ", " << c;
-                if (muri.Ha(posto)) {
-                    const QPointF atteso = p.Verso(posto, 0.5) * vista.PixelPerTwip();
-                    ASSERT_NEAR(visto.Inizio + penna / 2, lungoX ? atteso.x() : atteso.y(), 1)
-                        << r << ", " << c;
-                }
+                ASSERT_TRUE(!muri.Ha(posto) || vista.Largo(tavolo.Colore(RigaPareti),
+                                                           p.Verso(posto, 0.5), spesso, lungoX))
+                    << r << ", " << c;
             }
         }
+    }
+    for (const bool lungoX : {true, false}) {
+        EXPECT_TRUE(vista.Largo(tavolo.Colore(RigaSimbolo), p.Verso(tavolo.Partenza(), 0.5),
+                                2 * spesso, lungoX));
     }
 }
 
@@ -84,20 +84,6 @@ void HaLArrivoAlSuoPosto(const Tavolo& tavolo) {
     EXPECT_NEAR(immagine.Top() + lato / 2, atteso.y(), p.Lato / 5.0);
 }
 
-/// The symbol: a round point on the line of the outside wall, in the middle of the opening.
-void HaIlSimboloSullaLinea(const Tavolo& tavolo) {
-    const Vista vista = tavolo.Guarda();
-    const Pianta& p = vista.LaPianta();
-    const double penna =
-        std::nearbyint(2 * (static_cast<int>(p.Lato / p.TwipsPerPixel) / DivisoreMuri) *
-                       vista.Immagine().devicePixelRatio());
-    const QRect simbolo = MacchiaDi(vista.Immagine(), tavolo.Colore(RigaSimbolo)).Posto;
-    EXPECT_EQ(simbolo.size(), QSizeF(penna, penna).toSize());
-    const QPointF atteso = p.Verso(tavolo.Partenza(), 0.5) * vista.PixelPerTwip();
-    EXPECT_NEAR(simbolo.x() + penna / 2, atteso.x(), 1.1);
-    EXPECT_NEAR(simbolo.y() + penna / 2, atteso.y(), 1.1);
-}
-
 void EComeVuoleIlLivello(int livello, PixelSize schermo) {
     SCOPED_TRACE(testing::Message() << "level " << livello << " on " << schermo.Width);
     const Disco disco;
@@ -108,7 +94,6 @@ void EComeVuoleIlLivello(int livello, PixelSize schermo) {
     HaIMuriDelLivello(tavolo, livello);
     HaLineeAlLoroPosto(tavolo);
     HaLArrivoAlSuoPosto(tavolo);
-    HaIlSimboloSullaLinea(tavolo);
 }
 
 TEST(Scene, EveryLevelIsDrawnAsItShould) {

@@ -32,18 +32,22 @@ Posto Posto::Dopo(const std::vector<int>& passi, int lato) const {
     return posto;
 }
 
-double Vista::PixelPerTwip() const {
-    return immagine_.devicePixelRatio() / pianta_.TwipsPerPixel;
-}
-
-QPoint Vista::Pixel(QPointF punto) const {
-    punto = punto * PixelPerTwip() + QPointF(0.5, 0.5);
-    return {static_cast<int>(std::floor(punto.x())), static_cast<int>(std::floor(punto.y()))};
-}
-
 QRgb Vista::A(double x, double y) const {
-    const QPoint qui = Pixel({x, y});
+    const double scala = immagine_.devicePixelRatio() / pianta_.TwipsPerPixel;
+    const QPoint qui(static_cast<int>(std::floor(x * scala + 0.5)),
+                     static_cast<int>(std::floor(y * scala + 0.5)));
     return immagine_.valid(qui) ? immagine_.pixel(qui) : 0;
+}
+
+bool Vista::Largo(QRgb colore, QPointF mezzo, double pixel, bool lungoX) const {
+    const auto ha = [&](double lontano) {
+        lontano *= pianta_.TwipsPerPixel;
+        return A(mezzo.x() + (lungoX ? lontano : 0), mezzo.y() + (lungoX ? 0 : lontano)) == colore;
+    };
+    constexpr double gioco = 1.1;  // the odd pixel may be on either side
+    const double dentro = std::max(0.0, pixel / 2 - gioco);
+    const double fuori = pixel / 2 + gioco;
+    return ha(-dentro) && ha(dentro) && !ha(-fuori) && !ha(fuori);
 }
 
 QRgb Vista::Fra(int riga, int colonna, double versoX, double versoY) const {
@@ -56,34 +60,15 @@ QRgb Vista::Muro(const Posto& posto) const {
     return A(mezzo.x(), mezzo.y());
 }
 
-Tratto Vista::TrattoDi(QRgb colore, const Posto& posto, bool lungoX) const {
-    const QPoint passo = lungoX ? QPoint(1, 0) : QPoint(0, 1);
-    const auto ha = [&](QPoint qui) {
-        return immagine_.valid(qui) && immagine_.pixel(qui) == colore;
-    };
-    QPoint inizio = Pixel(pianta_.Verso(posto, 0.5));
-    QPoint fine = inizio;
-    while (ha(fine)) {
-        fine += passo;
-    }
-    while (ha(inizio - passo)) {
-        inizio -= passo;
-    }
-    return {lungoX ? inizio.x() : inizio.y(), (fine - inizio).manhattanLength()};
-}
-
-Macchia MacchiaDi(const QImage& immagine, QRgb colore) {
-    Macchia macchia;
+int QuantiPixel(const QImage& immagine, QRgb colore) {
+    int quanti = 0;
     for (int y = 0; y < immagine.height(); ++y) {
         const auto* riga = reinterpret_cast<const QRgb*>(immagine.constScanLine(y));
-        for (int x = 0; x < immagine.width(); ++x) {
-            if ((riga[x] | 0xFF000000U) == colore) {
-                ++macchia.Quanti;
-                macchia.Posto |= QRect(x, y, 1, 1);
-            }
-        }
+        quanti += static_cast<int>(std::count_if(riga, riga + immagine.width(), [=](QRgb qui) {
+            return (qui | 0xFF000000U) == colore;
+        }));
     }
-    return macchia;
+    return quanti;
 }
 
 MuriVisti::MuriVisti(const Vista& vista, QRgb colore)

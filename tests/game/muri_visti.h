@@ -3,7 +3,6 @@
 
 #include <QImage>
 #include <QPointF>
-#include <QRect>
 #include <array>
 #include <vector>
 
@@ -51,12 +50,6 @@ struct Pianta {
     QPointF Verso(const Posto& posto, double celle) const;
 };
 
-/// Pixels of one colour, one after the other along a line.
-struct Tratto {
-    int Inizio;
-    int Lunghezza;
-};
-
 /// A picture of a maze with its plan.
 class Vista {
 public:
@@ -73,24 +66,17 @@ public:
     QRgb Muro(const Posto& posto) const;
     /// The pixel a part of a cell's side away from the cell's middle.
     QRgb Fra(int riga, int colonna, double versoX, double versoY) const;
-    /// The piece of one colour at the place of a wall, along x or along y.
-    Tratto TrattoDi(QRgb colore, const Posto& posto, bool lungoX) const;
-    /// Device pixels of the picture per twip.
-    double PixelPerTwip() const;
+    /// Whether something of one colour is as broad as that, in pixels of the layout, round a point
+    /// given in twips, along x or along y.
+    bool Largo(QRgb colore, QPointF mezzo, double pixel, bool lungoX) const;
 
 private:
-    QPoint Pixel(QPointF punto) const;
-
     QImage immagine_;
     Pianta pianta_;
 };
 
-/// How many pixels have a colour, and the smallest rectangle that holds them.
-struct Macchia {
-    int Quanti = 0;
-    QRect Posto;
-};
-Macchia MacchiaDi(const QImage& immagine, QRgb colore);
+/// How many pixels have a colour.
+int QuantiPixel(const QImage& immagine, QRgb colore);
 
 /// The walls of a maze, as pixels of one colour.
 class MuriVisti {

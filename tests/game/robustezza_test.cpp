@@ -79,30 +79,18 @@ TEST_F(MezzoSecondo, CanBeLeftForTheMenuForAnotherGameAndForGood) {
     EXPECT_TRUE(partita_.Gioco.Forms().Ended());
 }
 
-TEST(MenuNonPronto, StartsAMazeThatHasItsSizeAllTheSame) {
-    const Disco disco;
-    disco.Scrivi("_predefinito", FileUtente().Con(RigaLivello, 15));
-    Partita partita(disco);
-    ClickOn(Trova<CommandButton>(partita.ApriMenu(false), "Command1", 0));
-    EXPECT_EQ(Tavolo(partita.Finestra("frmTrm3"), 15).Muri().Interni(), 565 - 299);
-}
-
 TEST(TracciaPiena, WalksOnAndLosesNothingThatIsSeen) {
     const Disco disco;
     Partita partita(disco, {800, 600});
     const Tavolo tavolo(partita.ApriLivello(15), 15);
-    const Posto partenza = tavolo.Partenza();
     const auto passi = tavolo.Soluzione();
     // One cell away from the start cell, and from there to and fro.
+    const Posto secondo = tavolo.Partenza().Dopo({passi[1]}, passi[2]);
     tavolo.Cammina({passi[0], passi[1]});
-    constexpr int Passi = 1100;
-    for (int i = 0; i < Passi; ++i) {
+    for (int i = 0; i < 1100; ++i) {
         tavolo.Passo(i % 2 == 0 ? passi[2] : Contrario(passi[2]));
     }
-    EXPECT_EQ(tavolo.Passi(), Passi + 2);
-    const Posto secondo = partenza.Dopo({passi[1]}, passi[2]);
-    EXPECT_EQ(tavolo.Guarda().Muro(partenza), tavolo.Colore(RigaAvanti));
-    // An even number of walks through the last passage.
+    // An even number of walks through the last passage, and an odd one.
     EXPECT_EQ(tavolo.Guarda().Muro(secondo), tavolo.Colore(RigaRitorno));
     tavolo.Passo(passi[2]);
     EXPECT_EQ(tavolo.Guarda().Muro(secondo), tavolo.Colore(RigaAvanti));

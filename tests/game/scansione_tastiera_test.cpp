@@ -67,16 +67,6 @@ TEST_P(OgniTastiera, ASolvedMazeIsFollowedByTheNextWhateverHappensInBetween) {
 
 TEST_P(OgniTastiera, AKeyThatBouncesOrComesBeforeAnybodyHasSeenAnythingDoesNothing) {
     const auto [livello, modo] = GetParam();
-    disco_.Scrivi("_predefinito", Utente(modo).Con(RigaLivello, 13));
-    ASSERT_TRUE(partita_.Avvia());
-    partita_.Tempo.Advance(DopoUnaNovita);
-    Tap(partita_.Finestra("FormAvvio"), Qt::Key_Space);
-    for (const double poi : {0.05, 0.2, 0.2}) {
-        partita_.Tempo.Advance(poi);
-        Tap(partita_.Finestra("FormMenu"), Qt::Key_Down);
-    }
-    EXPECT_EQ(partita_.Gioco.Stato().Livello, 13);
-
     const Tavolo tavolo = Apri(livello, modo);
     int offerta = 0;
     Risolvi(tavolo, offerta);

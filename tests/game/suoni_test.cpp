@@ -13,11 +13,7 @@ const std::string Boing = "wave P:\\suoni\\boing.wav";
 const std::string Si = "wave P:\\suoni\\si.wav";
 const std::string Tic = "wave P:\\suoni\\muovi.wav";
 
-class SuoniInGioco : public ConTavolo, public testing::WithParamInterface<int> {};
-
-INSTANTIATE_TEST_SUITE_P(Livelli, SuoniInGioco, testing::Values(3, 9), NomeLivello);
-
-TEST_P(SuoniInGioco, AreThoseThatThePlayerWants) {
+TEST_F(ConTavolo, SoundsAreThoseThatThePlayerWants) {
     struct {
         const char* Suoni;
         const char* Movimento;
@@ -30,7 +26,7 @@ TEST_P(SuoniInGioco, AreThoseThatThePlayerWants) {
             "_predefinito",
             FileUtente().Con(RigaSuoni, caso.Suoni).Con(RigaSuonoMovimento, caso.Movimento));
         Partita partita(disco_, {800, 600}, 7);
-        const Tavolo tavolo(partita.ApriLivello(GetParam()), GetParam());
+        const Tavolo tavolo(partita.ApriLivello(9), 9);
         const auto passi = tavolo.Soluzione();
         // Before the first step every other way is a wall.
         tavolo.Passo(Contrario(passi.front()));

@@ -22,7 +22,7 @@ class TracciaVista : public ConTavolo {
 protected:
     /// How many pixels show a colour of the settings.
     static int Quanti(const Tavolo& tavolo, Riga colore) {
-        return MacchiaDi(tavolo.Guarda().Immagine(), tavolo.Colore(colore)).Quanti;
+        return QuantiPixel(tavolo.Guarda().Immagine(), tavolo.Colore(colore));
     }
 };
 
@@ -117,10 +117,12 @@ TEST_P(Spessore, ComesBackAfterSevenChangesThatLeaveNothingBehind) {
         for (int volta = 0; volta < 7; ++volta) {
             SCOPED_TRACE(volta);
             const int simbolo = Quanti(tavolo, RigaSimbolo);
-            aspetti.insert({simbolo, Quanti(tavolo, RigaPareti)});
+            const int pareti = Quanti(tavolo, RigaPareti);
+            aspetti.insert({simbolo, pareti});
             for (const int verso : {passi[0], passi[1], Contrario(passi[1])}) {
                 tavolo.Passo(verso);
                 EXPECT_EQ(Quanti(tavolo, RigaSimbolo), simbolo);
+                EXPECT_EQ(Quanti(tavolo, RigaPareti), pareti);
             }
             Comando(tavolo, Qt::Key_L);
             EXPECT_EQ(Quanti(tavolo, RigaAvanti) + Quanti(tavolo, RigaRitorno), 0);
