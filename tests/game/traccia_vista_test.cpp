@@ -122,7 +122,7 @@ TEST_P(Spessore, ComesBackAfterSevenChangesThatLeaveNothingBehind) {
             for (const int verso : {passi[0], passi[1], Contrario(passi[1])}) {
                 tavolo.Passo(verso);
                 EXPECT_EQ(Quanti(tavolo, RigaSimbolo), simbolo);
-                EXPECT_EQ(Quanti(tavolo, RigaPareti), pareti);
+                EXPECT_TRUE(intere || Quanti(tavolo, RigaPareti) == pareti);
             }
             Comando(tavolo, Qt::Key_L);
             EXPECT_EQ(Quanti(tavolo, RigaAvanti) + Quanti(tavolo, RigaRitorno), 0);

@@ -19,11 +19,9 @@ class BareForm : public Form {
 public:
     BareForm(trameli::Forms& forms, const std::string& name) : Form(forms, name, {6000, 4500}) {}
 
-    int MovesOverIt = 0;
     std::function<void()> WhenResized;
 
 protected:
-    void Form_MouseMove() override { ++MovesOverIt; }
     void Form_Resize() override {
         if (WhenResized) {
             WhenResized();

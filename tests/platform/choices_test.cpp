@@ -1,4 +1,4 @@
-// What a player chooses and types, and what that fires.
+// What a player chooses, and what is told of it to those who cannot see it.
 #include <QAccessible>
 #include <QListView>
 #include <QTabBar>
@@ -6,7 +6,6 @@
 
 #include "platform/bare_program.h"
 #include "platform/check_box.h"
-#include "platform/combo_box.h"
 #include "platform/frame.h"
 #include "platform/image.h"
 #include "platform/list_box.h"
@@ -21,81 +20,35 @@ namespace {
 
 class ChoicesTest : public BareProgram {
 protected:
-    /// What was noted since the last call, in one text.
-    std::string Told() {
-        std::string all;
-        for (const std::string& note : std::exchange(Seen, {})) {
-            all += note + " ";
-        }
-        return all;
-    }
-    /// Notes `value` of a control whenever it tells of a change.
-    template <typename Value>
-    std::function<void()> NotingValue(Value value) {
-        return [this, value] { Seen.push_back(std::to_string(value())); };
+    /// What a click there tells of.
+    std::string Click(const QWidget& widget, QPoint where) {
+        Seen.clear();
+        QTest::mouseClick(WindowOf(TheForm).windowHandle(), Qt::LeftButton, {},
+                          widget.mapTo(&WindowOf(TheForm), where));
+        return Seen.empty() ? "" : Seen.back();
     }
 };
 
-TEST_F(ChoicesTest, KeysAndClicksChangeWhatTheyAreMeantFor) {
-    CheckBox check(TheForm, "Check", {300, 300, 3000, 450}, "&Check");
+TEST_F(ChoicesTest, ClicksChooseWhatTheyAreMeantFor) {
     TabStrip tabs(TheForm, "Tabs", {300, 900, 6000, 1500}, {"&One", "T&wo", "Three"});
-    HScrollBar bar(TheForm, "Bar", {300, 2700, 6000, 375}, 2, 60, 4);
     ListBox list(TheForm, "List", {300, 3300, 3000, 1200});
-    ComboBox combo(TheForm, "Combo", {3600, 3300, 3000, 450});
-    for (ListControl* lines : std::initializer_list<ListControl*>{&list, &combo}) {
-        for (const char* entry : {"zero", "one", "two"}) {
-            lines->AddItem(entry);
-        }
-        EXPECT_EQ(lines->ListIndex(), -1) << "nothing is chosen by itself";
+    for (const char* entry : {"zero", "one", "two"}) {
+        list.AddItem(entry);
     }
-    bar.TakesKeyboard(true);
-    check.Click = NotingValue([&] { return int{check.Value()}; });
-    tabs.Click = NotingValue([&] { return tabs.SelectedTab(); });
-    bar.Change = NotingValue([&] { return bar.Value(); });
-    list.Click = NotingValue([&] { return list.ListIndex(); });
-    combo.Click = NotingValue([&] { return combo.ListIndex(); });
-    const struct {
-        InteractiveControl& Control;
-        std::vector<QKeyCombination> Keys;
-        const char* Told;
-    } rows[] = {
-        {check, {Qt::Key_Space, Qt::Key_Return, Qt::Key_Right, Qt::Key_Space}, "1 0 1 "},
-        {tabs, {Qt::Key_Left, Qt::Key_Right, Qt::Key_End, Qt::Key_Right, Qt::Key_Home}, "2 3 1 "},
-        {tabs, {Qt::ALT | Qt::Key_W, Qt::ALT | Qt::Key_C}, "2 0 "},  // and the box
-        {bar, {Qt::Key_Left, Qt::Key_Right, Qt::Key_PageDown, Qt::Key_End}, "3 7 60 "},
-        {list, {Qt::Key_Down, Qt::Key_Down, Qt::Key_End, Qt::Key_Down, Qt::Key_X}, "0 1 2 "},
-        {combo, {Qt::Key_Down, Qt::Key_Down, Qt::Key_X}, "0 1 "},
-    };
+    EXPECT_EQ(list.ListIndex(), -1) << "nothing is chosen by itself";
+    tabs.Click = [&] { Seen.push_back(std::to_string(tabs.SelectedTab())); };
+    list.Click = [&] { Seen.push_back(list.Text()); };
     Bring();
-    for (const auto& row : rows) {
-        row.Control.SetFocus();
-        EXPECT_EQ(Told(), "") << "coming with the keyboard chooses nothing";
-        for (const QKeyCombination& stroke : row.Keys) {
-            Tap(TheForm, stroke.key(), stroke.keyboardModifiers());
-        }
-        EXPECT_EQ(Told(), row.Told) << row.Control.Name();
-    }
+    list.SetFocus();
+    EXPECT_EQ(Seen, Log{}) << "coming with the keyboard chooses nothing";
     const auto& tabBar = dynamic_cast<QTabBar&>(WidgetOf(tabs));
     const auto& view = dynamic_cast<QListView&>(WidgetOf(list));
-    const auto click = [&](const QWidget& widget, QPoint where) {
-        QTest::mouseClick(WindowOf(TheForm).windowHandle(), Qt::LeftButton, {},
-                          widget.mapTo(&WindowOf(TheForm), where));
-        return Told();
-    };
     const QPoint second = view.visualRect(view.model()->index(1, 0)).center();
-    EXPECT_EQ(click(tabBar, tabBar.tabRect(2).center()), "3 ");
-    EXPECT_EQ(click(tabBar, {200, 80}), "") << "the pages' ground";
-    EXPECT_EQ(click(*view.viewport(), second), "1 ");
-    EXPECT_EQ(click(*view.viewport(), second), "1 ") << "the same one again";
-    EXPECT_EQ(click(*view.viewport(), {100, 70}), "") << "below the last entry";
-    // By code, whatever is not there or is so already changes nothing.
-    for (const int value : {3, 0, 4, 1}) {
-        tabs.SelectedTab(value);
-    }
-    for (const int value : {1, -2, 3, -1, 0}) {
-        combo.ListIndex(value);
-    }
-    EXPECT_EQ(Told(), "1 -1 0 ");
+    EXPECT_EQ(Click(tabBar, tabBar.tabRect(2).center()), "3");
+    EXPECT_EQ(Click(tabBar, {200, 80}), "") << "the pages' ground";
+    EXPECT_EQ(Click(*view.viewport(), second), "one");
+    EXPECT_EQ(Click(*view.viewport(), second), "one") << "the same one again";
+    EXPECT_EQ(Click(*view.viewport(), {100, 70}), "") << "below the last entry";
 }
 
 TEST_F(ChoicesTest, AShortcutOfAnEntryThatCannotBeChosenDoesNothing) {
@@ -106,10 +59,11 @@ TEST_F(ChoicesTest, AShortcutOfAnEntryThatCannotBeChosenDoesNothing) {
     for (const char* property : {"Enabled", "Visible"}) {
         entry.Set(property, false);
         Tap(TheForm, Qt::Key_O, Qt::ControlModifier);
-        EXPECT_EQ(Told(), "") << property;
+        EXPECT_EQ(Times("Entry"), 0) << property;
         entry.Set(property, true);
         Tap(TheForm, Qt::Key_O, Qt::ControlModifier);
-        EXPECT_EQ(Told(), "Entry ");
+        EXPECT_EQ(Times("Entry"), 1);
+        Seen.clear();
     }
 }
 

@@ -6,7 +6,6 @@
 
 #include "platform/qt/environment.h"
 #include "platform/qt/local_file_system.h"
-#include "platform/text.h"
 #include "support/stage.h"
 
 namespace fs = std::filesystem;
@@ -141,17 +140,6 @@ TEST(UserDataFolderTest, FollowsTheEnvironmentIfThatIsAbsolute) {
     unsetenv("HOME");
     EXPECT_TRUE(UserDataFolder().is_absolute()) << "the system's own list knows the home folder";
     setenv("HOME", home.c_str(), 1);
-}
-
-TEST(CapitalsTest, NameTheSameFileInEveryScript) {
-    for (const auto& [text, capitals] :
-         {std::pair{"&Avvio 09", "&AVVIO 09"},
-          {"àçñöþÿ÷ łőșạ", "ÀÇÑÖÞŸ÷ ŁŐȘẠ"},
-          {"άς я", "ΆΣ Я"},
-          {"straße ışık 日本 🙂", "STRAßE ıŞıK 日本 🙂"},
-          {"a\xC3", "a\xC3"}}) {
-        EXPECT_EQ(Capitals(text), capitals);
-    }
 }
 
 TEST(LocaleOfMessagesTest, IsTheFirstVariableThatSaysSomething) {

@@ -2,8 +2,6 @@
 #include <QTimer>
 #include <QWindow>
 
-#include "platform/control_array.h"
-#include "platform/label.h"
 #include "platform/scripted_form.h"
 
 namespace trameli {
@@ -75,42 +73,21 @@ TEST_F(FormTest, TimerWhoseRoutineWaitsDoesNotEnterItAgain) {
     EXPECT_EQ(Times("tick"), 3);
 }
 
-TEST_F(FormTest, ControlsAreWalkedOverThoughTheyGo) {
-    ScriptedForm& form = Bring("A");
-    ControlArray<Label> labels("Labels");
-    for (int i = 0; i < 4; ++i) {
-        labels.Add(form, Bounds{0, 0, 100, 100}, "");
-    }
-    std::vector<int> walked;
-    Program.ForEachControl(form, [&](Control& control) {
-        if (!control.Index()) {
-            return;
-        }
-        walked.push_back(*control.Index());
-        if (control.Index() == 1) {
-            labels.Unload(0);
-            labels.Unload(1);
-            labels.Unload(2);
-        } else if (control.Index() == 3) {
-            Program.Unload(form);
-            Program.ServeEvents();
-        }
-    });
-    EXPECT_EQ(walked, (std::vector{0, 1, 3}));
-}
-
-TEST_F(FormTest, RunsItsUnloadOnceWhateverHappensInIt) {
+TEST_F(FormTest, GoesByAKeyThatItsControlWouldSeeNext) {
     Bring("B");
-    ScriptedForm& form = Bring("A");
-    Scripts["A"].Unload = [](ScriptedForm& self) {
+    ScriptedForm* form = &Bring("A");
+    form->First.SetFocus();
+    Scripts["A"].KeyUp = [](ScriptedForm& self, int) { self.Forms().Unload(self); };
+    Tap(*form, Qt::Key_Space);
+    EXPECT_EQ(Seen, (Log{"A KeyUp 32", "A Unload", "B Activate"}));
+    form = &Bring("A");
+    Scripts["A"].KeyDown = [](ScriptedForm& self, int) {
         self.Forms().Unload(self);
-        WindowOf(self).close();
-        EXPECT_TRUE(self.Wait(1)) << "it is loaded until its Form_Unload has returned";
+        return false;
     };
-    Program.Unload(form);
-    Pump();
+    Press(*form, Qt::Key_Tab);
+    Release(Get("B"), Qt::Key_Tab);
     EXPECT_EQ(Seen, (Log{"A Unload", "B Activate"}));
-    EXPECT_EQ(ScriptedForm::Alive, 1);
 }
 
 // The end of the program.

@@ -48,24 +48,6 @@ TEST_F(PictureTest, DisabledControlsArePaleAndFramesNeedABorderForTheirCaption) 
     EXPECT_EQ(Share(Look(frame), White), 1);
 }
 
-TEST_F(PictureTest, TextStandsWhereItsAlignmentSaysAndWraps) {
-    Bring();
-    Label label(TheForm, "Label", {300, 300, 4500, 1500}, "Text");
-    label.Font(Large);
-    const auto inked = [&](const QRect& where) {
-        return Count(Look(label).copy(where), Black) > 0;
-    };
-    for (const Alignment alignment : {Alignment::Left, Alignment::Centre, Alignment::Right}) {
-        label.TextAlignment(alignment);
-        EXPECT_EQ(inked({0, 0, 20, 100}), alignment == Alignment::Left);
-        EXPECT_EQ(inked({280, 0, 20, 100}), alignment == Alignment::Right);
-    }
-    label.Caption("<b>i</b>");
-    EXPECT_TRUE(inked({200, 0, 50, 100})) << "markup is text";
-    label.Caption("many words that do not fit into one line");
-    EXPECT_TRUE(inked({0, 50, 300, 50}));
-}
-
 TEST_F(PictureTest, TheFormsDrawingShowsThroughLabelsAndPictures) {
     Bring();
     TheForm.Canvas().FillBox(0, 0, 12000, 9000, Odd);
@@ -126,21 +108,6 @@ TEST_F(PictureTest, LettersCanBeReadOnAnyGround) {
             EXPECT_GT(Count(Look(*control).copy(40, 0, 160, 40), row.Seen), 50)
                 << control->Name() << " on " << row.Ground;
             EXPECT_EQ(control->ForeColor(), row.Letters) << "what was set stays";
-        }
-    }
-}
-
-TEST_F(PictureTest, LongCaptionsWrap) {
-    Bring();
-    const Bounds place{300, 300, 3000, 1500};
-    OptionButton option(TheForm, "Option", place, "words for three lines");
-    CommandButton button(TheForm, "Button", place, "words for three lines");
-    for (InteractiveControl* control :
-         std::initializer_list<InteractiveControl*>{&option, &button}) {
-        control->Font(Large);
-        control->ToFront();
-        for (const int top : {0, 35, 68}) {
-            EXPECT_GT(Count(Look(*control).copy(45, top, 155, 30), Black), 50) << control->Name();
         }
     }
 }

@@ -38,20 +38,14 @@ public:
           Ticker(*this, "Ticker", 100),
           script_(script),
           log_(log) {
-        ++Alive;
         Entry.Click = [this] { Note("Entry_Click"); };
         Other.Click = [this] { Note("Other_Click"); };
-        Board.MouseMove = [this] { Note("Board_MouseMove"); };
         First.Click = [this] { Note("First_Click"); };
         First.KeyUp = [this](int code, int) { Note("First_KeyUp " + std::to_string(code)); };
         Second.Click = [this] { Note("Second_Click"); };
         Second.GotFocus = [this] { Note("Second_GotFocus"); };
         Ticker.Tick = [this] { Note("Ticker_Timer"); };
     }
-    ~ScriptedForm() override { --Alive; }
-
-    /// How many live just now.
-    inline static int Alive = 0;
 
     MenuItem Menu;
     MenuItem Entry;
@@ -69,7 +63,6 @@ protected:
     void Form_Resize() override { Do("Resize", script_.Resize); }
     void Form_Activate() override { Do("Activate", script_.Activate); }
     void Form_Unload() override { Do("Unload", script_.Unload); }
-    void Form_MouseMove() override { Note("MouseMove"); }
     bool Form_KeyDown(int keyCode, int) override {
         return script_.KeyDown && script_.KeyDown(*this, keyCode);
     }
@@ -100,9 +93,7 @@ protected:
               [this](Forms& forms, const std::string& name) {
                   return std::make_unique<ScriptedForm>(forms, name, Scripts[name], Seen);
               },
-              1024, 768, screen) {
-        ScriptedForm::Alive = 0;
-    }
+              1024, 768, screen) {}
 
     /// Shows the form, and forgets what was noted on the way.
     ScriptedForm& Bring(const std::string& name) {

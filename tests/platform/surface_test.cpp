@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <random>
 
-#include "base/rounding.h"
 #include "platform/bare_program.h"
 #include "platform/qt/surface_native.h"
 
@@ -26,28 +25,7 @@ public:
     }
 
     const QImage& Image() const { return SurfaceNative().Image(); }
-    bool Has(int x, int y, Colour colour = Ink) const {
-        return Image().valid(x, y) && Image().pixel(x, y) == PixelOf(colour);
-    }
-    /// The smallest rectangle round all inked pixels, in device ones.
-    QRect Extent() const {
-        QRect extent;
-        for (int y = 0; y < Image().height(); ++y) {
-            for (int x = 0; x < Image().width(); ++x) {
-                if (Has(x, y)) {
-                    extent |= QRect(x, y, 1, 1);
-                }
-            }
-        }
-        return extent;
-    }
-    /// How many pixels of a part have that colour.
-    long Count(const QRect& where, Colour colour = Ink) const {
-        return trameli::Count(Image().copy(where), colour);
-    }
-    bool IsBlank() const {
-        return Count(Image().rect(), Back) == long{Image().width()} * Image().height();
-    }
+    bool IsBlank() const { return Share(Image(), Back) == 1; }
 
     double Ratio;
 };
@@ -125,37 +103,6 @@ TEST(SurfaceTest, BackgroundColourTakesAwayEveryPixelAndTheScreenShowsIt) {
     }
 }
 
-TEST(SurfaceTest, PensAreRoundAndAsWideAsTheySayAndBarsSquare) {
-    for (const double ratio : Ratios) {
-        for (const int width : {0, 1, 2, 5, 6, 24, 39}) {
-            SCOPED_TRACE(testing::Message() << "width " << width << " at scale " << ratio);
-            const int pen = Nearest(std::max(1, width) * ratio);
-            const auto draw = [&](Sheet& sheet, auto figure, double x, double x2) {
-                sheet.DrawWidth(width);
-                (sheet.*figure)(x * Twips, 30 * Twips, x2 * Twips, 30 * Twips, Ink);
-                return sheet.Extent();
-            };
-            Sheet point(QSize(80, 80), ratio);
-            const QRect dot = draw(point, &Surface::DrawLine, 30, 30);
-            ASSERT_EQ(dot.size(), QSize(pen, pen));
-            // Half a pen beyond the end, the odd pixel on one side or the other.
-            EXPECT_NEAR(dot.left(), 30 * ratio - pen / 2.0, 1);
-            // A circle's share of its square, the more exactly the more pixels there are.
-            const auto share = static_cast<double>(point.Count(dot)) / (pen * pen);
-            EXPECT_NEAR(share, 0.785, 0.005 + 0.9 / pen);
-
-            Sheet bar(QSize(80, 80), ratio);
-            const QRect extent = draw(bar, &Surface::DrawBox, 25, 55);
-            EXPECT_EQ(extent.size(), QSize(Nearest(30 * ratio) + pen, pen));
-            EXPECT_EQ(bar.Count(extent), long{extent.width()} * extent.height());
-
-            Sheet line(QSize(80, 80), ratio);
-            EXPECT_EQ(draw(line, &Surface::DrawLine, 25, 55), extent);
-            EXPECT_EQ(line.Has(extent.left(), extent.top()), pen < 4);
-        }
-    }
-}
-
 TEST(SurfaceTest, KeepsItsDrawingWhenItsSizeChangesAndItsPictureWhenItIsCleared) {
     Sheet sheet(QSize(100, 80), 1.25);
     QImage picture(1, 1, QImage::Format_RGB32);
@@ -166,12 +113,10 @@ TEST(SurfaceTest, KeepsItsDrawingWhenItsSizeChangesAndItsPictureWhenItIsCleared)
     sheet.SurfaceNative().Resize(QSize(150, 60), 1.25);
     const QRect both = before.rect() & sheet.Image().rect();
     EXPECT_EQ(sheet.Image().copy(both), before.copy(both));
-    EXPECT_EQ(sheet.Extent().united(both), both) << "the new part is blank";
+    EXPECT_EQ(Count(sheet.Image(), Ink), Count(before.copy(both), Ink)) << "the rest is blank";
     sheet.Cls();
-    EXPECT_TRUE(sheet.Has(0, 0, Rgb(255, 0, 0)));
-    sheet.SurfaceNative().Background(White);
-    EXPECT_EQ(sheet.Count(sheet.Image().rect(), White),
-              long{sheet.Image().width()} * sheet.Image().height() - 1);
+    EXPECT_EQ(sheet.Image().pixel(0, 0), qRgb(255, 0, 0));
+    EXPECT_EQ(Count(sheet.Image(), Ink), 0);
 }
 
 }  // namespace

@@ -64,19 +64,6 @@ TEST_F(WindowedTest, FormThatCoversTheScreenKeepsToWhatIsLeftOfIt) {
     EXPECT_EQ(Seen, Log{}) << "once more changes nothing";
 }
 
-TEST_F(WindowedTest, FormIsNotSeenAfterItsUnloadButWhileItWaits) {
-    Bring("B");
-    Scripts["A"].Activate = [](ScriptedForm& form) { form.Forms().Unload(form); };
-    Program.Show("A");
-    Pump();
-    EXPECT_EQ(Seen, (Log{"A Load", "A Activate", "A Unload"}));
-    Scripts["A"].Activate = [](ScriptedForm& form) {
-        EXPECT_TRUE(form.Wait(1));
-        EXPECT_TRUE(WindowOf(form).isVisible()) << "nobody waits in front of nothing";
-    };
-    Bring("A");
-}
-
 TEST_F(WindowedTest, ShowOfAModalFormReturnsWhenItIsGone) {
     ScriptedForm& caller = Bring("B");
     for (const bool end : {false, true}) {
