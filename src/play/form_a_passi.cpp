@@ -72,7 +72,6 @@ void FormAPassi::Timer1_Timer() {
     } else if (stato_.ModoInput == ScansioneAutomatica && stato_.TrameloDisegnato &&
                !(tenuto_ && KeyIsDown(KeySpace))) {
         OffriProssima();
-        offerto_ = true;
         PictureScansioneAutomatica.SetFocus();
     }
 }
@@ -137,14 +136,25 @@ void FormAPassi::AvviaScansione() {
 }
 
 void FormAPassi::OffriProssima() {
-    const Punto testa = traccia_.Testa();
-    const AspettoScansione aspetto = AspettoTratti();
-    TogliTrattoScansione(pictureTramelo, testa, DirezioneScansione, aspetto);
+    TogliTrattoScansione(pictureTramelo, traccia_.Testa(), DirezioneScansione, AspettoTratti());
     DirezioneScansione = DirezioneDopo(DirezioneScansione);
     DisegnaPercorsoPerStampa(pictureTramelo, traccia_, Aspetto());
+    MostraOfferta();
+}
+
+void FormAPassi::MostraOfferta() {
+    const Punto testa = traccia_.Testa();
+    const AspettoScansione aspetto = AspettoTratti();
+    offerto_ = true;
     DisegnaTrattoScansione(pictureTramelo, testa, DirezioneScansione, aspetto);
     if (!aspetto.SopraIlSimbolo) {
         DisegnaSimbolo(pictureTramelo, testa, Aspetto());
+    }
+}
+
+void FormAPassi::RimettiOfferta() {
+    if (offerto_) {
+        MostraOfferta();
     }
 }
 

@@ -35,11 +35,13 @@ protected:
     void ImpostaModoInput();
     /// Begins to offer directions in a new maze.
     void AvviaScansione();
+    void RimettiOfferta() override;
     /// Takes all strokes away; nothing is on offer until the timer offers the next direction.
     void TogliLineeRotazione();
 
 private:
     void OffriProssima();
+    void MostraOfferta();
     void PrendiOfferta();
 };
 

@@ -57,10 +57,10 @@ FormTrm::FormTrm(trameli::Forms& forms, Servizi& servizi, Casuale& casuale,
     mnuRicomincia.Click = [this] { mnuRicomincia_Click(); };
     mnuColora.Click = [this] { mnuColora_Click(); };
     mnuLinee.Click = [this] { mnuLinee_Click(); };
+    mnuStampa.Click = [this] { mnuStampa_Click(); };
     mnuEsci.Click = [this] { mnuEsci_Click(); };
     mnuLinea1.Enabled(false);
     mnulinea2.Enabled(false);
-    mnuStampa.Enabled(false);  // until there is a way to print
 
     pictureTramelo.TabIndex(1);
     pictureTramelo.AccessibleName("Tramelo");

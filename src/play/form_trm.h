@@ -87,6 +87,11 @@ protected:
     virtual void DisegnaTramelo();
     /// Counts a hit, with its sound.
     virtual void ColpitoMuro();
+    /// Puts what is drawn on paper, by the print window. Serves events; false if the form was
+    /// unloaded meanwhile.
+    virtual bool StampaTramelo();
+    /// Draws what offers a direction again, if it was to be seen before all was drawn anew.
+    virtual void RimettiOfferta() {}
 
     // The window.
 
@@ -102,6 +107,8 @@ protected:
     // Another look of trace or walls, and the same maze from its start.
     void mnuColora_Click();
     void mnuLinee_Click();
+    /// Maze and trace on paper: they are drawn on white for it, and on their own ground afterwards.
+    void mnuStampa_Click();
     /// Back to the menu: unloads the form.
     void mnuEsci_Click();
 
@@ -114,6 +121,9 @@ protected:
 
     // The maze on `pictureTramelo`.
 
+    /// What a maze on paper is called, in the queue of a printer for instance.
+    static constexpr const char* NomeDocumento = "Trameli";
+
     /// The store of pictures, which no window shows.
     FormArchivio& Archivio() const;
     /// Works the thicknesses out from the settings and the cells' size.
@@ -124,6 +134,8 @@ protected:
     void GeneraTramelo();
     /// Forgets what was played of this maze; walls, start and finish stay.
     void AzzeraVariabili();
+    /// Draws all of it anew, on a ground of that colour and without what offers a direction.
+    void RidisegnaSu(Colour sfondo);
     /// Draws the symbol at the start.
     void InserisciPartenza();
     /// Chooses the picture that marks the finish by a draw, and puts it there.
@@ -141,6 +153,8 @@ protected:
     /// A solved maze: a cup and the way to the next one, or after the fifth the congratulations in
     /// place of the form.
     void MostraFrameTrameloRisolto();
+    /// The congratulations in place of the form, when no maze of it is being printed any more.
+    void Complimenti();
     /// Shows the direction on offer as a stroke at the head of the trace; nothing is taken away.
     void RidisegnaRotazione();
     /// The look of those strokes in this maze.
@@ -162,14 +176,16 @@ protected:
 
     /// The direction on offer while scanning, a place in DirezioniScansione.
     std::int16_t DirezioneScansione = 0;
-    bool offerto_ = false;  ///< its stroke was shown by the timer, and is still there
+    bool offerto_ = false;  ///< its stroke is to be seen
     bool tenuto_ = false;   ///< the one switch went down on this offer
 
 private:
     bool sempreIntestata_;
     double attesaIniziale_;
-    bool preparato_ = false;         ///< the first activation has come
-    bool StatoTimerSalvato = false;  ///< Timer1 as it was before BottoneAvanti stopped it
+    bool preparato_ = false;          ///< the first activation has come
+    bool stampando_ = false;          ///< a maze is on its way to paper
+    bool complimentiAttesi_ = false;  ///< the level ended meanwhile
+    bool StatoTimerSalvato = false;   ///< Timer1 as it was before BottoneAvanti stopped it
 };
 
 }  // namespace trameli

@@ -25,6 +25,8 @@ constexpr DisegnoTrm Disegno{
     .AttesaIniziale = 0.5,
 };
 
+constexpr double TempoStampa = 1;  // seconds in which the white maze is seen
+
 }  // namespace
 
 frmTrm0::frmTrm0(trameli::Forms& forms, Servizi& servizi, Casuale& casuale)
@@ -92,6 +94,13 @@ void frmTrm0::TogliMuri() {
     for (; ContaPezziMuro > 0; --ContaPezziMuro) {
         PictureMuri.Unload(ContaPezziMuro);
     }
+}
+
+bool frmTrm0::StampaTramelo() {
+    servizi_.Printers.FormOrientation(PrinterSettings::Landscape);
+    servizi_.Printers.PrintForm(*this, NomeDocumento);
+    RimettiOfferta();  // a switch may be pressed in that second
+    return Attesa(TempoStampa);
 }
 
 void frmTrm0::mnuLineeMuri_Click() {

@@ -24,6 +24,8 @@ protected:
     void mnuNuovo_Click() override;
     trameli::Pareti AspettoPareti() const override;
     void DisegnaTramelo() override;
+    /// The window itself on the default printer; nothing is asked.
+    bool StampaTramelo() override;
 
 private:
     void ScriviLineeMuri();

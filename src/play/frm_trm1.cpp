@@ -139,6 +139,16 @@ void frmTrm1::ColpitoMuro() {
     }
 }
 
+bool frmTrm1::StampaTramelo() {
+    if (!FormTrm::StampaTramelo()) {
+        return false;
+    }
+    if (fineAttesa_) {
+        fineAttesa_ = Forms().Clock().Now() + TempoPerGuardare;
+    }
+    return true;
+}
+
 void frmTrm1::Sbagliato() {
     Timer1.Enabled(false);
     pictureTramelo.Cls();

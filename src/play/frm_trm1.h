@@ -38,6 +38,8 @@ protected:
     PartenzaArrivo TrovaPartenzaArrivo() override;
     /// A sun less and back to the start.
     void ColpitoMuro() override;
+    /// Whoever prints while looking at a new maze looks on when the print window has closed.
+    bool StampaTramelo() override;
     /// The suns have run out: the same maze from zero, with all of them.
     void Sbagliato();
 

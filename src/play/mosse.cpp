@@ -48,10 +48,11 @@ void FormTrm::DisegnaLinea(Lato lato, int lunghezza, double colore) {
 AspettoScansione FormTrm::AspettoTratti() const {
     return AspettoScansioneDi(spessori_, AspettoPareti(), geometria_.DimensioneCella,
                               Forms().Screen().TwipsPerPixelX(), Nearest(stato_.ColoreScansione),
-                              Nearest(stato_.ColoreSfondo));
+                              pictureTramelo.BackColor());
 }
 
 void FormTrm::RidisegnaRotazione() {
+    offerto_ = true;
     DisegnaTrattoScansione(pictureTramelo, traccia_.Testa(), DirezioneScansione, AspettoTratti());
 }
 
@@ -67,7 +68,16 @@ void FormTrm::MostraFrameTrameloRisolto() {
         ++TrameliRisolti;
         return;
     }
-    Forms().HandOver(*this, "FormFinale");
+    Complimenti();
+}
+
+void FormTrm::Complimenti() {
+    // The clock of the timed levels goes on behind the print window, which would have another
+    // window over it and still be the only one that can be used.
+    complimentiAttesi_ = stampando_;
+    if (!stampando_) {
+        Forms().HandOver(*this, "FormFinale");
+    }
 }
 
 }  // namespace trameli

@@ -19,7 +19,7 @@ void FormTrm::ImpostaSpessori() {
 
 AspettoTraccia FormTrm::Aspetto() const {
     return AspettoDi(spessori_, geometria_.DimensioneCella, Forms().Screen().TwipsPerPixelX(),
-                     stato_.ColoraCasella, Nearest(stato_.ColoreSfondo),
+                     stato_.ColoraCasella, pictureTramelo.BackColor(),
                      Nearest(stato_.ColoreSimbolo));
 }
 
