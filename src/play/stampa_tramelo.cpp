@@ -33,9 +33,14 @@ void FormTrm::mnuStampa_Click() {
 }
 
 bool FormTrm::StampaTramelo() {
+    pictureStampa.Picture(pictureTramelo);
     servizi_.Stampa.StampaFPB(pictureStampa, Margine, Margine, LatoStampa, LatoStampa,
                               PrinterSettings::Landscape, NomeDocumento);
-    return Loaded();
+    if (!Loaded()) {
+        return false;
+    }
+    pictureStampa.Picture(Picture{});  // the copy is as large as the screen
+    return true;
 }
 
 void FormTrm::RidisegnaSu(Colour sfondo) {

@@ -1,6 +1,7 @@
 // Printers without a print system.
 #pragma once
 
+#include <QImage>
 #include <algorithm>
 #include <cstdint>
 #include <functional>
@@ -11,6 +12,7 @@
 
 #include "platform/form.h"
 #include "platform/printers.h"
+#include "support/stage.h"
 
 namespace trameli {
 
@@ -40,6 +42,7 @@ public:
         std::string Form;
         std::string Name;
         int Orientation;
+        QImage Picture;  ///< its window then
     };
     /// What the steps of a document answer, and whether the ones before it work.
     struct Answers {
@@ -81,7 +84,7 @@ public:
     }
     void FormOrientation(int orientation) override { orientation_ = orientation; }
     void PrintForm(const Form& form, const std::string& name) override {
-        Printed.push_back({form.Name(), name, orientation_});
+        Printed.push_back({form.Name(), name, orientation_, Shot(form)});
     }
 
 private:
