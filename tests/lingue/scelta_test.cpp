@@ -160,7 +160,7 @@ struct PrimoAvvio {
     const char* Lingua;
     const char* Sigla;
     const char* Avvio;
-    const char* Occupato;  ///< the message to a second one
+    const char* Occupato;  ///< how the message to a second one begins
 };
 
 TEST(PrimoAvvio, SpeaksTheLanguageOfTheDesktop) {
@@ -189,7 +189,7 @@ TEST(PrimoAvvio, SpeaksTheLanguageOfTheDesktop) {
         Partita altra(disco, Installazione{ProgrammaFornito(), caso.Desktop});
         altra.Istanze.Another = true;
         EXPECT_FALSE(altra.Avvia());
-        EXPECT_EQ(altra.Messaggi.Messages.at(0).Text, caso.Occupato);
+        EXPECT_TRUE(altra.Messaggi.Messages.at(0).Text.starts_with(caso.Occupato));
     }
 }
 

@@ -215,5 +215,27 @@ TEST_F(FormsOnX11, GiveTheKeyboardToAMessageBoxAndGetItBack) {
     EXPECT_TRUE(WidgetOf(Get("A").Second).hasFocus());
 }
 
+TEST_F(FormsOnX11, ThatAreDestroyedFromOutsideEndTheProgramAndBoxesAreClosed) {
+    const auto destroy = [](const QWidget& window) {
+        Keyboard({"windowclose", QString::number(window.winId())});
+    };
+    Program.Show("A");
+    ASSERT_NO_FATAL_FAILURE(AwaitFront("A"));
+    QTimer eye;
+    QObject::connect(&eye, &QTimer::timeout, [&] {
+        if (const QWidget* box = QApplication::activeModalWidget(); box && box->isActiveWindow()) {
+            eye.stop();
+            destroy(*box);
+        }
+    });
+    eye.start(10);
+    EXPECT_EQ(DesktopDialogs().Message("text", "title", Icon::Question, Buttons::YesNo),
+              Answer::No);
+    EXPECT_FALSE(Program.Ended());
+    destroy(WindowOf(Get("A")));
+    EXPECT_TRUE(Until([&] { return Program.Ended(); }));
+    EXPECT_EQ(Times("A Unload"), 1) << "closed as by its frame";
+}
+
 }  // namespace
 }  // namespace trameli

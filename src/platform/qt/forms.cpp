@@ -7,6 +7,7 @@
 
 #include "platform/qt/dialog_care.h"
 #include "platform/qt/form_window.h"
+#include "platform/qt/lost_windows.h"
 #include "platform/timer.h"
 
 namespace trameli {
@@ -18,12 +19,13 @@ struct Forms::Native {
         QEventLoop* Loop;
     };
 
-    explicit Native(const Forms& forms) : Dialogs(forms) {}
+    explicit Native(Forms& forms) : Dialogs(forms), Lost(forms) {}
 
     QEventLoop Loop;
     std::vector<Modal> Modals;  // one inside the other
     QObject Grave;              // receives the call that buries; gone with the program
     DialogCare Dialogs;
+    LostWindows Lost;
 };
 
 Forms::Forms(trameli::Clock& clock, trameli::Screen& screen)
