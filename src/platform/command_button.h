@@ -16,11 +16,20 @@ public:
     /// Shown in its own proportions, as large as the button leaves room; above a caption.
     void Picture(const trameli::Picture& picture);
 
+    /// Enter presses it wherever the keyboard is on the form, except on another button or where
+    /// Enter has a meaning of its own, such as in an open list.
+    bool Default() const;
+    void Default(bool answersEnter);
+    /// The same for Escape.
+    bool Cancel() const;
+    void Cancel(bool answersEscape);
+
     /// The button was pressed, by mouse or keyboard. Code cannot press it.
     std::function<void()> Click;
 
 protected:
     void ShowCaption() override;
+    void Properties(PropertyAccess& access) override;
 };
 
 }  // namespace trameli

@@ -9,6 +9,10 @@ namespace trameli {
 enum class Alignment { Left, Right, Centre };
 
 /// A text of one or more lines that the player cannot change. It wraps at its width.
+///
+/// One that is made with an "&" in its caption belongs to the control that the Tab key comes to
+/// next: the letter behind the "&", with Alt, leads there, and assistive technology calls that
+/// control by the label's text unless it has an AccessibleName. Other labels show an "&" as it is.
 class Label : public Captioned<InteractiveControl> {
 public:
     /// Text on an opaque ground, its lines to the left.
@@ -24,6 +28,9 @@ public:
 
     /// The left mouse button was pressed and released on it.
     std::function<void()> Click;
+
+    /// Tells it which control is next, nothing for none; of use below `platform` only.
+    void LeadTo(const InteractiveControl* next) const;
 
 protected:
     void ShowCaption() override;

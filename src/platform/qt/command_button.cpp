@@ -5,8 +5,10 @@
 #include <algorithm>
 
 #include "base/rounding.h"
+#include "platform/property_access.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/drawing.h"
+#include "platform/qt/form_window.h"
 #include "platform/qt/graphics.h"
 #include "platform/qt/key_press.h"
 #include "platform/qt/native.h"
@@ -20,6 +22,8 @@ constexpr double CornerRadius = 0.12;
 constexpr double Margin = 0.08;
 /// Of the room inside, what the picture of a button with a caption takes.
 constexpr double PictureShare = 0.45;
+/// How thick the edge of the button is that Enter presses, in pixels.
+constexpr int DefaultEdge = 2;
 
 /// Drawn here and not by the style: the colour has to be just the one that was set, and the focus
 /// has to be seen from across a room.
@@ -49,8 +53,10 @@ protected:
         const QColor face = palette().color(QPalette::Window);
         const QRectF body = QRectF(rect()).adjusted(1, 1, -1, -1);
 
-        painter.setPen(
-            QPen(hasFocus() ? QColor(0, 0, 128) : EdgeOf(face), hasFocus() ? FocusRing : 1));
+        painter.setPen(QPen(hasFocus() ? QColor(0, 0, 128) : EdgeOf(face), hasFocus() ? FocusRing
+                                                                           : isDefault()
+                                                                               ? DefaultEdge
+                                                                               : 1));
         painter.setBrush(isDown() ? face.darker(115) : face);
         const double inset = hasFocus() ? FocusRing / 2.0 : 0.5;
         painter.drawRoundedRect(body.adjusted(inset, inset, -inset, -inset), side * CornerRadius,
@@ -106,6 +112,40 @@ CommandButton::CommandButton(Container& container, ControlName name, const Bound
 
 void CommandButton::ShowCaption() {
     WidgetOf<ButtonWidget>(*this).setText(ToQt(Caption()));
+}
+
+bool CommandButton::Default() const {
+    return OwnerForm().NativePart().Window.Buttons().Default == NativePart().Widget;
+}
+
+void CommandButton::Default(bool answersEnter) {
+    if (answersEnter == Default()) {
+        return;
+    }
+    auto& widget = WidgetOf<ButtonWidget>(*this);
+    QPointer<QPushButton>& button = OwnerForm().NativePart().Window.Buttons().Default;
+    if (button) {
+        button->setDefault(false);
+    }
+    button = answersEnter ? &widget : nullptr;
+    widget.setDefault(answersEnter);
+}
+
+bool CommandButton::Cancel() const {
+    return OwnerForm().NativePart().Window.Buttons().Cancel == NativePart().Widget;
+}
+
+void CommandButton::Cancel(bool answersEscape) {
+    if (answersEscape != Cancel()) {
+        OwnerForm().NativePart().Window.Buttons().Cancel =
+            answersEscape ? &WidgetOf<ButtonWidget>(*this) : nullptr;
+    }
+}
+
+void CommandButton::Properties(PropertyAccess& access) {
+    access.At("Default", *this, &CommandButton::Default, &CommandButton::Default);
+    access.At("Cancel", *this, &CommandButton::Cancel, &CommandButton::Cancel);
+    Captioned::Properties(access);
 }
 
 void CommandButton::Picture(const trameli::Picture& picture) {

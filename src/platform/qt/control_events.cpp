@@ -59,7 +59,9 @@ bool ControlEvents::eventFilter(QObject* object, QEvent* event) {
             if (pressedHere_.Release(*key)) {
                 Fire(control_, control_.KeyUp, KeyCodeOf(*key), ShiftBitsOf(*key));
             }
-            return !control_.OwnerForm().Loaded();
+            // Here, as not every widget passes on the releases of keys that it had no use for.
+            return !control_.OwnerForm().Loaded() ||
+                   control_.OwnerForm().NativePart().Window.Buttons().Release(*key);
         }
         default:
             return QObject::eventFilter(object, event);

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "platform/forms.h"
+#include "platform/label.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/native.h"
 #include "platform/qt/surface_native.h"
@@ -25,6 +26,10 @@ constexpr int SettlingTime = 100;
 constexpr Qt::WindowFlags FrameWithoutSizeButtons = Qt::Window | Qt::CustomizeWindowHint |
                                                     Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                                                     Qt::WindowCloseButtonHint;
+
+bool TakesTab(const InteractiveControl& control) {
+    return control.NativePart().Widget->focusPolicy() & Qt::TabFocus;
+}
 
 }  // namespace
 
@@ -109,6 +114,7 @@ void FormWindow::ComeUp() {
     if (!presented_ || isVisible() || !form_.Loaded()) {
         return;
     }
+    OrderTabs();  // the form may have other controls by now than when it was presented
     Arrange();
     winId();  // makes the window, whose keys are filtered
     windowHandle()->installEventFilter(this);
@@ -282,6 +288,7 @@ bool FormWindow::event(QEvent* event) {
         case QEvent::WindowDeactivate:
             ShowHourglass();
             keys_.Forget();
+            buttons_.Forget();
             break;
         case QEvent::Resize:
             if (!settled_ && isVisible()) {
@@ -308,6 +315,14 @@ bool FormWindow::eventFilter(QObject* object, QEvent* event) {
 void FormWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
     form_.Forms().Dispatch(form_, [this] { Form::Native::QueryClose(form_); });
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+    event->setAccepted(buttons_.Press(*event));
+}
+
+void FormWindow::keyReleaseEvent(QKeyEvent* event) {
+    event->setAccepted(buttons_.Release(*event));
 }
 
 /// Called whenever something has happened to a window that fills the screen and has not got its
@@ -364,7 +379,7 @@ bool FormWindow::focusNextPrevChild(bool next) {
     return QMainWindow::focusNextPrevChild(next);
 }
 
-/// Tells the toolkit of the order of the Tab key, and returns it.
+/// Tells the toolkit and the labels of the order of the Tab key, and returns it.
 std::vector<const InteractiveControl*> FormWindow::OrderTabs() {
     std::vector<const InteractiveControl*> controls;
     for (const Control* control : form_.Controls()) {
@@ -377,14 +392,21 @@ std::vector<const InteractiveControl*> FormWindow::OrderTabs() {
     for (std::size_t i = 1; i < controls.size(); ++i) {
         setTabOrder(controls[i - 1]->NativePart().Widget, controls[i]->NativePart().Widget);
     }
+    for (std::size_t i = 0; i < controls.size(); ++i) {
+        if (const auto* label = dynamic_cast<const Label*>(controls[i])) {
+            const auto next =
+                std::find_if(controls.begin() + static_cast<std::ptrdiff_t>(i), controls.end(),
+                             [](const auto* control) { return TakesTab(*control); });
+            label->LeadTo(next == controls.end() ? nullptr : *next);
+        }
+    }
     return controls;
 }
 
 void FormWindow::FocusFirst() {
     for (const InteractiveControl* control : OrderTabs()) {
-        QWidget* widget = control->NativePart().Widget;
-        if ((widget->focusPolicy() & Qt::TabFocus) && control->Visible() && control->Enabled()) {
-            widget->setFocus();
+        if (TakesTab(*control) && control->Visible() && control->Enabled()) {
+            control->NativePart().Widget->setFocus();
             break;
         }
     }

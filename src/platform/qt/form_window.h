@@ -5,6 +5,7 @@
 #include <QTimer>
 
 #include "platform/form.h"
+#include "platform/qt/form_buttons.h"
 #include "platform/qt/key_road.h"
 
 namespace trameli {
@@ -62,6 +63,7 @@ public:
     /// Notes which control has the keyboard; true if it is another one than before.
     bool FocusMovedTo(const Control& control);
     KeyRoad& Keys() { return keys_; }
+    FormButtons& Buttons() { return buttons_; }
     /// Takes the window from the screen for good.
     void Dismiss();
 
@@ -69,6 +71,8 @@ protected:
     bool event(QEvent* event) override;
     bool eventFilter(QObject* object, QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
     bool focusNextPrevChild(bool next) override;
 
 private:
@@ -87,6 +91,7 @@ private:
     Form& form_;
     ClientArea& client_;
     KeyRoad keys_;
+    FormButtons buttons_;
     const Control* focused_ = nullptr;
     const FormStyle style_;
     QRect asked_;

@@ -1,6 +1,5 @@
 #include "platform/qt/graphics.h"
 
-#include <QAccessible>
 #include <QAccessibleWidget>
 #include <QCursor>
 #include <QPainter>
@@ -156,11 +155,8 @@ QIcon WindowIcon() {
     return icon;
 }
 
-void DescribeGraphics() {
-    QAccessible::installFactory([](const QString&, QObject* object) -> QAccessibleInterface* {
-        auto* graphic = dynamic_cast<GraphicWidget*>(object);
-        return graphic ? new AccessibleGraphic(graphic) : nullptr;
-    });
+QAccessibleInterface* GraphicWidget::Describe() {
+    return new AccessibleGraphic(this);
 }
 
 }  // namespace trameli

@@ -11,6 +11,7 @@
 #include <optional>
 
 #include "platform/picture.h"
+#include "platform/qt/accessibility.h"
 
 namespace trameli {
 
@@ -46,14 +47,13 @@ QIcon WindowIcon();
 
 /// A widget that shows something drawn: for assistive technology it is a graphic, or a button if it
 /// can be pressed.
-class GraphicWidget : public QWidget {
+class GraphicWidget : public QWidget, public SelfDescribing {
 public:
     using QWidget::QWidget;
 
     std::function<void()> Press;
-};
 
-/// Makes assistive technology see graphics as such; called once at the start of the process.
-void DescribeGraphics();
+    QAccessibleInterface* Describe() override;
+};
 
 }  // namespace trameli

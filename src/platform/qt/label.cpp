@@ -24,14 +24,17 @@ public:
     }
 
     Label* Owner = nullptr;
-    QColor Rim;  // not valid for letters without one
+    bool Leads = false;  // to the control that comes next
+    QColor Rim;          // not valid for letters without one
 
 protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
         const auto write = [&](QPoint where) {
             painter.drawText(rect().translated(where),
-                             static_cast<int>(alignment()) | Qt::TextWordWrap, text());
+                             static_cast<int>(alignment()) | Qt::TextWordWrap |
+                                 (Leads ? Qt::TextShowMnemonic : 0),
+                             text());
         };
         if (Rim.isValid()) {
             // The text itself, moved a little all round, under the letters.
@@ -73,11 +76,20 @@ private:
 Label::Label(Container& container, ControlName name, const Bounds& bounds, std::string caption)
     : Captioned(container, std::move(name), bounds, MakeNative<LabelWidget>(container)) {
     WidgetOf<LabelWidget>(*this).Owner = this;
+    WidgetOf<LabelWidget>(*this).Leads = caption.find('&') != std::string::npos;
     Caption(caption);
 }
 
 void Label::ShowCaption() {
     WidgetOf<LabelWidget>(*this).setText(ToQt(Caption()));
+}
+
+void Label::LeadTo(const InteractiveControl* next) const {
+    auto& widget = WidgetOf<LabelWidget>(*this);
+    QWidget* const buddy = widget.Leads && next ? next->NativePart().Widget.data() : nullptr;
+    if (widget.buddy() != buddy) {
+        widget.setBuddy(buddy);
+    }
 }
 
 void Label::TextAlignment(Alignment alignment) {

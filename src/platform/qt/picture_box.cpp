@@ -52,7 +52,7 @@ protected:
         }
     }
     void keyPressEvent(QKeyEvent* event) override {
-        if (!Press || !KeyStroke::IsMeant(*event)) {
+        if (!Press || !hasFocus() || !KeyStroke::IsMeant(*event)) {
             event->ignore();
         } else {
             stroke_.Press(*event);

@@ -27,9 +27,11 @@ bool IsHarmless(int key) {
     }
 }
 
-/// True if keys are letters there: whoever writes a name strikes one key twice in no time.
-bool IsForWriting(const QWidget* widget) {
-    return widget && widget->testAttribute(Qt::WA_InputMethodEnabled);
+/// True if keys are letters there: whoever writes a name strikes one key twice in no time. Enter
+/// and Escape write nothing; they press the window's buttons.
+bool IsForWriting(int key, const QWidget* widget) {
+    return widget && widget->testAttribute(Qt::WA_InputMethodEnabled) && key != Qt::Key_Return &&
+           key != Qt::Key_Enter && key != Qt::Key_Escape;
 }
 
 }  // namespace
@@ -72,7 +74,7 @@ bool SwitchCare::Bounces(const QKeyEvent& press) const {
 
 bool SwitchCare::IsMinded(const QKeyEvent& press, const QWidget* window) const {
     return forms_.SwitchesInUse() && !IsHarmless(press.key()) &&
-           !IsForWriting(window ? window->focusWidget() : nullptr);
+           !IsForWriting(press.key(), window ? window->focusWidget() : nullptr);
 }
 
 }  // namespace trameli

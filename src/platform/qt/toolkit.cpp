@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QPalette>
 
-#include "platform/qt/graphics.h"
+#include "platform/qt/accessibility.h"
 #include "platform/qt/style.h"
 
 /// The pictures lie in a static library, where nothing else makes the linker keep them. Outside
@@ -24,7 +24,7 @@ void PrepareToolkit() {
     // A program ends with its forms, not with the toolkit's windows.
     QApplication::setQuitOnLastWindowClosed(false);
     LoadPictures();
-    DescribeGraphics();
+    LetWidgetsDescribeThemselves();
 }
 
 }  // namespace trameli
