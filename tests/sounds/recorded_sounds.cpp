@@ -4,7 +4,6 @@
 #include <chrono>
 #include <cmath>
 #include <cstdlib>
-#include <cstring>
 #include <fstream>
 #include <numbers>
 #include <thread>
@@ -15,7 +14,6 @@ namespace {
 
 constexpr int Rate = 44100;
 constexpr std::size_t Window = Rate / 50;
-constexpr std::size_t WaveHeader = 44;
 
 /// Tells the pitches apart by how often they pass through zero.
 char LetterOf(const std::int16_t* window) {
@@ -42,12 +40,6 @@ std::string Little(std::uint32_t number, int bytes) {
         text += static_cast<char>(number >> 8 * i & 0xff);
     }
     return text;
-}
-
-Samples SamplesOf(const std::string& wave) {
-    Samples sound((wave.size() - WaveHeader) / 2);
-    std::memcpy(sound.data(), wave.data() + WaveHeader, 2 * sound.size());
-    return sound;
 }
 
 std::string Tone(double pitch, double seconds) {

@@ -20,9 +20,6 @@ using Samples = std::vector<std::int16_t>;
 
 /// A whole number as sound files hold it, its lowest byte first.
 std::string Little(std::uint32_t number, int bytes);
-/// The samples of a wave file of 16 bits, mono, that has no chunk too many.
-Samples SamplesOf(const std::string& wave);
-
 /// The two pitches that the tests tell apart, hertz. No overtone of one is near the other.
 constexpr double PitchA = 440;
 constexpr double PitchB = 659.26;

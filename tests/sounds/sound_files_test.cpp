@@ -43,6 +43,14 @@ TEST(PlainFiles, AreAllThatIsHandedOn) {
     }
 }
 
+TEST(PlainFiles, AreThoseOfTheGame) {
+    const std::filesystem::path sounds = GAME_SOUNDS;
+    for (const char* wave : {"boing.wav", "si.wav", "muovi.wav"}) {
+        EXPECT_TRUE(IsPlainWave(BytesOf(sounds / wave))) << wave;
+    }
+    EXPECT_TRUE(IsMidi(BytesOf(sounds / "coppa.mid")));
+}
+
 using SoundFiles = RecordedSounds;
 
 TEST_F(SoundFiles, WhatCannotBePlayedIsSilentAndTheNextIsHeard) {

@@ -1,7 +1,7 @@
 #include "support/written_text.h"
 
 #include <QFontMetricsF>
-#include <QPaintDevice>
+#include <QImage>
 #include <QPaintEngine>
 #include <QPainterPath>
 
@@ -43,9 +43,6 @@ public:
     }
 
     void drawPixmap(const QRectF&, const QPixmap&, const QRectF&) override {}
-    void drawTiledPixmap(const QRectF&, const QPixmap&, const QPointF&) override {}
-    void drawImage(const QRectF&, const QImage&, const QRectF&, Qt::ImageConversionFlags) override {
-    }
     void drawPath(const QPainterPath&) override {}
     void drawPolygon(const QPointF*, int, PolygonDrawMode) override {}
 
@@ -62,46 +59,21 @@ private:
     QTransform transform_;
 };
 
-class Paper final : public QPaintDevice {
+class Paper final : public QImage {
 public:
-    explicit Paper(const QWidget& widget) : widget_(widget), listener_(widget.size()) {}
+    explicit Paper(QSize size) : QImage(size, Format_RGB32), listener_(size) {}
 
     QPaintEngine* paintEngine() const override { return &listener_; }
     std::vector<WrittenText>& Heard() { return listener_.Heard; }
 
-protected:
-    int metric(PaintDeviceMetric what) const override {
-        switch (what) {
-            case PdmWidth:
-                return widget_.width();
-            case PdmHeight:
-                return widget_.height();
-            case PdmWidthMM:
-                return widget_.widthMM();
-            case PdmHeightMM:
-                return widget_.heightMM();
-            case PdmDepth:
-                return 32;
-            case PdmNumColors:
-                return 0;
-            case PdmDevicePixelRatio:
-                return 1;
-            case PdmDevicePixelRatioScaled:
-                return static_cast<int>(devicePixelRatioFScale());
-            default:
-                return widget_.logicalDpiX();
-        }
-    }
-
 private:
-    const QWidget& widget_;
     mutable Listener listener_;
 };
 
 }  // namespace
 
 std::vector<WrittenText> TextsOf(QWidget& widget) {
-    Paper paper(widget);
+    Paper paper(widget.size());
     widget.render(&paper, {}, {}, QWidget::RenderFlags());
     // What lies beyond the edge of anything below cannot be seen either.
     QRectF shown = widget.rect();

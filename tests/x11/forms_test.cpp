@@ -170,24 +170,6 @@ TEST_F(FormsOnX11, SeeAHeldKeyAsOneStroke) {
     }
 }
 
-TEST_F(FormsOnX11, SeeNothingOfAKeyThatIsStillHeldFromTheFormBefore) {
-    Scripts["A"].KeyDown = [](ScriptedForm& form, int) {
-        form.Forms().Show("B");
-        form.Forms().Unload(form);
-        return false;
-    };
-    Program.Show("A");
-    ASSERT_NO_FATAL_FAILURE(AwaitFront("A"));
-    {
-        HeldKey held("space");
-        ASSERT_NO_FATAL_FAILURE(AwaitFront("B"));
-        Get("B").First.SetFocus();
-        Seen.clear();
-        ASSERT_TRUE(held.AwaitManyRepeats());
-    }
-    EXPECT_EQ(SeenUpToNow("B"), Log{});
-}
-
 TEST_F(FormsOnX11, GiveTheKeyboardToAMessageBoxAndGetItBack) {
     Program.Show("A");
     ASSERT_NO_FATAL_FAILURE(AwaitFront("A"));
