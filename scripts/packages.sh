@@ -5,13 +5,14 @@
 # Each group is listed here and nowhere else. The names are Debian's (12 and later).
 
 # Compiler, build tools, and the headers of the toolkit, of the X server's protocol, of the system's
-# fonts and of the sound mixer.
+# fonts, of the sound mixer and of the print service.
 packages_build=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libxcb1-dev libfontconfig-dev
-    libsdl2-mixer-dev)
+    libsdl2-mixer-dev libcups2-dev)
 # What the game loads while it runs: window plugins, the toolkit's own texts, the mixer, instruments
-# for its music, and the fonts that stand in for Comic Sans MS and Arial.
+# for its music, the way to the print service, and the fonts that stand in for Comic Sans MS and
+# Arial.
 packages_run=(qt6-qpa-plugins qt6-translations-l10n libqt6svg6 libsdl2-mixer-2.0-0
-    timgm6mb-soundfont fonts-comic-neue fonts-liberation)
+    libcups2 timgm6mb-soundfont fonts-comic-neue fonts-liberation)
 # Only for a session that has Wayland and no X11.
 packages_wayland=(qt6-wayland)
 # Only where there is no display: a virtual one with a window manager.
@@ -41,8 +42,8 @@ tell_needs() {
 $1
 
 Needed are a C++20 compiler, CMake 3.25 or later, Ninja, Qt 6.4 or later with Widgets, Svg and
-its X11 or Wayland plugin and its translations, libxcb, Fontconfig, and SDL2_mixer 2.6 or later with FluidSynth; the
-fonts Comic Neue and Liberation Sans (or Comic Sans MS and Arial); for the music a General MIDI
+its X11 or Wayland plugin and its translations, libxcb, Fontconfig, CUPS 2.3 or later (its library), and SDL2_mixer 2.6 or later with
+FluidSynth; the fonts Comic Neue and Liberation Sans (or Comic Sans MS and Arial); for the music a General MIDI
 soundfont; without a display also TigerVNC's X server and the window manager openbox; for tests and
 benchmarks GoogleTest, Google Benchmark, Xvfb, openbox and xdotool.
 

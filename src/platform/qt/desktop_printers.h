@@ -2,12 +2,12 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "platform/printers.h"
 #include "platform/qt/errands.h"
-#include "platform/qt/page_context.h"
 #include "platform/qt/pdf_printer.h"
 #include "platform/qt/print_queues.h"
 
@@ -28,12 +28,10 @@ public:
     void PrintForm(const Form& form, const std::string& name) override;
 
 private:
-    std::string PdfName() const;
-    std::optional<PrinterFacts> Facts(const std::string& name);
-    bool DeliverToPdf(const PageContext::Document& document, const PageFormat& format);
+    bool IsPdf(const std::string& name) const;
 
-    std::shared_ptr<PdfPrinter> pdf_;  ///< also of the threads that print
     PrintQueues queues_;
+    std::shared_ptr<PdfPrinter> pdf_;  ///< also of the threads that print
     Errands errands_;
     int formOrientation_ = 0;
 };

@@ -1,27 +1,10 @@
 #include "platform/qt/mixer_library.h"
 
-#include <dlfcn.h>
+#include "platform/qt/shared_library.h"
 
 namespace trameli {
 
 namespace {
-
-/// A library and whether everything asked of it was there.
-class Library {
-public:
-    explicit Library(const char* name) : handle_(dlopen(name, RTLD_NOW | RTLD_LOCAL)) {}
-
-    template <typename Function>
-    void Find(const char* name, Function& function) {
-        function = handle_ ? reinterpret_cast<Function>(dlsym(handle_, name)) : nullptr;
-        complete_ = complete_ && function;
-    }
-    bool IsComplete() const { return complete_; }
-
-private:
-    void* handle_;
-    bool complete_ = true;
-};
 
 extern "C" {
 static void DropAlsaError(const char*, int, const char*, int, const char*, ...) {}
@@ -57,14 +40,14 @@ bool MixerLibrary::Load() {
     if (loaded_) {
         return true;
     }
-    Library sdl("libSDL2-2.0.so.0");
+    SharedLibrary sdl("libSDL2-2.0.so.0");
     sdl.Find("SDL_SetHint", SDL_SetHint);
     sdl.Find("SDL_InitSubSystem", SDL_InitSubSystem);
     sdl.Find("SDL_QuitSubSystem", SDL_QuitSubSystem);
     sdl.Find("SDL_GetAudioDeviceStatus", SDL_GetAudioDeviceStatus);
     sdl.Find("SDL_RWFromConstMem", SDL_RWFromConstMem);
     sdl.Find("SDL_TLSCleanup", SDL_TLSCleanup);
-    Library mixer("libSDL2_mixer-2.0.so.0");
+    SharedLibrary mixer("libSDL2_mixer-2.0.so.0");
     mixer.Find("Mix_OpenAudioDevice", Mix_OpenAudioDevice);
     mixer.Find("Mix_CloseAudio", Mix_CloseAudio);
     mixer.Find("Mix_AllocateChannels", Mix_AllocateChannels);

@@ -26,7 +26,7 @@ int PageContext::Stretch(const PixelRectangle& where, const PixelBlock& picture)
     if (state_ != State::InPage || where.Width <= 0 || where.Height <= 0 || !picture.Bits) {
         return 0;
     }
-    QImage pixels = PictureOf(picture, format_.Grey);
+    QImage pixels = PictureOf(picture);
     if (pixels.isNull()) {
         return 0;
     }

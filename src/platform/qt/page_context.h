@@ -3,22 +3,18 @@
 
 #include <functional>
 #include <string>
-#include <vector>
 
 #include "platform/printers.h"
-#include "platform/qt/pdf_pages.h"
+#include "platform/qt/handover.h"
+#include "platform/qt/page_format.h"
 
 namespace trameli {
 
 /// Collects the pages of a document, to be made and handed over when it ends.
 class PageContext final : public PrintContext {
 public:
-    struct Document {
-        std::string Name;
-        std::vector<PrintedPage> Pages;
-    };
-    /// Hands a document over; false if it was not taken. May serve window events.
-    using Delivery = std::function<bool(Document)>;
+    /// Takes a document to its printer; false if it was not taken. May serve window events.
+    using Delivery = std::function<bool(PrintedDocument)>;
 
     PageContext(PageFormat format, Delivery deliver)
         : format_(std::move(format)), deliver_(std::move(deliver)) {}
@@ -36,7 +32,7 @@ private:
 
     PageFormat format_;
     Delivery deliver_;
-    Document document_;
+    PrintedDocument document_;
     State state_ = State::Nothing;
 };
 

@@ -55,7 +55,7 @@ PageFormat FormatOf(const PrinterFacts& printer, const PrinterSettings& settings
     QSizeF page(read.Width, read.Height);
     QTransform ontoPage;  // the last one that is named comes first
     ontoPage.scale(1.0 / Hundredths, 1.0 / Hundredths);
-    if (turned && printer.TurnsOnPaper) {
+    if (turned && printer.Kind == PrinterFacts::Kinds::Queue) {
         page.transpose();
         ontoPage.translate(0, page.height());
         ontoPage.rotate(-90);

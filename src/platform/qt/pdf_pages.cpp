@@ -19,13 +19,16 @@ QPageLayout LayoutOf(const PageFormat& format) {
                        QPageLayout::Portrait, QMarginsF(), QPageLayout::Millimeter);
 }
 
+QImage Greyed(const QImage& picture) {
+    return picture.convertToFormat(QImage::Format_Grayscale8);
+}
+
 }  // namespace
 
-QImage PictureOf(const PixelBlock& block, bool grey) {
+QImage PictureOf(const PixelBlock& block) {
     const QImage upsideDown(block.Bits, block.Width, block.Height, block.BytesPerRow,
                             QImage::Format_BGR888);
-    return upsideDown.mirrored().convertToFormat(grey ? QImage::Format_Grayscale8
-                                                      : QImage::Format_RGB32);
+    return upsideDown.mirrored().convertToFormat(QImage::Format_RGB888);
 }
 
 std::string PdfOf(const std::vector<PrintedPage>& pages, const PageFormat& format,
@@ -37,6 +40,7 @@ std::string PdfOf(const std::vector<PrintedPage>& pages, const PageFormat& forma
     writer.setResolution(DotsPerInch);
     writer.setPageLayout(LayoutOf(format));
     writer.setTitle(ToQt(title));
+    writer.setCreator(QStringLiteral("Trameli"));
     QPainter painter(&writer);
     painter.setRenderHint(QPainter::LosslessImageRendering);
     bool first = true;
@@ -51,7 +55,7 @@ std::string PdfOf(const std::vector<PrintedPage>& pages, const PageFormat& forma
         for (const PlacedPicture& placed : page) {
             const PixelRectangle& where = placed.Where;
             painter.drawImage(QRectF(where.Left, where.Top, where.Width, where.Height),
-                              placed.Picture);
+                              format.Grey ? Greyed(placed.Picture) : placed.Picture);
         }
     }
     painter.end();

@@ -17,8 +17,8 @@ struct PlacedPicture {
 };
 using PrintedPage = std::vector<PlacedPicture>;
 
-/// The pixels of a block, with grey ones for a printer without colours.
-QImage PictureOf(const PixelBlock& block, bool grey);
+/// A copy of the pixels of a block; null if they are none.
+QImage PictureOf(const PixelBlock& block);
 
 /// The bytes of a document, which has every picture in its own pixels and without loss. Any thread
 /// can make one.

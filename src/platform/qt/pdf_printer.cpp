@@ -60,6 +60,7 @@ PdfOptions PdfOptions::OfDesktop() {
 PrinterFacts PdfPrinter::Facts(const std::string& name) const {
     PrinterFacts facts;
     facts.Name = name;
+    facts.Kind = PrinterFacts::Kinds::Files;
     facts.Papers = OfficePapers(options_.Letter);
     facts.DotsPerInchAcross = PdfDotsPerInch;
     facts.DotsPerInchDown = PdfDotsPerInch;

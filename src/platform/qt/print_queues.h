@@ -1,14 +1,13 @@
 // The queues of the system's print service.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
-#include <vector>
 
-#include "platform/qt/errands.h"
+#include "platform/qt/known_queues.h"
 #include "platform/qt/patience.h"
-#include "platform/qt/printer_facts.h"
 
 namespace trameli {
 
@@ -16,23 +15,25 @@ namespace trameli {
 /// not tell in time is taken from its last answer.
 class PrintQueues {
 public:
-    PrintQueues();
-    ~PrintQueues();
+    QueueList All();
+    /// Asks for a queue; nothing if there is none of that name.
+    std::optional<PrinterFacts> Look(const std::string& queue);
+    /// The same, but a queue that was looked at before, and was there when all were listed, is
+    /// taken as it was then.
+    std::optional<PrinterFacts> LastLook(const std::string& queue);
 
-    struct List {
-        std::vector<std::string> Names;  ///< in the system's order
-        std::string Default;             ///< empty if there is none
-    };
-    List All();
-    /// Nothing for a queue that there is not.
-    std::optional<PrinterFacts> Facts(const std::string& name);
-    /// The list as it was told last.
-    List LastAll() const;
+    /// What was told last, shared with the threads, which may live longer.
+    const std::shared_ptr<KnownQueues>& Known() const { return known_; }
 
 private:
-    struct Known;
-    std::shared_ptr<Known> known_;
+    using Question = std::function<bool(KnownQueues&)>;
+    struct Reply;
+
+    void Ask(Question question);
+
+    std::shared_ptr<KnownQueues> known_ = std::make_shared<KnownQueues>();
     Patience patience_;
+    std::shared_ptr<Reply> awaited_;  ///< to a question that nobody waits for any more
 };
 
 }  // namespace trameli

@@ -11,16 +11,19 @@ namespace trameli {
 
 /// All that has to be known of a printer to make pages for it.
 struct PrinterFacts {
+    enum class Kinds {
+        Queue,  ///< paper, which goes in with its own side up: pages are turned for it
+        Files,  ///< documents for the screen, upright as they are
+    };
+
     std::string Name;
+    Kinds Kind = Kinds::Queue;
     std::vector<Paper> Papers;  ///< one at least; the printer's own choice comes first
     int DotsPerInchAcross = 0;
     int DotsPerInchDown = 0;
     bool CanColour = false;
     PrinterSettings::Colours OwnColour = PrinterSettings::Grey;
     PrinterSettings::Orientations OwnOrientation = PrinterSettings::Portrait;
-    /// Paper goes in with its own side up, so what is printed the other way round has to be turned.
-    /// A document for the screen is not.
-    bool TurnsOnPaper = false;
     /// Words by which a job asks for grey or colours; empty if it cannot.
     std::string GreyWord;
     std::string ColourWord;
