@@ -107,6 +107,10 @@ public:
     /// waited for.
     void Hourglass(bool shown);
 
+    /// True while a key, by its KeyCode, is held down that was pressed in this form. A key that was
+    /// down when a menu or another window took the keyboard is not any more.
+    bool KeyIsDown(int keyCode) const;
+
     /// All controls in the order of their making, timers and menu entries included.
     const std::vector<Control*>& Controls() const { return controls_; }
 
@@ -144,10 +148,6 @@ protected:
     /// meanwhile, or the program ended. Returns whether the form is still loaded: if it is not,
     /// the caller returns at once.
     [[nodiscard]] bool Attesa(double secondi);
-
-    /// True while a key, by its KeyCode, is held down that was pressed in this form. A key that was
-    /// down when a menu or another window took the keyboard is not any more.
-    bool KeyIsDown(int keyCode) const;
 
 private:
     friend class trameli::Control;

@@ -1,5 +1,6 @@
 #include "play/form_a_passi.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <utility>
 
@@ -8,6 +9,15 @@
 #include "play/tasti.h"
 
 namespace trameli {
+
+namespace {
+
+/// Without anything taken in four rounds, the player may want to leave.
+constexpr int OfferteFinoAllUscita = 4 * NumeroDirezioni;
+/// With one switch it stays as long as two directions.
+constexpr int DurataUscita = 2;
+
+}  // namespace
 
 FormAPassi::FormAPassi(trameli::Forms& forms, Servizi& servizi, Casuale& casuale,
                        const DisegnoTrm& disegno, DimensioniGriglia griglia,
@@ -36,6 +46,9 @@ FormAPassi::FormAPassi(trameli::Forms& forms, Servizi& servizi, Casuale& casuale
 /// would not do: its next tick can be 15 seconds away, and while a solved maze is on show it stands
 /// still. A click somewhere would then leave the player no way to go on.
 bool FormAPassi::Form_KeyDown(int keyCode, int /*shift*/) {
+    if (giro_.KeyDown(keyCode)) {
+        return true;
+    }
     if (stato_.ModoInput == Tastiera || (keyCode != KeySpace && keyCode != KeyEnter)) {
         return false;
     }
@@ -54,6 +67,7 @@ bool FormAPassi::Form_KeyDown(int keyCode, int /*shift*/) {
 
 void FormAPassi::Form_KeyUp(int keyCode, int /*shift*/) {
     if (stato_.ModoInput != Tastiera) {
+        giro_.KeyUp(keyCode);
         return;
     }
     if (BottoneAvanti.Visible()) {
@@ -72,7 +86,9 @@ void FormAPassi::Timer1_Timer() {
     } else if (stato_.ModoInput == ScansioneAutomatica && stato_.TrameloDisegnato &&
                !(tenuto_ && KeyIsDown(KeySpace))) {
         OffriProssima();
-        PictureScansioneAutomatica.SetFocus();
+        if (uscitaOfferta_ == 0) {
+            PictureScansioneAutomatica.SetFocus();
+        }
     }
 }
 
@@ -96,6 +112,13 @@ void FormAPassi::PictureScansioneAutomatica_KeyUp(int keyCode) {
         TogliLineeRotazione();
         PrendiOfferta();
     }
+}
+
+Bounds FormAPassi::PostoBottoneMenu() const {
+    const double left = Image1(0).Left();
+    return {left, BottoneAvanti.Top(), BottoneAvanti.Left() - 2 * left,
+            std::max(BottoneAvanti.Height(),
+                     Image1(0).Top() + Image1(0).Height() - BottoneAvanti.Top())};
 }
 
 void FormAPassi::DisponiControlli(double altezza, double scartoCoppe) {
@@ -132,10 +155,31 @@ void FormAPassi::AvviaScansione() {
         Timer1.Enabled(true);
     } else if (stato_.ModoInput == ScansioneManuale) {
         RidisegnaRotazione();
+        offerte_ = 1;
     }
 }
 
+/// A direction, or once after some rounds the way out. No stroke is shown meanwhile: only one thing
+/// is on offer.
 void FormAPassi::OffriProssima() {
+    if (uscitaOfferta_ > 0) {
+        if (--uscitaOfferta_ > 0) {
+            return;
+        }
+        MostraBottoneMenu(false);
+        offerte_ = 0;
+    } else if (offerte_ >= OfferteFinoAllUscita && InGioco()) {
+        TogliLineeRotazione();
+        uscitaOfferta_ = stato_.ModoInput == ScansioneAutomatica ? DurataUscita : 1;
+        MostraBottoneMenu(true);
+        offerto_ = true;
+        return;
+    }
+    ++offerte_;
+    OffriDirezione();
+}
+
+void FormAPassi::OffriDirezione() {
     TogliTrattoScansione(pictureTramelo, traccia_.Testa(), DirezioneScansione, AspettoTratti());
     DirezioneScansione = DirezioneDopo(DirezioneScansione);
     DisegnaPercorsoPerStampa(pictureTramelo, traccia_, Aspetto());
@@ -167,6 +211,11 @@ void FormAPassi::TogliLineeRotazione() {
 }
 
 void FormAPassi::PrendiOfferta() {
+    if (uscitaOfferta_ > 0) {
+        mnuEsci_Click();
+        return;
+    }
+    offerte_ = stato_.ModoInput == ScansioneManuale ? 1 : 0;  // with two switches it stays on show
     Muovi(DirezioniScansione.at(static_cast<std::size_t>(DirezioneScansione)));
 }
 

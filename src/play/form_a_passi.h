@@ -28,6 +28,7 @@ protected:
     void PictureScansioneManuale_KeyUp(int keyCode);
     void PictureScansioneAutomatica_KeyUp(int keyCode);
 
+    Bounds PostoBottoneMenu() const override;
     /// Gives `pictureTramelo` the whole width and `altezza` twips, puts the button under it and
     /// hides the cups, their tops `scartoCoppe` twips below the button's.
     void DisponiControlli(double altezza, double scartoCoppe);
@@ -41,6 +42,7 @@ protected:
 
 private:
     void OffriProssima();
+    void OffriDirezione();
     void MostraOfferta();
     void PrendiOfferta();
 };

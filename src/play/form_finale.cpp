@@ -3,10 +3,11 @@
 #include <algorithm>
 #include <initializer_list>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "base/rounding.h"
 #include "platform/forms.h"
-#include "platform/keys.h"
 #include "play/sfumatura.h"
 #include "shell/fumetto.h"
 #include "shell/livelli.h"
@@ -17,7 +18,6 @@ namespace {
 
 constexpr Form::DesignSize Dimensioni{9915, 7680};
 constexpr Colour Sfondo = Rgb(0, 0, 32);
-constexpr Colour Evidenza = Rgb(255, 210, 63);
 constexpr double AttesaIniziale = 1;  // seconds
 
 /// Half of the room that is left, in whole pixels, so that no control changes its size by one.
@@ -30,11 +30,6 @@ bool Chiaro(Colour colore) {
     return 3 * RedOf(colore) + 6 * GreenOf(colore) + BlueOf(colore) > 5 * 255;
 }
 
-/// Whether the key presses the button that has the focus.
-bool Preme(int keyCode) {
-    return keyCode == KeySpace || keyCode == KeyEnter;
-}
-
 }  // namespace
 
 FormFinale::FormFinale(trameli::Forms& forms, Servizi& servizi, Casuale& casuale)
@@ -45,11 +40,11 @@ FormFinale::FormFinale(trameli::Forms& forms, Servizi& servizi, Casuale& casuale
       Label2(*this, "Label2", {360, 3960, 3855, 3135}, ""),
       Command1(*this, "Command1", {7440, 5040, 1935, 735}, "Resta a questo livello"),
       Command2(*this, "Command2", {7440, 5880, 1935, 735}, "Vai al prossimo livello"),
-      Timer1(*this, "Timer1", QuartoDiSecondo),
       servizi_(servizi),
       stato_(servizi.Stato),
       casuale_(casuale),
-      evidenziato_(&Command1) {
+      evidenziato_(&Command1),
+      giro_(*this, "Timer1", servizi.Stato) {
     Image1.AccessibleName("Coppa");
 
     LabelNome.Font(Fumetto(14.25, false));
@@ -64,16 +59,19 @@ FormFinale::FormFinale(trameli::Forms& forms, Servizi& servizi, Casuale& casuale
     Label2.Transparent(true);
     Label2.TabIndex(2);
 
-    int ordine = 3;
+    constexpr int primo = 3;
     for (CommandButton* bottone : {&Command1, &Command2}) {
+        const std::size_t quale = bottone == &Command1 ? 0 : 1;
         bottone->Font(Fumetto(12));
-        bottone->TabIndex(ordine++);
+        bottone->TabIndex(primo + static_cast<int>(quale));
         bottone->Enabled(false);
-        bottone->GotFocus = [this, bottone] { Evidenzia(*bottone); };
+        bottone->GotFocus = [this, bottone, quale] {
+            Evidenzia(*bottone);
+            giro_.Corrente(quale);
+        };
     }
     Command1.Click = [this] { Command1_Click(); };
     Command2.Click = [this] { Command2_Click(); };
-    Timer1.Tick = [this] { Timer1_Timer(); };
 }
 
 void FormFinale::Form_Load() {
@@ -102,8 +100,6 @@ void FormFinale::Form_Resize() {
 
 void FormFinale::Form_Activate() {
     if (attivato_) {
-        // Back in front. A switch that was down when it went was let go in another window.
-        Timer1.Enabled(pronto_ && stato_.ModoInput == ScansioneAutomatica);
         return;
     }
     attivato_ = true;
@@ -116,33 +112,21 @@ void FormFinale::Form_Activate() {
     if (stato_.Livello == NumeroLivelli - 1) {
         Command2.Visible(false);
     }
-    pronto_ = true;
     Evidenzia(Command1);
     Command1.SetFocus();
-    if (stato_.ModoInput == ScansioneAutomatica) {
-        Timer1.Interval(stato_.VelocitaScansione * QuartoDiSecondo);
-        Timer1.Enabled(true);
+    std::vector<GiroOfferte::Offerta> offerte{OffertaDi(Command1)};
+    if (Command2.Visible()) {
+        offerte.push_back(OffertaDi(Command2));
     }
+    giro_.Avvia(std::move(offerte));
 }
 
 bool FormFinale::Form_KeyDown(int keyCode, int /*shift*/) {
-    if (stato_.ModoInput == ScansioneAutomatica && Preme(keyCode)) {
-        // What is chosen is the button that was offered when the switch went down, however long
-        // it stays down.
-        Timer1.Enabled(false);
-    }
-    return stato_.ModoInput == ScansioneManuale && keyCode == KeySpace;
+    return giro_.KeyDown(keyCode);
 }
 
 void FormFinale::Form_KeyUp(int keyCode, int /*shift*/) {
-    if (!pronto_) {
-        return;
-    }
-    if (stato_.ModoInput == ScansioneManuale && keyCode == KeySpace) {
-        AltroBottone();
-    } else if (stato_.ModoInput == ScansioneAutomatica && Preme(keyCode)) {
-        Timer1.Enabled(true);
-    }
+    giro_.KeyUp(keyCode);
 }
 
 void FormFinale::Form_QueryClose() {
@@ -168,10 +152,6 @@ void FormFinale::Command2_Click() {
     ApriGioco();
 }
 
-void FormFinale::Timer1_Timer() {
-    AltroBottone();
-}
-
 /// The screen's size is known only once the window shows, and it may change after that.
 void FormFinale::DisegnaSfondo() {
     const double pixel = Forms().Screen().TwipsPerPixelX();
@@ -193,19 +173,21 @@ void FormFinale::Centra() {
     margineSuperiore_ = top;
 }
 
-void FormFinale::AltroBottone() {
-    CommandButton& altro = evidenziato_ == &Command1 ? Command2 : Command1;
-    if (altro.Visible()) {
-        // The focus alone would tell only once the window is in front.
-        Evidenzia(altro);
-        altro.SetFocus();
-    }
+GiroOfferte::Offerta FormFinale::OffertaDi(CommandButton& bottone) {
+    // The focus alone would tell only once the window is in front.
+    const auto mostra = [this, &bottone](bool offerto) {
+        if (offerto) {
+            Evidenzia(bottone);
+            bottone.SetFocus();
+        }
+    };
+    return {mostra, bottone.Click};
 }
 
 void FormFinale::Evidenzia(CommandButton& bottone) {
     evidenziato_->BackColor(ButtonFace);
     evidenziato_ = &bottone;
-    bottone.BackColor(Evidenza);
+    bottone.BackColor(GiroOfferte::Evidenza);
 }
 
 void FormFinale::ApriGioco() {

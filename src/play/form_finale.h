@@ -6,7 +6,7 @@
 #include "platform/form.h"
 #include "platform/image.h"
 #include "platform/label.h"
-#include "platform/timer.h"
+#include "shell/giro_offerte.h"
 #include "shell/servizi.h"
 
 namespace trameli {
@@ -26,7 +26,6 @@ public:
     Label Label2;            ///< the level that was solved
     CommandButton Command1;  ///< stays at the level
     CommandButton Command2;  ///< goes on
-    Timer Timer1;            ///< goes from button to button for those who have one key
 
 protected:
     void Form_Load() override;
@@ -41,11 +40,10 @@ protected:
 private:
     void Command1_Click();
     void Command2_Click();
-    void Timer1_Timer();
 
     void DisegnaSfondo();
     void Centra();
-    void AltroBottone();
+    GiroOfferte::Offerta OffertaDi(CommandButton& bottone);
     void Evidenzia(CommandButton& bottone);
     void ApriGioco();
 
@@ -57,8 +55,8 @@ private:
     double margineSinistro_ = 0;  ///< how far the controls stand from their design places
     double margineSuperiore_ = 0;
     bool attivato_ = false;       ///< has come to the front once
-    bool pronto_ = false;         ///< the buttons can be pressed
     CommandButton* evidenziato_;  ///< has the focus, or will have it with the window
+    GiroOfferte giro_;            ///< goes from button to button for those who have switches
 };
 
 }  // namespace trameli

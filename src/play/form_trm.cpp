@@ -38,6 +38,7 @@ FormTrm::FormTrm(trameli::Forms& forms, Servizi& servizi, Casuale& casuale,
       Image2(pictureTramelo, "Image2", disegno.Image2),
       Image1("Image1"),
       BottoneAvanti(*this, "BottoneAvanti", disegno.BottoneAvanti),
+      BottoneMenu(*this, "BottoneMenu", {0, 0, 4500, 1200}, "Torna al menù"),
       Timer1(*this, "Timer1", IntervalloTimer),
       StatusBar1(*this, "StatusBar1", LarghezzaPannello,
                  disegno.ConRipartenze ? PannelliConRipartenze : Pannelli),
@@ -46,6 +47,7 @@ FormTrm::FormTrm(trameli::Forms& forms, Servizi& servizi, Casuale& casuale,
       casuale_(casuale),
       tramelo_(griglia.Righe, griglia.Colonne, casuale),
       traccia_(griglia.Righe, griglia.Colonne),
+      giro_(*this, "TimerOfferte", servizi.Stato),
       sempreIntestata_(disegno.SempreIntestata),
       attesaIniziale_(disegno.AttesaIniziale) {
     BackColor(White);
@@ -82,6 +84,9 @@ FormTrm::FormTrm(trameli::Forms& forms, Servizi& servizi, Casuale& casuale,
     BottoneAvanti.MouseIcon(FrecciaGrande());
     BottoneAvanti.Click = [this] { BottoneAvanti_Click(); };
     BottoneAvanti.GotFocus = [this] { BottoneAvanti_GotFocus(); };
+    BottoneMenu.TabIndex(6);
+    BottoneMenu.Visible(false);
+    BottoneMenu.Click = [this] { mnuEsci_Click(); };
     StatusBar1.AccessibleName("Barra di stato");
 }
 
@@ -126,7 +131,30 @@ void FormTrm::Form_QueryClose() {
     Form::Form_QueryClose();
 }
 
+void FormTrm::MostraBottoneMenu(bool visibile) {
+    if (visibile) {
+        BottoneMenu.Place(PostoBottoneMenu());
+        BottoneMenu.ToFront();
+    }
+    BottoneMenu.Visible(visibile);
+    if (visibile) {
+        BottoneMenu.SetFocus();
+    }
+}
+
+void FormTrm::OffriAvantiOMenu() {
+    // In paces: going on is what most want, and a press that was meant for it must not leave.
+    constexpr int avanti = 4;
+    constexpr int menu = 2;
+    giro_.Avvia({GiroOfferte::DiBottone(
+                     BottoneAvanti, [this] { BottoneAvanti_Click(); }, avanti),
+                 {[this](bool offerto) { MostraBottoneMenu(offerto); }, [this] { mnuEsci_Click(); },
+                  menu}});
+}
+
 void FormTrm::Sgombra() {
+    giro_.Ferma();
+    MostraBottoneMenu(false);
     BottoneAvanti.Visible(false);
     ContaPassi = 0;
     ScriviPassi();

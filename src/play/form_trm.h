@@ -20,6 +20,7 @@
 #include "play/giocatore.h"
 #include "play/scansione.h"
 #include "play/traccia.h"
+#include "shell/giro_offerte.h"
 #include "shell/servizi.h"
 
 namespace trameli {
@@ -65,6 +66,7 @@ public:
     Image Image2;                 ///< the finish mark
     ControlArray<Image> Image1;   ///< the cups, one for each solved maze
     CommandButton BottoneAvanti;  ///< shown after a solved maze; leads to the next one
+    CommandButton BottoneMenu;    ///< back to the menu, on offer to players with switches at times
     Timer Timer1;
     StatusBar StatusBar1;
 
@@ -111,6 +113,12 @@ protected:
     void mnuStampa_Click();
     /// Back to the menu: unloads the form.
     void mnuEsci_Click();
+
+    /// Where BottoneMenu goes in the window as it is: over the cups.
+    virtual Bounds PostoBottoneMenu() const = 0;
+    void MostraBottoneMenu(bool visibile);
+    /// After a solved maze, one switch goes on or, if it waits long enough, leaves.
+    void OffriAvantiOMenu();
 
     /// What belongs to the maze before goes, to make room for a new one.
     void Sgombra();
@@ -174,10 +182,14 @@ protected:
     std::int16_t ContaPassi = 0;      ///< steps in this maze
     std::int16_t TrameliRisolti = 0;  ///< since the activation, 0 to 4
 
+    /// The buttons on offer to players with switches, when there are any.
+    GiroOfferte giro_;
     /// The direction on offer while scanning, a place in DirezioniScansione.
     std::int16_t DirezioneScansione = 0;
-    bool offerto_ = false;  ///< its stroke is to be seen
-    bool tenuto_ = false;   ///< the one switch went down on this offer
+    bool offerto_ = false;   ///< something is on offer and to be seen
+    bool tenuto_ = false;    ///< the one switch went down on this offer
+    int offerte_ = 0;        ///< directions offered since something was taken, or the way out was
+    int uscitaOfferta_ = 0;  ///< offers that the way out, BottoneMenu, still takes the place of
 
 private:
     bool sempreIntestata_;

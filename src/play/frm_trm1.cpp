@@ -5,6 +5,7 @@
 
 #include "base/rounding.h"
 #include "platform/forms.h"
+#include "platform/keys.h"
 #include "play/tasti.h"
 
 namespace trameli {
@@ -50,8 +51,12 @@ frmTrm1::frmTrm1(trameli::Forms& forms, Servizi& servizi, Casuale& casuale)
       HScroll1(FrameSotto, "HScroll1", {3360, 360, 3375, 270}, VelocitaMinima, VelocitaMassima,
                SaltoVelocita),
       Label1(FrameSotto, "Label1", {3360, 720, 855, 255}, "lento"),
-      Label2(FrameSotto, "Label2", {5880, 720, 855, 255}, "veloce") {
+      Label2(FrameSotto, "Label2", {5880, 720, 855, 255}, "veloce"),
+      BottoneContinua(*this, "BottoneContinua", {0, 0, 4500, 1200}, "Continua") {
     mnuPausa.Click = [this] { mnuPausa_Click(); };
+    BottoneContinua.TabIndex(4);
+    BottoneContinua.Visible(false);
+    BottoneContinua.Click = [this] { BottoneContinua_Click(); };
 
     FrameSotto.Border(false);
     FrameSotto.AccessibleName("Sotto il tramelo");
@@ -84,7 +89,22 @@ void frmTrm1::Disponi() {
     FrameSotto.BackColor(Nearest(stato_.ColoreSfondo));
 }
 
+bool frmTrm1::Form_KeyDown(int keyCode, int /*shift*/) {
+    if (giro_.KeyDown(keyCode)) {
+        return true;
+    }
+    if (stato_.ModoInput == Tastiera || keyCode != KeySpace || !InGioco()) {
+        return false;
+    }
+    ApriScelta();
+    return true;
+}
+
 void frmTrm1::Form_KeyUp(int keyCode, int /*shift*/) {
+    giro_.KeyUp(keyCode);
+    if (!Loaded()) {
+        return;
+    }
     if (BottoneAvanti.Visible()) {
         BottoneAvanti.SetFocus();
         return;
@@ -107,14 +127,62 @@ void frmTrm1::Timer1_Timer() {
 }
 
 void frmTrm1::mnuPausa_Click() {
+    if (BottoneContinua.Visible()) {
+        BottoneContinua_Click();
+        return;
+    }
     const bool pausa = Timer1.Enabled();
     Timer1.Enabled(!pausa);
-    mnuPausa.Caption(pausa ? servizi_.Lingue.TestoLingua("0035", "Ri&prendi")
+    ScriviPausa(pausa);
+}
+
+void frmTrm1::ScriviPausa(bool ferma) {
+    mnuPausa.Caption(ferma ? servizi_.Lingue.TestoLingua("0035", "Ri&prendi")
                            : servizi_.Lingue.TestoLingua("0036", "&Pausa"));
+}
+
+void frmTrm1::ApriScelta() {
+    Timer1.Enabled(false);
+    ScriviPausa(true);
+    const double altezza = BottoneContinua.Height();
+    const Bounds continua{(Width() - BottoneContinua.Width()) / 2,
+                          pictureTramelo.Height() / 2 - altezza, BottoneContinua.Width(), altezza};
+    BottoneContinua.Place(continua);
+    BottoneMenu.Place({continua.Left, continua.Top + 5 * altezza / 4, continua.Width, altezza});
+    for (CommandButton* bottone : {&BottoneContinua, &BottoneMenu}) {
+        bottone->Visible(true);
+        bottone->ToFront();
+    }
+    giro_.Avvia({GiroOfferte::DiBottone(BottoneContinua, [this] { BottoneContinua_Click(); }),
+                 GiroOfferte::DiBottone(BottoneMenu, [this] { mnuEsci_Click(); })});
+}
+
+void frmTrm1::ChiudiScelta() {
+    giro_.Ferma();
+    BottoneContinua.Visible(false);
+    BottoneMenu.Visible(false);
+    ScriviPausa(false);
+}
+
+void frmTrm1::BottoneContinua_Click() {
+    ChiudiScelta();
+    pictureTramelo.SetFocus();
+    // The end of the wait before the first step starts the clock by itself.
+    Timer1.Enabled(!fineAttesa_);
+}
+
+Bounds frmTrm1::PostoBottoneMenu() const {
+    const Image& coppa = Image1(Image1.Count() - 1);
+    const double left = Image1(0).Left();
+    return {FrameSotto.Left() + left, FrameSotto.Top() + TopSoli,
+            coppa.Left() + coppa.Width() - left, coppa.Top() + coppa.Height() - TopSoli};
 }
 
 void frmTrm1::mnuNuovo_Click() {
     Timer1.Enabled(false);
+    if (BottoneContinua.Visible()) {
+        ChiudiScelta();
+    }
     Sgombra();
     GeneraTramelo();
     TuttiISoli();
@@ -183,7 +251,7 @@ void frmTrm1::AttendiEParti() {
         }
     }
     fineAttesa_.reset();
-    Timer1.Enabled(true);
+    Timer1.Enabled(!BottoneContinua.Visible());
 }
 
 }  // namespace trameli

@@ -24,8 +24,12 @@ public:
     HScrollBar HScroll1;                         ///< the speed
     Label Label1;                                ///< its slow end
     Label Label2;                                ///< its fast end
+    CommandButton BottoneContinua;               ///< ends the rest of a player with switches
 
 protected:
+    /// With switches, Space stops the clock and lets the player choose between going on and
+    /// leaving.
+    bool Form_KeyDown(int keyCode, int shift) override;
     void Form_KeyUp(int keyCode, int shift) override;
     /// The new pace takes effect at the next tick.
     void HScroll1_Change();
@@ -43,7 +47,13 @@ protected:
     /// The suns have run out: the same maze from zero, with all of them.
     void Sbagliato();
 
+    Bounds PostoBottoneMenu() const override;
+
 private:
+    void ApriScelta();
+    void ChiudiScelta();
+    void BottoneContinua_Click();
+    void ScriviPausa(bool ferma);
     void TuttiISoli();
     /// Leaves the player three seconds to look, then starts the clock.
     void AttendiEParti();

@@ -64,6 +64,7 @@ void FormTrm::MostraFrameTrameloRisolto() {
         BottoneAvanti.SetFocus();
         if (stato_.ModoInput == ScansioneAutomatica) {
             Timer1.Enabled(false);
+            OffriAvantiOMenu();
         }
         ++TrameliRisolti;
         return;

@@ -1,4 +1,6 @@
 // The maze of a play form, as it is made and drawn.
+#include <utility>
+
 #include "base/rounding.h"
 #include "drawing/muri_a_linee.h"
 #include "engine/ricette.h"
@@ -52,6 +54,10 @@ void FormTrm::AzzeraVariabili() {
     traccia_.Comincia(giocatore_.Percorso().PuntoIniziale);
     offerto_ = false;
     tenuto_ = false;
+    offerte_ = 0;
+    if (std::exchange(uscitaOfferta_, 0) > 0) {
+        MostraBottoneMenu(false);
+    }
 }
 
 void FormTrm::InserisciPartenza() {

@@ -8,6 +8,7 @@
 #include "base/rounding.h"
 #include "platform/forms.h"
 #include "platform/text.h"
+#include "shell/fasce.h"
 #include "shell/livelli.h"
 #include "shell/puntatori.h"
 
@@ -25,20 +26,6 @@ constexpr Colour Arancione = 33023;
 constexpr Colour Bianco = 16777215;
 constexpr Colour GrigioChiaro = 14737632;
 
-/// The levels that share a coloured band.
-struct Fascia {
-    int Primo;
-    int Ultimo;
-    double Top;
-    Colour Testo;
-};
-
-constexpr std::array<Fascia, 3> Fasce{{
-    {0, 4, 720, Rgb(0, 64, 0)},
-    {5, 7, 1800, Rgb(64, 0, 0)},
-    {8, 15, 2880, Rgb(0, 0, 64)},
-}};
-constexpr Fascia LivelliATempo = Fasce[1];
 constexpr double PrimoLeft = 240;
 constexpr double PassoLeft = 1200;
 
@@ -50,8 +37,6 @@ struct Bottone {
 };
 
 /// Start and exit.
-constexpr int Inizio = 0;
-constexpr int Uscita = 1;
 constexpr std::array<Bottone, 2> Bottoni{{
     {{6360, 4080, 3315, 1095}, "menu/inizio.svg", "Inizia il gioco", NumeroLivelli},
     {{6360, 5280, 3315, 1095}, "menu/fine.svg", "Esci dal programma", NumeroLivelli + 2},
@@ -89,7 +74,10 @@ FormMenu::FormMenu(trameli::Forms& forms, Servizi& servizi)
       Command1("Command1"),
       Timer1(*this, "Timer1", Ritardo),
       EssResizer1(*this),
-      servizi_(servizi) {
+      CorniceFrame(Frame1, "CorniceFrame"),
+      CorniceForm(*this, "CorniceForm"),
+      servizi_(servizi),
+      giro_(*this, "TimerScansione", servizi.Stato) {
     BackColor(Rgb(255, 255, 192));
 
     mnuConfigura.Enabled(forms.Knows("FormConfigura"));
@@ -184,6 +172,7 @@ void FormMenu::Form_Load() {
 
 void FormMenu::Form_Resize() {
     EssResizer1.Ridimensiona();
+    giro_.Mostra();
 }
 
 void FormMenu::Form_Activate() {
@@ -193,6 +182,14 @@ void FormMenu::Form_Activate() {
         // A key that comes before the timer must not choose the first level.
         Option1(servizi_.Stato.Livello).SetFocus();
     }
+}
+
+bool FormMenu::Form_KeyDown(int keyCode, int /*shift*/) {
+    return giro_.KeyDown(keyCode);
+}
+
+void FormMenu::Form_KeyUp(int keyCode, int /*shift*/) {
+    giro_.KeyUp(keyCode);
 }
 
 void FormMenu::Form_MouseMove() {
@@ -250,6 +247,12 @@ void FormMenu::Combo1_Click() {
     stato.FileUtente = ModuloPerIni::CartellaUtenti + stato.NomeUtente + ".ini";
     servizi_.ModuloPerIni.LeggiUtente();
     ImpostaUtente();
+    // Each user has a way of playing and a pace of his own.
+    if (stato.ModoInput == Tastiera) {
+        giro_.Ferma();
+    } else if (preparato_ && !giro_.InCorso()) {
+        AvviaScansione();
+    }
 }
 
 void FormMenu::Timer1_Timer() {
@@ -271,6 +274,7 @@ void FormMenu::Timer1_Timer() {
     Timer1.Enabled(false);
     // Where the keyboard starts: one stroke away from the neighbouring levels and from the start.
     Option1(stato.Livello).SetFocus();
+    AvviaScansione();
 }
 
 void FormMenu::mnuConfigura_Click() {

@@ -11,6 +11,8 @@
 #include "platform/shape.h"
 #include "platform/timer.h"
 #include "scaling/ess_resizer.h"
+#include "shell/cornice.h"
+#include "shell/giro_offerte.h"
 #include "shell/servizi.h"
 
 namespace trameli {
@@ -41,6 +43,10 @@ public:
     Timer Timer1;
     EssResizer EssResizer1;
 
+    // Round what is on offer to players with switches, in the frame of the levels and outside it.
+    Cornice CorniceFrame;
+    Cornice CorniceForm;
+
     /// Brings the controls into line with the settings.
     void ImpostaUtente();
 
@@ -48,6 +54,8 @@ protected:
     void Form_Load() override;
     void Form_Resize() override;
     void Form_Activate() override;
+    bool Form_KeyDown(int keyCode, int shift) override;
+    void Form_KeyUp(int keyCode, int shift) override;
     void Form_MouseMove() override;
     void Form_QueryClose() override;
 
@@ -74,9 +82,22 @@ private:
     void ScegliUtente();
     void EvidenziaLivello();
     void AvviaGioco();
+    void AvviaScansione();
+    void OffriLivelli(std::size_t fascia);
+    void ProssimoUtente();
+    void ChiediUscita();
+    template <typename Controllo>
+    GiroOfferte::Offerta OffertaDi(Cornice& cornice, const Controllo& controllo,
+                                   std::function<void()> prendi);
     void Cedi(const char* form);
 
+    // The indices of the two buttons.
+    static constexpr int Inizio = 0;
+    static constexpr int Uscita = 1;
+
     Servizi& servizi_;
+    GiroOfferte giro_;
+    int durataGiro_ = 0;      ///< paces that the round of the whole window takes
     bool preparato_ = false;  ///< the timer has run; it does so once per loading
 };
 

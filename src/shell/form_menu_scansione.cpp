@@ -1,0 +1,78 @@
+// The menu for players with switches: what is on offer, and in which order.
+#include <array>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "shell/fasce.h"
+#include "shell/form_menu.h"
+
+namespace trameli {
+
+namespace {
+
+constexpr int PrimaDelGiro = 2;  // paces: whoever has just taken something needs a moment to look
+
+}  // namespace
+
+/// The round of the whole window. It begins with the start, so that going on is one press.
+void FormMenu::AvviaScansione() {
+    Command1(Uscita).Caption("");
+    const std::array<const Shape*, Fasce.size()> riquadri{&Shape1, &Shape2, &Shape3};
+    std::vector<GiroOfferte::Offerta> giro;
+    giro.push_back(OffertaDi(CorniceForm, Command1(Inizio), [this] { Command1_Click(Inizio); }));
+    for (std::size_t i = 0; i < Fasce.size(); ++i) {
+        if (Option1(Fasce.at(i).Primo).Enabled()) {
+            giro.push_back(
+                OffertaDi(CorniceFrame, *riquadri.at(i), [this, i] { OffriLivelli(i); }));
+        }
+    }
+    if (Combo1.Visible()) {
+        giro.push_back(OffertaDi(CorniceForm, Combo1, [this] { ProssimoUtente(); }));
+    }
+    giro.push_back(OffertaDi(CorniceForm, Command1(Uscita), [this] { ChiediUscita(); }));
+    giro.front().Durata = PrimaDelGiro;
+    durataGiro_ = static_cast<int>(giro.size()) + 1;
+    giro_.Avvia(std::move(giro));
+}
+
+/// The levels of a band, and the band itself once more as the way back.
+void FormMenu::OffriLivelli(std::size_t fascia) {
+    std::vector<GiroOfferte::Offerta> giro;
+    for (int livello = Fasce.at(fascia).Primo; livello <= Fasce.at(fascia).Ultimo; ++livello) {
+        giro.push_back(OffertaDi(CorniceFrame, Option1(livello), [this, livello] {
+            Option1(livello).Value(true);
+            AvviaScansione();
+        }));
+    }
+    const std::array<const Shape*, Fasce.size()> riquadri{&Shape1, &Shape2, &Shape3};
+    giro.push_back(OffertaDi(CorniceFrame, *riquadri.at(fascia), [this] { AvviaScansione(); }));
+    giro.front().Durata = PrimaDelGiro;
+    giro_.Avvia(std::move(giro));
+}
+
+void FormMenu::ProssimoUtente() {
+    Combo1.ListIndex((Combo1.ListIndex() + 1) % Combo1.ListCount());
+}
+
+/// A press that was not meant must not end the program: it takes a second one, for which there is
+/// as much time as the whole round takes.
+void FormMenu::ChiediUscita() {
+    Command1(Uscita).Caption(
+        servizi_.Lingue.TestoLingua("0052", "Premi ancora una volta per uscire"));
+    GiroOfferte::Offerta uscita =
+        OffertaDi(CorniceForm, Command1(Uscita), [this] { Command1_Click(Uscita); });
+    uscita.Durata = durataGiro_;
+    giro_.Avvia({std::move(uscita)}, [this] { AvviaScansione(); });
+}
+
+template <typename Controllo>
+GiroOfferte::Offerta FormMenu::OffertaDi(Cornice& cornice, const Controllo& controllo,
+                                         std::function<void()> prendi) {
+    return {[&cornice, &controllo](bool offerta) {
+                offerta ? cornice.Mostra(controllo.Place()) : cornice.Nascondi();
+            },
+            std::move(prendi)};
+}
+
+}  // namespace trameli
