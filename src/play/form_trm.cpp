@@ -85,6 +85,7 @@ FormTrm::FormTrm(trameli::Forms& forms, Servizi& servizi, Casuale& casuale,
     BottoneAvanti.Click = [this] { BottoneAvanti_Click(); };
     BottoneAvanti.GotFocus = [this] { BottoneAvanti_GotFocus(); };
     BottoneMenu.TabIndex(6);
+    BottoneMenu.Font(ScritteGrandi);
     BottoneMenu.Visible(false);
     BottoneMenu.Click = [this] { mnuEsci_Click(); };
     StatusBar1.AccessibleName("Barra di stato");
@@ -134,6 +135,7 @@ void FormTrm::Form_QueryClose() {
 void FormTrm::MostraBottoneMenu(bool visibile) {
     if (visibile) {
         BottoneMenu.Place(PostoBottoneMenu());
+        BottoneMenu.BackColor(GiroOfferte::Evidenza);
         BottoneMenu.ToFront();
     }
     BottoneMenu.Visible(visibile);

@@ -55,6 +55,7 @@ frmTrm1::frmTrm1(trameli::Forms& forms, Servizi& servizi, Casuale& casuale)
       BottoneContinua(*this, "BottoneContinua", {0, 0, 4500, 1200}, "Continua") {
     mnuPausa.Click = [this] { mnuPausa_Click(); };
     BottoneContinua.TabIndex(4);
+    BottoneContinua.Font(ScritteGrandi);
     BottoneContinua.Visible(false);
     BottoneContinua.Click = [this] { BottoneContinua_Click(); };
 
