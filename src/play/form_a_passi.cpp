@@ -197,7 +197,7 @@ void FormAPassi::MostraOfferta() {
 }
 
 void FormAPassi::RimettiOfferta() {
-    if (offerto_) {
+    if (offerto_ && uscitaOfferta_ == 0) {
         MostraOfferta();
     }
 }

@@ -28,7 +28,7 @@ namespace trameli {
 class FormArchivio;
 
 /// On the buttons for players with switches.
-inline const Font ScritteGrandi{"Arial", 18, true};
+inline const Font ScritteGrandi{"Arial", 14.25, true};
 
 /// What a play form has of its own in the window that all share. Places are those before the first
 /// activation moves the controls, in twips.
