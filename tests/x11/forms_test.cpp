@@ -201,6 +201,7 @@ TEST_F(FormsOnX11, ThatAreDestroyedFromOutsideEndTheProgramAndBoxesAreClosed) {
     const auto destroy = [](const QWidget& window) {
         Keyboard({"windowclose", QString::number(window.winId())});
     };
+    Scripts["A"].Unload = [](ScriptedForm& form) { form.Forms().Show("B"); };
     Program.Show("A");
     ASSERT_NO_FATAL_FAILURE(AwaitFront("A"));
     QTimer eye;
