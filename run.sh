@@ -15,6 +15,8 @@ cd -P -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")"
 game=build/release/src/trameli
 packages=("${packages_build[@]}" "${packages_run[@]}")
 display=$(kind_of_display)
+# What begins with two dashes opens no window.
+[[ ${1:-} != --* ]] || display=chosen
 case $display in
     wayland) packages+=("${packages_wayland[@]}") ;;
     none) packages+=("${packages_display[@]}") ;;

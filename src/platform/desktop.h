@@ -11,7 +11,7 @@ namespace trameli {
 /// takes the arguments that belong to the window system out of the command line.
 class Desktop {
 public:
-    /// Ends the process with a message on the terminal if there is no display to connect to.
+    /// Ends the process with one line on standard error and code 2 if no display can be opened.
     Desktop(int& argc, char** argv);
     ~Desktop();
     Desktop(const Desktop&) = delete;

@@ -19,6 +19,7 @@
 #include "platform/qt/graphics.h"
 #include "platform/qt/local_file_system.h"
 #include "platform/qt/mixer_sounds.h"
+#include "platform/qt/quiet_start.h"
 #include "platform/qt/toolkit.h"
 
 namespace trameli {
@@ -56,7 +57,10 @@ Desktop::Desktop(int& argc, char** argv) {
     const std::jthread fonts([] { FcInit(); });
     QApplication::setApplicationName(QStringLiteral("trameli"));
     QApplication::setDesktopFileName(QStringLiteral("trameli"));
-    native_ = std::make_unique<Native>(argc, argv);
+    {
+        const QuietStart quiet;
+        native_ = std::make_unique<Native>(argc, argv);
+    }
     PrepareToolkit();
     // Drawing the icon and having it framed would only hold up the first window.
     QTimer::singleShot(FirstPicture, &native_->Application,
