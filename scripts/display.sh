@@ -2,6 +2,8 @@
 # Finds out whether there is a display, and makes one where there is none or another one is wanted.
 # Sourced.
 
+window_manager_settings=$(realpath -- "$(dirname -- "${BASH_SOURCE[0]}")/openbox.xml")
+
 # Whether something answers behind $DISPLAY. The variable alone says little: it outlives its
 # server in a detached terminal.
 x11_answers() {
@@ -66,23 +68,31 @@ on_its_own() {
     exec setpriv --pdeathsig TERM setsid "$@"
 }
 
+# As long as the protocol allows, and without letters that look alike.
+random_password() {
+    head -c 128 /dev/urandom | base64 -w 0 | tr -dc 'a-km-np-z2-9' | cut -c 1-8
+}
+
 # Each attempt lets the server itself find out whether the number and its port are free, so that two
 # starts at the same moment cannot take the same one.
 start_viewed_server() {
-    local port
+    local port password
+    password=$(random_password)
+    vncpasswd -f <<<"$password" >"$room/password"
     for number in {1..50}; do
         port=$((5900 + number))
-        # Nobody asks for a password, which is good only because nobody from outside can connect:
-        # the viewers' port is on the loopback address and the X protocol has no port at all.
+        # Nobody from outside can connect: the viewers' port is on the loopback address and the X
+        # protocol has no port at all. From inside every user of this machine can, so viewers need
+        # the password and programs the cookie.
         # A viewer must not change the size either; the game lays itself out for one size.
-        on_its_own Xvnc ":$number" -rfbport "$port" -localhost -SecurityTypes None -nolisten tcp \
-            -geometry "$geometry" -depth 24 -AlwaysShared -AcceptSetDesktopSize=0 \
+        on_its_own Xvnc ":$number" -rfbport "$port" -localhost -nolisten tcp -auth "$XAUTHORITY" \
+            -SecurityTypes VncAuth -PasswordFile "$room/password" -geometry "$geometry" -depth 24 -AlwaysShared -AcceptSetDesktopSize=0 \
             -desktop Trameli -displayfd 3 3>"$room/number" >"$room/server.log" 2>&1 &
         server=$!
         if wait_for_file "$room/number" "$server"; then
             cat >&2 <<END
 There is no display here, so a virtual one of $geometry was started.
-A VNC viewer on this machine connects to localhost:$port.
+A VNC viewer on this machine connects to localhost:$port. The password of this run is $password
 END
             return
         fi
@@ -96,7 +106,8 @@ END
 
 # The game starts when the window manager is ready, so that its first window is placed by it.
 start_window_manager() {
-    on_its_own openbox --startup "sh -c 'echo ready >\"\$TRAMELI_ROOM/manager\"'" \
+    on_its_own openbox --config-file "$window_manager_settings" \
+        --startup "sh -c 'echo ready >\"\$TRAMELI_ROOM/manager\"'" \
         >"$room/manager.log" 2>&1 &
     manager=$!
     wait_for_file "$room/manager" "$manager" && return
@@ -123,7 +134,8 @@ stop_display() {
 }
 
 # Runs a command on a display of its own, which ends with it, and returns its exit code. `$1` sets
-# `server` and `number`, and may keep files in `$room`; `$2` is openbox or none.
+# `server` and `number`, and may keep files in `$room`; `$2` is openbox or none. The server is to be
+# given the file $XAUTHORITY.
 run_on_own_display() {
     local start_server=$1 window_manager=$2
     shift 2
@@ -135,9 +147,15 @@ run_on_own_display() {
     trap 'stop_display; exit 130' INT
     trap 'stop_display; exit 143' TERM
 
+    # A cookie for whatever number the server finds.
+    export XAUTHORITY=$room/cookie
+    {
+        printf '\xff\xff\0\0\0\0\0\x12MIT-MAGIC-COOKIE-1\0\x10'
+        head -c 16 /dev/urandom
+    } >"$XAUTHORITY"
     "$start_server"
     export DISPLAY=":$number" QT_QPA_PLATFORM=xcb TRAMELI_ROOM=$room
-    unset WAYLAND_DISPLAY XAUTHORITY
+    unset WAYLAND_DISPLAY
     [[ $window_manager == none ]] || start_window_manager
     unset TRAMELI_ROOM
     # Not in the foreground: the shell would answer a signal only after the command's end.

@@ -15,10 +15,10 @@ packages_run=(qt6-qpa-plugins qt6-translations-l10n libqt6svg6 libsdl2-mixer-2.0
     libcups2 timgm6mb-soundfont fonts-comic-neue fonts-liberation)
 # Only for a session that has Wayland and no X11.
 packages_wayland=(qt6-wayland)
-# Only where there is no display: a virtual one with a window manager.
-packages_display=(tigervnc-standalone-server openbox)
-# The tests bring their own X servers, with and without a window manager.
-packages_test=(libgtest-dev xvfb openbox xdotool)
+# Only where there is no display: a virtual one with its password, and a window manager.
+packages_display=(tigervnc-standalone-server tigervnc-tools openbox)
+# The tests bring their own X servers, with and without a window manager, and look at that display.
+packages_test=(libgtest-dev xvfb xdotool "${packages_display[@]}")
 # The start of the game is measured in a real window.
 packages_bench=(libbenchmark-dev xvfb openbox)
 
@@ -44,8 +44,8 @@ $1
 Needed are a C++20 compiler, CMake 3.25 or later, Ninja, Qt 6.4 or later with Widgets, Svg and
 its X11 or Wayland plugin and its translations, libxcb, Fontconfig, CUPS 2.3 or later (its library), and SDL2_mixer 2.6 or later with
 FluidSynth; the fonts Comic Neue and Liberation Sans (or Comic Sans MS and Arial); for the music a General MIDI
-soundfont; without a display also TigerVNC's X server and the window manager openbox; for tests and
-benchmarks GoogleTest, Google Benchmark, Xvfb, openbox and xdotool.
+soundfont; without a display also TigerVNC's X server with vncpasswd and the window manager openbox; for tests
+and benchmarks both of these, GoogleTest, Google Benchmark, Xvfb and xdotool.
 
 Missing, by Debian's names:
   ${*:2}

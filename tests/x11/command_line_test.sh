@@ -30,4 +30,6 @@ unset WAYLAND_DISPLAY
 expect 2 '' "*neither DISPLAY nor *" -u DISPLAY -u QT_QPA_PLATFORM "$game"
 expect 2 '' "*no display*DISPLAY is ':nowhere'*" "$game" -display :nowhere
 expect 2 '' "*no display*" QT_QPA_PLATFORM=nothing "$game"
+# The server's own library has something to say about that, too.
+expect 2 '' '*no display*' XAUTHORITY=/dev/null "$game"
 exit "$failed"

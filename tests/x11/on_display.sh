@@ -27,7 +27,7 @@ start_test_server() {
     unset SESSION_MANAGER
     # The server finds a free number itself, so that any number of these can run at once. Keys
     # repeat soon, and faster than the toolkit always keeps up with.
-    on_its_own Xvfb -displayfd 3 -nolisten tcp -noreset -screen 0 1366x768x24 -ar1 100 -ar2 5 \
+    on_its_own Xvfb -displayfd 3 -auth "$XAUTHORITY" -nolisten tcp -noreset -screen 0 1366x768x24 -ar1 100 -ar2 5 \
         3>"$room/number" 2>/dev/null &
     server=$!
     wait_for_file "$room/number" "$server"
