@@ -82,7 +82,7 @@ void Program::RegistraForm() {
         return std::make_unique<FormFinale>(forms, servizi_, *casuale_);
     });
     forms_.Register("frmStampa", [this](trameli::Forms& forms) {
-        return std::make_unique<frmStampa>(forms, servizi_);
+        return std::make_unique<frmStampa>(forms, servizi_, statoStampa_);
     });
     forms_.Register("frmTrm0", [this](trameli::Forms& forms) {
         return std::make_unique<frmTrm0>(forms, servizi_, *casuale_);

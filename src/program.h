@@ -7,6 +7,7 @@
 #include "platform/forms.h"
 #include "platform/services.h"
 #include "printing/stampa_con_finestra.h"
+#include "printing/stato_stampa.h"
 #include "shell/lingue.h"
 #include "shell/modulo_navigate.h"
 #include "shell/modulo_per_ini.h"
@@ -47,6 +48,7 @@ private:
     ModuloPerIni moduloPerIni_;
     Suoni suoni_;
     ModuloNavigate moduloNavigate_;
+    StatoStampa statoStampa_;
     StampaConFinestra stampa_;
     Servizi servizi_;
     trameli::Forms forms_;  // last: the forms work with all of the above to their end

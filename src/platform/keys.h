@@ -6,6 +6,7 @@ namespace trameli {
 /// The keys that the game asks for. Other keys arrive with other codes, 0 where they have none.
 enum KeyCode : int {
     KeyEnter = 13,
+    KeyEscape = 27,
     KeySpace = 32,
     KeyLeft = 37,
     KeyUp = 38,

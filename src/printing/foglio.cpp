@@ -144,8 +144,8 @@ Bounds Miniatura(const SheetSize& foglio) {
 }
 
 Bounds FoglioIngrandito(double larghezza, double altezza, float rapporto) {
-    const double massimaLarghezza = Nearest(larghezza - 2 * BordoZoom);
-    const double massimaAltezza = Nearest(altezza - 2 * BordoZoom);
+    const double massimaLarghezza = std::max(0, Nearest(larghezza - 2 * BordoZoom));
+    const double massimaAltezza = std::max(0, Nearest(altezza - 2 * BordoZoom));
     Bounds foglio{0, 0, massimaLarghezza, massimaLarghezza / rapporto};
     if (foglio.Height > massimaAltezza) {
         foglio.Height = massimaAltezza;

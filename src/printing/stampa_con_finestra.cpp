@@ -7,7 +7,7 @@ namespace trameli {
 void StampaConFinestra::StampaFPB(PictureBox& sorgente, int x, int y, int w, int h,
                                   int orientamento, const std::string& nomeDocumento) {
     static_cast<frmStampa&>(forms_.Load("frmStampa"))
-        .StampaFPB(sorgente, x, y, w, h, orientamento, nomeDocumento);
+        .StampaFPB(&sorgente, x, y, w, h, orientamento, nomeDocumento);
 }
 
 }  // namespace trameli

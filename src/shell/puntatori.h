@@ -15,6 +15,11 @@ inline PointerImage FrecciaBlu() {
     return {{"puntatori/freccia_blu.svg"}, 3, 1};
 }
 
+/// The magnifying glass over what can be enlarged; its middle points.
+inline PointerImage Lente() {
+    return {{"puntatori/lente.svg"}, 9, 8};
+}
+
 /// The program's icon; it has no tip and points with its middle.
 inline PointerImage PuntatoreIcona() {
     return {{"icona/trameli.svg"}, 16, 16};
