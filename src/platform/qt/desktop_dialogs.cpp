@@ -8,6 +8,7 @@
 #include <QPointer>
 
 #include "platform/qt/convert.h"
+#include "platform/qt/run_dialog.h"
 
 namespace trameli {
 
@@ -48,18 +49,6 @@ Answer Closed(Buttons buttons) {
                                        : Answer::Cancel;
 }
 
-/// Runs a dialog until it is closed, by whomever. It belongs to the window in front and can go with
-/// it meanwhile.
-void Run(QDialog& dialog) {
-    // A dialog takes the keyboard by itself. Where nobody manages windows, nobody else gives it
-    // back.
-    const QPointer<QWidget> before = QApplication::activeWindow();
-    dialog.exec();
-    if (before && before->isVisible()) {
-        before->activateWindow();
-    }
-}
-
 }  // namespace
 
 Answer DesktopDialogs::Message(const std::string& text, const std::string& title, Icon icon,
@@ -67,7 +56,7 @@ Answer DesktopDialogs::Message(const std::string& text, const std::string& title
     const QPointer box = new QMessageBox(ToQt(icon), ToQt(title), ToQt(text), ToQt(buttons),
                                          QApplication::activeWindow());
     box->setTextFormat(Qt::PlainText);
-    Run(*box);
+    RunDialog(*box);
     const int pressed = box ? box->result() : QMessageBox::NoButton;
     delete box;
     switch (pressed) {
@@ -91,7 +80,7 @@ std::optional<Colour> DesktopDialogs::ChooseColour() {
     for (int i = 0; i < QColorDialog::customCount(); ++i) {
         QColorDialog::setCustomColor(i, Qt::black);
     }
-    Run(*dialog);
+    RunDialog(*dialog);
     std::optional<Colour> chosen;
     if (dialog && dialog->result() == QDialog::Accepted) {
         const QColor colour = dialog->selectedColor();
