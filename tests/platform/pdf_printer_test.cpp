@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "platform/bare_program.h"
 #include "platform/qt/desktop_printers.h"
 #include "platform/qt/environment.h"
 #include "support/stage.h"
@@ -13,7 +14,7 @@ namespace fs = std::filesystem;
 namespace trameli {
 namespace {
 
-class PdfPrinterTest : public testing::Test {
+class PdfPrinterTest : public BareProgram {
 protected:
     PdfPrinterTest() { qputenv("CUPS_SERVER", Bytes(Folder.Path() / "no socket")); }
 
@@ -84,6 +85,18 @@ TEST_F(PdfPrinterTest, MakesAFileOfEachDocumentAndShowsIt) {
     EXPECT_TRUE(page.starts_with("%PDF-") && page.find("%%EOF") != std::string::npos);
     EXPECT_NE(page.find("/MediaBox [0 0 842"), std::string::npos) << "landscape";
     EXPECT_NE(page.find("/Width 21\n/Height 2"), std::string::npos) << "the picture's own pixels";
+}
+
+TEST_F(PdfPrinterTest, PrintsWhatAFormShows) {
+    const PixelSize size = Bring().ClientPixels();
+    Machine.FormOrientation(PrinterSettings::Landscape);
+    Machine.PrintForm(TheForm, "Form");
+    while (Shown.empty()) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    const std::string page = BytesOf(Shown[0]);
+    EXPECT_NE(page.find("/MediaBox [0 0 842"), std::string::npos);
+    EXPECT_NE(page.find("/Width " + std::to_string(size.Width)), std::string::npos);
 }
 
 TEST_F(PdfPrinterTest, LeavesNothingBehindWhenTheDiskIsFull) {

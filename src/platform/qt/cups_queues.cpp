@@ -108,12 +108,16 @@ std::optional<QueueList> ListQueues(CupsLibrary& cups) {
             list.Names.emplace_back(name);
         }
     }
-    const char* own = cups.cupsGetDefault2(connection.Native());
-    // A user can choose a queue with a set of options, "queue/set".
-    const std::string_view queue = std::string_view(own ? own : "");
-    const std::string wanted(queue.substr(0, queue.find('/')));
-    if (std::find(list.Names.begin(), list.Names.end(), wanted) != list.Names.end()) {
-        list.Default = wanted;
+    const char* users = cups.cupsGetDefault2(connection.Native());
+    const auto systems = connection.Ask(IPP_OP_CUPS_GET_DEFAULT, {}, {"printer-name"});
+    for (const std::string& own :
+         {std::string(users ? users : ""), CupsAnswer(cups, systems.get()).Text("printer-name")}) {
+        // A user can choose a queue with a set of options, "queue/set".
+        const std::string queue = own.substr(0, own.find('/'));
+        if (std::find(list.Names.begin(), list.Names.end(), queue) != list.Names.end()) {
+            list.Default = queue;
+            break;
+        }
     }
     return list;
 }
