@@ -68,19 +68,20 @@ void AddOptions(const QueueJob& job, Options& options) {
 }
 
 bool SendDocument(const CupsLibrary& cups, http_t* http, int id, const QueueJob& job,
-                  const std::function<void()>& progress) {
+                  const std::function<bool()>& progress) {
     constexpr int last = 1;
     const char* queue = job.Queue.c_str();
     http_status_t status =
         cups.cupsStartDocument(http, queue, id, JobName(job.Name).c_str(), Pdf, last);
     std::string_view rest = job.Pdf;
-    while (status == HTTP_STATUS_CONTINUE && !rest.empty()) {
+    bool wanted = progress();
+    while (status == HTTP_STATUS_CONTINUE && wanted && !rest.empty()) {
         const std::size_t length = std::min(rest.size(), Chunk);
         status = cups.cupsWriteRequestData(http, rest.data(), length);
         rest.remove_prefix(length);
-        progress();
+        wanted = progress();
     }
-    return status == HTTP_STATUS_CONTINUE &&
+    return status == HTTP_STATUS_CONTINUE && wanted &&
            cups.cupsFinishDocument(http, queue) <= IPP_STATUS_OK_CONFLICTING;
 }
 
@@ -140,7 +141,7 @@ QueueAnswer AskQueue(CupsLibrary& cups, const std::string& name) {
     return {.Answered = true, .Facts = FactsFrom(cups, CupsAnswer(cups, answer.get()), name)};
 }
 
-bool SubmitJob(CupsLibrary& cups, const QueueJob& job, const std::function<void()>& progress) {
+bool SubmitJob(CupsLibrary& cups, const QueueJob& job, const std::function<bool()>& progress) {
     if (!cups.Load()) {
         return false;
     }
@@ -152,7 +153,6 @@ bool SubmitJob(CupsLibrary& cups, const QueueJob& job, const std::function<void(
     AddOptions(job, options);
     const int id = cups.cupsCreateJob(connection.Native(), job.Queue.c_str(),
                                       JobName(job.Name).c_str(), options.Count(), options.All());
-    progress();
     if (id == 0) {
         return false;
     }

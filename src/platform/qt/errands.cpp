@@ -65,7 +65,7 @@ void Errands::Send(Work work, std::function<void(bool)> then) {
         std::thread([underWay = underWay_, work = std::move(work), then]() mutable {
             bool result = false;
             try {
-                result = work([] {});
+                result = work([] { return true; });
             } catch (const std::exception&) {
                 // Out of memory, say: the work has failed.
             }
@@ -81,12 +81,17 @@ bool Errands::Run(const Work& work) {
     struct Wait {
         QEventLoop* Loop = nullptr;  ///< nothing once nobody waits any more
         bool Result = false;
+        std::atomic<bool> GivenUp = false;
         std::atomic<Now::time_point> LastSign{Now::now()};
     };
     const auto wait = std::make_shared<Wait>();
     QEventLoop loop;
     wait->Loop = &loop;
-    Send([work, wait](const Progress&) { return work([wait] { wait->LastSign = Now::now(); }); },
+    const Progress progress = [wait] {
+        wait->LastSign = Now::now();
+        return !wait->GivenUp;
+    };
+    Send([work, progress](const Progress&) { return work(progress); },
          [wait](bool result) {
              wait->Result = result;
              if (wait->Loop) {
@@ -96,6 +101,7 @@ bool Errands::Run(const Work& work) {
     QTimer watch;
     QObject::connect(&watch, &QTimer::timeout, &loop, [&wait, &loop] {
         if (Now::now() - wait->LastSign.load() > Standstill) {
+            wait->GivenUp = true;
             loop.quit();
         }
     });

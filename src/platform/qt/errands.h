@@ -11,8 +11,9 @@ namespace trameli {
 /// so it must share nothing with others but what it keeps alive itself.
 class Errands {
 public:
-    /// Told by the work now and then that it goes on.
-    using Progress = std::function<void()>;
+    /// Told by the work now and then that it goes on. False if nobody waits for it any more; then
+    /// it must come to nothing.
+    using Progress = std::function<bool()>;
     using Work = std::function<bool(const Progress&)>;
 
     Errands();

@@ -17,10 +17,12 @@ PrinterFacts Handover::AskForDefault() {
 }
 
 bool Handover::Print(const PrinterFacts& printer, const PrinterSettings& settings,
-                     const PrintedDocument& document, const std::function<void()>& progress) {
+                     const PrintedDocument& document, const std::function<bool()>& progress) {
     const PageFormat format = FormatOf(printer, settings);
     const std::string pdf = PdfOf(document.Pages, format, document.Name);
-    progress();
+    if (!progress()) {
+        return false;
+    }
     if (printer.Kind == PrinterFacts::Kinds::Files) {
         made_ = pdf_->Print(document.Name, time_, pdf).value_or(std::filesystem::path());
         return !made_.empty();

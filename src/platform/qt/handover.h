@@ -29,9 +29,9 @@ public:
 
     /// The default printer, asked for now; the one that makes files if there is no other.
     PrinterFacts AskForDefault();
-    /// False if the printer does not take the document.
+    /// False if the printer does not take the document, or `progress` said that nobody waits.
     bool Print(const PrinterFacts& printer, const PrinterSettings& settings,
-               const PrintedDocument& document, const std::function<void()>& progress);
+               const PrintedDocument& document, const std::function<bool()>& progress);
 
     /// Shows what was made, if it can be seen.
     void Show() const;

@@ -38,7 +38,7 @@ bool KnownQueues::AskFor(const std::string& queue) {
     return true;
 }
 
-bool KnownQueues::Submit(const QueueJob& job, const std::function<void()>& progress) {
+bool KnownQueues::Submit(const QueueJob& job, const std::function<bool()>& progress) {
     return SubmitJob(*cups_, job, progress);
 }
 

@@ -27,7 +27,7 @@ public:
     bool AskForAll();
     bool AskFor(const std::string& queue);
     /// Hands a job over; false if it was not taken.
-    bool Submit(const QueueJob& job, const std::function<void()>& progress);
+    bool Submit(const QueueJob& job, const std::function<bool()>& progress);
 
     QueueList All() const;
     /// Nothing for a queue that there is not.

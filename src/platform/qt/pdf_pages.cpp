@@ -28,7 +28,7 @@ QImage Greyed(const QImage& picture) {
 QImage PictureOf(const PixelBlock& block) {
     const QImage upsideDown(block.Bits, block.Width, block.Height, block.BytesPerRow,
                             QImage::Format_BGR888);
-    return upsideDown.mirrored().convertToFormat(QImage::Format_RGB888);
+    return upsideDown.mirrored().convertToFormat(QImage::Format_RGB32);
 }
 
 std::string PdfOf(const std::vector<PrintedPage>& pages, const PageFormat& format,
