@@ -23,6 +23,9 @@ public:
     /// A transparent label lets what lies under it show between its letters.
     void Transparent(bool transparent);
 
+    /// Twips that the caption takes on one line.
+    double TextWidth() const;
+
     /// Gives the letters a rim of this colour, so that they can be read on any ground.
     void Rim(Colour colour);
 

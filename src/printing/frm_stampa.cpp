@@ -1,5 +1,7 @@
 #include "printing/frm_stampa.h"
 
+#include <algorithm>
+
 #include "platform/forms.h"
 #include "platform/keys.h"
 #include "platform/screen.h"
@@ -13,6 +15,11 @@ namespace {
 constexpr Form::DesignSize Dimensioni{9360, 7845};
 constexpr int Sottile = 1;
 constexpr Colour Cornice = Rgb(128, 128, 128);
+constexpr Colour Avviso = Rgb(255, 255, 192);
+
+const Font Leggibile{"Arial", 9, false};
+const Font Grassetto{"Arial", 9, true};
+const Font Compatto{"Arial", 8.25, true};
 
 constexpr Limiti Margini{-2000, 2000};
 constexpr Limiti Misure{2, 2000};  // a 1 can only be typed
@@ -82,15 +89,62 @@ frmStampa::frmStampa(trameli::Forms& forms, Servizi& servizi, StatoStampa& stato
       stato_(stato),
       stampante_(servizi, stato) {
     Caption("Stampa");
+    Vesti();
     DisponiFoglio();
     DisponiAnteprima();
     DisponiStampante();
 }
 
+void frmStampa::Vesti() {
+    for (Control* const controllo : Controls()) {
+        if (auto* const visto = dynamic_cast<InteractiveControl*>(controllo)) {
+            visto->Font(Leggibile);
+        }
+    }
+    for (Label* const scritta : {&zLabel7, &zLabel9, &zLabel8, &zLabel2}) {
+        scritta->TextAlignment(Alignment::Right);
+    }
+    for (Label* const scritta :
+         {&zLabel1, &zLabel7, &zLabel9, &zLabel8, &zLabel2, &Label1, &lblLblNCopie}) {
+        scritta->Transparent(true);
+    }
+    lblStampaInCorso.TextAlignment(Alignment::Centre);
+    lblStampaInCorso.BackColor(Avviso);
+    lblStampaInCorso.Font(Compatto);
+    cmdStampa.Font(Grassetto);
+    shpFoglio.FillColor(White);
+    shpFoglio.ToBack();  // filled, it would hide the line
+}
+
 void frmStampa::Form_Load() {
+    Centra();
+}
+
+void frmStampa::Centra() {
     const Screen& schermo = Forms().Screen();
     Left((schermo.Width() - Width()) / 2);
     Top((schermo.Height() - Height()) / 2);
+}
+
+/// Widens the window as a whole, as far as the screen has room, where a label beside a box has a
+/// longer text in another language than there is room for.
+void frmStampa::AllargaPerLaLingua() {
+    double quanto = 1;
+    for (const Label* const scritta : {&zLabel1, &zLabel7, &zLabel9, &zLabel8, &zLabel2}) {
+        quanto = std::max(quanto, scritta->TextWidth() / scritta->Width());
+    }
+    quanto = std::min(quanto, Forms().Screen().Width() / Width());
+    if (quanto <= 1) {
+        return;
+    }
+    for (Control* const controllo : Controls()) {
+        if (auto* const posto = dynamic_cast<PlacedControl*>(controllo)) {
+            posto->Left(posto->Left() * quanto);
+            posto->Width(posto->Width() * quanto);
+        }
+    }
+    Width(Width() * quanto);
+    Centra();
 }
 
 void frmStampa::StampaFPB(const Sorgente& sorgente, int x, int y, int w, int h, int orientamento,
@@ -117,6 +171,7 @@ void frmStampa::StampaFPB(const Sorgente& sorgente, int x, int y, int w, int h, 
     if (!Loaded()) {
         return;
     }
+    AllargaPerLaLingua();
     txtPrY.Text(std::to_string(y));
     txtPrW.Text(std::to_string(w));
     txtPrH.Text(std::to_string(h));

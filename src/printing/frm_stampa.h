@@ -98,6 +98,9 @@ protected:
     void Form_Unload() override;
 
 private:
+    void Vesti();
+    void AllargaPerLaLingua();
+    void Centra();
     void DisponiFoglio();
     void DisponiAnteprima();
     void DisponiStampante();

@@ -17,7 +17,6 @@ constexpr int FinoAlFoglio = 4;
 }  // namespace
 
 void frmStampa::DisponiAnteprima() {
-    shpFoglio.FillColor(White);
     shpFoglioZoom.FillColor(White);
     picPreview.BackColor(White);
     picPreviewZoom.BackColor(White);

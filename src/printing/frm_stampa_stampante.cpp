@@ -89,6 +89,7 @@ void frmStampa::cmdProprieta_Click() {
 void frmStampa::cmdStampa_Click() {
     inLavoro_ = true;
     Abilita(false);
+    picPreview.TakesKeyboard(false);
     stato_.NomeStampante = stampanteScelta_;
     lblStampaInCorso.Left((picPreview.Width() - lblStampaInCorso.Width()) / 2);
     lblStampaInCorso.Top((picPreview.Height() - lblStampaInCorso.Height()) / 2);
@@ -107,6 +108,7 @@ void frmStampa::cmdStampa_Click() {
     }
     lblStampaInCorso.Visible(false);
     Abilita(true);
+    picPreview.TakesKeyboard(true);
     cmdStampa.SetFocus();
     if (!immagine_.Presente() && Aperta()) {
         // For another try. Nothing is told if it fails: that try would tell.

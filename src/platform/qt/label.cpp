@@ -23,6 +23,8 @@ public:
         setAutoFillBackground(true);
     }
 
+    QSize TextSize() const { return fontMetrics().size(Mnemonic(), text()); }
+
     Label* Owner = nullptr;
     bool Leads = false;  // to the control that comes next
     QColor Rim;          // not valid for letters without one
@@ -32,9 +34,7 @@ protected:
         QPainter painter(this);
         const auto write = [&](QPoint where) {
             painter.drawText(rect().translated(where),
-                             static_cast<int>(alignment()) | Qt::TextWordWrap |
-                                 (Leads ? Qt::TextShowMnemonic : 0),
-                             text());
+                             static_cast<int>(alignment()) | Qt::TextWordWrap | Mnemonic(), text());
         };
         if (Rim.isValid()) {
             // The text itself, moved a little all round, under the letters.
@@ -57,6 +57,8 @@ protected:
     }
 
 private:
+    int Mnemonic() const { return Leads ? Qt::TextShowMnemonic : 0; }
+
     QColor Ink() const {
         if (autoFillBackground()) {
             return InkOf(*this);
@@ -101,6 +103,10 @@ void Label::TextAlignment(Alignment alignment) {
 
 void Label::Transparent(bool transparent) {
     WidgetOf<LabelWidget>(*this).setAutoFillBackground(!transparent);
+}
+
+double Label::TextWidth() const {
+    return WidgetOf<LabelWidget>(*this).TextSize().width() * TwipsPerPixel(OwnerForm());
 }
 
 void Label::Rim(Colour colour) {
