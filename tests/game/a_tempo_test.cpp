@@ -145,16 +145,6 @@ protected:
     }
 };
 
-TEST_F(Attesa, CanBeLeftAtAnyMoment) {
-    for (const double quando : {UnIstante, 1.5, TreSecondi - UnIstante}) {
-        Aspetta(quando, [&] { Scegli("mnuEsci"); });
-        EXPECT_EQ(partita_.Aperte(), std::vector<std::string>{"FormMenu"});
-        partita_.Tempo.Advance(20);
-    }
-    Aspetta(1.5, [&] { Partita::Chiudi(Gioco()); });
-    EXPECT_TRUE(partita_.Gioco.Forms().Ended());
-}
-
 TEST_F(Attesa, EndsWithTheClockStartedWhateverElseHappens) {
     double fine = 0;
     Aspetta(1, [&] {

@@ -20,13 +20,6 @@ TEST(Cartelle, AreMadeWithTheirReadmeWhereOneIsMissing) {
     const std::string senzaTesti = "\r\n \r\n\r\n \r\n\r\n";
     EXPECT_EQ(BytesOf(disco.Leggimi()), senzaTesti);
 
-    Write(disco.Leggimi(), "mine");
-    EXPECT_TRUE(Partita(disco, senzaLingue).Avvia());
-    EXPECT_EQ(BytesOf(disco.Leggimi()), "mine");
-    std::filesystem::remove(disco.Leggimi());
-    EXPECT_TRUE(Partita(disco, senzaLingue).Avvia());
-    EXPECT_FALSE(std::filesystem::exists(disco.Leggimi()));
-
     std::filesystem::remove(disco.Utenti());
     EXPECT_TRUE(Partita(disco, senzaLingue).Avvia());
     EXPECT_TRUE(std::filesystem::is_directory(disco.Utenti()));

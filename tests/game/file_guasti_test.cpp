@@ -64,7 +64,10 @@ TEST_F(FileGuasti, OneThatCannotBeReadIsNotReplaced) {
 TEST_F(FileGuasti, OneThatCannotBeSavedIsNotReadBackUntilItIs) {
     Leggi();
     file_.NonScrive = true;
+    SalvaLivello(8);
     SalvaLivello(9);
+    ASSERT_EQ(messaggi_.Messages.size(), 1U) << "told once";
+    EXPECT_TRUE(messaggi_.Messages[0].Text.ends_with(disco_.FileDi("Anna").string()));
     Leggi("Bruno");
     EXPECT_EQ(stato_.Livello, 3);
     Leggi("ANNA");

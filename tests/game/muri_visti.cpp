@@ -60,15 +60,18 @@ QRgb Vista::Muro(const Posto& posto) const {
     return A(mezzo.x(), mezzo.y());
 }
 
-int QuantiPixel(const QImage& immagine, QRgb colore) {
-    int quanti = 0;
+Macchia MacchiaDi(const QImage& immagine, QRgb colore) {
+    Macchia macchia;
     for (int y = 0; y < immagine.height(); ++y) {
         const auto* riga = reinterpret_cast<const QRgb*>(immagine.constScanLine(y));
-        quanti += static_cast<int>(std::count_if(riga, riga + immagine.width(), [=](QRgb qui) {
-            return (qui | 0xFF000000U) == colore;
-        }));
+        for (int x = 0; x < immagine.width(); ++x) {
+            if ((riga[x] | 0xFF000000U) == colore) {
+                ++macchia.Quanti;
+                macchia.Posto |= QRect(x, y, 1, 1);
+            }
+        }
     }
-    return quanti;
+    return macchia;
 }
 
 MuriVisti::MuriVisti(const Vista& vista, QRgb colore)

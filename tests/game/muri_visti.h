@@ -3,6 +3,7 @@
 
 #include <QImage>
 #include <QPointF>
+#include <QRect>
 #include <array>
 #include <vector>
 
@@ -75,8 +76,12 @@ private:
     Pianta pianta_;
 };
 
-/// How many pixels have a colour.
-int QuantiPixel(const QImage& immagine, QRgb colore);
+/// How many pixels have a colour, and the smallest rectangle that holds them.
+struct Macchia {
+    int Quanti = 0;
+    QRect Posto;
+};
+Macchia MacchiaDi(const QImage& immagine, QRgb colore);
 
 /// The walls of a maze, as pixels of one colour.
 class MuriVisti {

@@ -22,7 +22,7 @@ class TracciaVista : public ConTavolo {
 protected:
     /// How many pixels show a colour of the settings.
     static int Quanti(const Tavolo& tavolo, Riga colore) {
-        return QuantiPixel(tavolo.Guarda().Immagine(), tavolo.Colore(colore));
+        return MacchiaDi(tavolo.Guarda().Immagine(), tavolo.Colore(colore)).Quanti;
     }
 };
 

@@ -44,7 +44,7 @@ protected:
     const Stato& stato_ = partita_.Gioco.Stato();
 };
 
-TEST_F(Utenti, OddNamesAreListedAsTheyAreAndOneAloneShowsNoList) {
+TEST_F(Utenti, OddNamesAreListedAsTheyAre) {
     fs::create_directories(disco_.Utenti() / "Cartella.ini");
     for (const char* nome : {"Zoë.ini", "_PREDEFINITO.INI", "a.b.ini", "con spazi .ini", ".ini",
                              "appunti.txt", "Anna.ini~", "Anna.ini.new"}) {
@@ -54,13 +54,6 @@ TEST_F(Utenti, OddNamesAreListedAsTheyAreAndOneAloneShowsNoList) {
     Nomi elenco = Elenco();
     std::sort(elenco.begin(), elenco.end());
     EXPECT_EQ(elenco, (Nomi{"", "Cartella", "Zoë", "[_PREDEFINITO]", "a.b", "con spazi "}));
-    EXPECT_TRUE(WidgetOf(Lista()).isVisible());
-
-    const Disco altro;
-    altro.Scrivi("_predefinito");
-    Partita partita(altro);
-    EXPECT_FALSE(WidgetOf(Trova<ComboBox>(partita.ApriMenu(), "Combo1")).isVisible());
-    EXPECT_EQ(partita.Gioco.Stato().NomeGiocatore, "_predefinito");
 }
 
 TEST_F(Utenti, CapitalsComeWithTheUserWhoWantsThemStayAndNameTheSameFiles) {
@@ -179,25 +172,6 @@ TEST_F(Utenti, ASaveMakesTheFolderAgainThatWasRemoved) {
     EXPECT_EQ(disco_.Leggi("_predefinito"), FileUtente().Con(RigaLivello, 9).Bytes());
     EXPECT_TRUE(fs::exists(disco_.Leggimi()));
     EXPECT_TRUE(partita_.Messaggi.Messages.empty());
-}
-
-TEST_F(Utenti, WhatCannotBeSavedIsToldOncePerRunAndKept) {
-    Form& gioco = partita_.ApriLivello(9);
-    fs::remove(disco_.FileDi("_predefinito"));
-    fs::create_directory(disco_.FileDi("_predefinito"));
-    for (const int spessore : {2, 3}) {
-        Form& form = spessore == 2 ? gioco : partita_.ApriLivello(9);
-        Tap(form, Qt::Key_L, Qt::ControlModifier);
-        Partita::Scegli(form, "mnuEsci");
-        partita_.Tempo.Advance(0.3);
-        // It is listed, and so chosen: what cannot be saved is not read back either.
-        EXPECT_EQ(Elenco(), Nomi{"[_predefinito]"});
-        EXPECT_EQ(stato_.SpessoreLinee, spessore);
-    }
-    ASSERT_EQ(partita_.Messaggi.Messages.size(), 1U);
-    EXPECT_NE(partita_.Messaggi.Messages[0].Text.find(disco_.FileDi("_predefinito").string()),
-              std::string::npos);
-    EXPECT_TRUE(fs::is_empty(disco_.FileDi("_predefinito")));
 }
 
 }  // namespace

@@ -1,10 +1,13 @@
-// No text is cut off, in any language and on any screen.
+// No text is cut off and nothing lies on anything else, in any language and on any screen.
 #include <gtest/gtest.h>
 
 #include <QMenuBar>
 #include <QRegularExpression>
 
 #include "lingue/testi_forniti.h"
+#include "platform/command_button.h"
+#include "platform/image.h"
+#include "platform/shape.h"
 #include "support/written_text.h"
 
 namespace trameli {
@@ -48,6 +51,34 @@ void ControllaFinestra(const Form& form) {
     }
 }
 
+/// The controls on the form itself are whole, and none covers another one.
+void ControllaPosti(const Form& form) {
+    EXPECT_LE(std::max(form.Width(), form.Height()), 32767);  // places have sixteen bits
+    std::vector<const VisualControl*> visti;
+    for (const Control* controllo : form.Controls()) {
+        const auto* const visto = dynamic_cast<const VisualControl*>(controllo);
+        // Shapes are there to have options on them.
+        if (visto && WidgetOf(*visto).isVisible() && !dynamic_cast<const Shape*>(visto)) {
+            visti.push_back(visto);
+        }
+    }
+    for (const VisualControl* uno : visti) {
+        const QWidget& qui = WidgetOf(*uno);
+        // The finish picture is cut off by the edge of its box where the finish is on the left; the
+        // band, as wide as the window, begins a little to the right.
+        EXPECT_TRUE(qui.parentWidget()->rect().contains(qui.geometry()) ||
+                    uno->Name() == "Image2" || uno->Name() == "FrameSotto")
+            << uno->Name();
+        EXPECT_FALSE(qui.geometry().isEmpty()) << uno->Name();
+        for (const VisualControl* altro : visti) {
+            const QWidget& la = WidgetOf(*altro);
+            EXPECT_FALSE(uno != altro && qui.parentWidget() == la.parentWidget() &&
+                         qui.geometry().intersects(la.geometry()))
+                << uno->Name() << " and " << altro->Name();
+        }
+    }
+}
+
 class TestiInteri : public testing::TestWithParam<std::tuple<PixelSize, std::string>> {};
 
 TEST_P(TestiInteri, AreSeenInEachWindow) {
@@ -68,7 +99,17 @@ TEST_P(TestiInteri, AreSeenInEachWindow) {
         Pump();
         partita.Tempo.Advance(4);
         Pump();
-        ControllaFinestra(partita.Finestra(nome));
+        Form& form = partita.Finestra(nome);
+        const bool diGioco = form.Name().starts_with("frmTrm");
+        if (diGioco) {  // as full as it can be
+            Trova<Image>(form, "Image1", 3).Visible(true);
+            Trova<CommandButton>(form, "BottoneAvanti").Visible(true);
+        }
+        ControllaFinestra(form);
+        // Elsewhere pages lie on each other, and a name on a cup.
+        if (diGioco || form.Name() == "FormMenu" || form.Name() == "FormAvvio") {
+            ControllaPosti(form);
+        }
     }
 }
 
@@ -79,6 +120,11 @@ std::string NomeCaso(const testing::TestParamInfo<TestiInteri::ParamType>& voce)
            std::to_string(voce.index % LingueFornite().size());
 }
 
+INSTANTIATE_TEST_SUITE_P(Schermi, TestiInteri,
+                         testing::Combine(testing::Values(PixelSize{3840, 2160},
+                                                          PixelSize{1080, 1920}),
+                                          testing::Values("italiano")),
+                         NomeCaso);
 INSTANTIATE_TEST_SUITE_P(Lingue, TestiInteri,
                          testing::Combine(testing::Values(PixelSize{800, 600}, PixelSize{1366, 768},
                                                           PixelSize{1920, 1080}),

@@ -39,22 +39,5 @@ TEST(InstancesTest, ThatWereKilledLeaveNothingBehind) {
     EXPECT_FALSE(FolderLock(folder.Path()).AnotherRuns());
 }
 
-TEST(InstancesTest, AreKnownInAReadOnlyFolderAndUnknownWithoutOne) {
-    const TemporaryFolder folder;
-    Write(folder.Path() / "file", "");
-    fs::permissions(folder.Path(), fs::perms(0555));
-    FolderLock first(folder.Path());
-    EXPECT_FALSE(first.AnotherRuns());
-    EXPECT_EQ(RunInChild([&] {
-                  // Where no folder can be made, two copies are better than none.
-                  return BecomeNobody() && FolderLock(folder.Path()).AnotherRuns() &&
-                                 !FolderLock(folder.Path() / "none").AnotherRuns() &&
-                                 !FolderLock(folder.Path() / "file").AnotherRuns()
-                             ? 0
-                             : 1;
-              }),
-              0);
-}
-
 }  // namespace
 }  // namespace trameli

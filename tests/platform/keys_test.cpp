@@ -110,7 +110,6 @@ TEST_F(KeysTest, HeldDownAreOneStroke) {
     const Row rows[] = {
         {Qt::Key_Right, A.Board, {"A KeyUp 39"}},
         {Qt::Key_Space, A.First, {"A KeyUp 32", "A First_KeyUp 32", "A First_Click"}},
-        {Qt::Key_Return, A.First, {"A KeyUp 13", "A First_KeyUp 13", "A First_Click"}},
         {Qt::Key_Enter, A.First, {"A KeyUp 13", "A First_KeyUp 13", "A First_Click"}},
     };
     for (const Row& row : rows) {

@@ -29,25 +29,6 @@ protected:
     }
 };
 
-TEST_F(PictureTest, DisabledControlsArePaleAndFramesNeedABorderForTheirCaption) {
-    Bring();
-    const Bounds place{300, 300, 3000, 900};
-    CommandButton button(TheForm, "Button", place, "Caption");
-    OptionButton option(TheForm, "Option", place, "Caption");
-    Frame frame(TheForm, "Frame", place, "Caption");
-    for (InteractiveControl* control :
-         std::initializer_list<InteractiveControl*>{&frame, &option, &button}) {
-        control->Font(Large);
-        control->BackColor(White);
-        control->Enabled(control == &frame);
-        EXPECT_EQ(Count(Look(*control), Black) > 0, control == &frame) << control->Name();
-        control->Visible(false);
-    }
-    frame.Visible(true);
-    frame.Border(false);
-    EXPECT_EQ(Share(Look(frame), White), 1);
-}
-
 TEST_F(PictureTest, TheFormsDrawingShowsThroughLabelsAndPictures) {
     Bring();
     TheForm.Canvas().FillBox(0, 0, 12000, 9000, Odd);

@@ -73,7 +73,7 @@ private:
 }  // namespace
 
 std::vector<WrittenText> TextsOf(QWidget& widget) {
-    Paper paper(widget.size());
+    Paper paper(widget.size().expandedTo({1, 1}));
     widget.render(&paper, {}, {}, QWidget::RenderFlags());
     // What lies beyond the edge of anything below cannot be seen either.
     QRectF shown = widget.rect();
