@@ -6,6 +6,7 @@
 #include "platform/form.h"
 #include "platform/qt/handover.h"
 #include "platform/qt/page_context.h"
+#include "platform/qt/printer_properties.h"
 
 namespace trameli {
 
@@ -20,7 +21,20 @@ public:
         settings = Fitting(facts_, settings);
         return true;
     }
-    bool Properties(PrinterSettings&, const PropertyTexts&) override { return false; }
+    bool Properties(PrinterSettings& settings, const PropertyTexts& texts) override {
+        PropertyChoices choices;
+        for (const Paper& paper : facts_.Papers) {
+            choices.Papers.emplace_back(paper.Key, NameOf(paper));
+        }
+        choices.CanColour = facts_.CanColour;
+        PrinterSettings fitting = Fitting(facts_, settings);
+        fitting.Copies = settings.Copies;  // which any printer can make, one job after the other
+        if (!AskProperties(fitting, facts_.Name, choices, texts)) {
+            return false;
+        }
+        settings = fitting;
+        return true;
+    }
 
 private:
     PrinterFacts facts_;
