@@ -7,6 +7,8 @@ cd -P -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")"
 . scripts/packages.sh
 # shellcheck source=scripts/build.sh
 . scripts/build.sh
+# shellcheck source=scripts/metadata.sh
+. scripts/metadata.sh
 
 pick=()
 if [[ $# -gt 0 ]]; then
@@ -14,6 +16,7 @@ if [[ $# -gt 0 ]]; then
 fi
 
 need_packages "${packages_build[@]}" "${packages_run[@]}" "${packages_test[@]}"
+check_metadata
 # The first failure ends the script, so that the summary at the end is the one that matters.
 for preset in check asan; do
     echo "== $preset" >&2
