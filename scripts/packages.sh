@@ -19,6 +19,9 @@ packages_wayland=(qt6-wayland)
 packages_display=(tigervnc-standalone-server tigervnc-tools openbox)
 # The tests bring their own X servers, with and without a window manager, and look at that display.
 packages_test=(libgtest-dev xvfb xdotool "${packages_display[@]}")
+# The package: what makes it and what looks it through. What is needed to build the game inside it
+# stands in debian/control once more, because Debian's tools read nothing else.
+packages_package=(dpkg-dev debhelper lintian desktop-file-utils appstream reuse)
 # The start of the game is measured in a real window.
 packages_bench=(libbenchmark-dev xvfb openbox)
 
