@@ -63,7 +63,8 @@ public:
     void Height(double twips);
     void ScaleWidth(double twips) { Width(twips); }
     void ScaleHeight(double twips) { Height(twips); }
-    /// Normal, minimised or maximised.
+    /// Normal, minimised or maximised. The desktop may take its time for the size that goes with
+    /// it: `Form_Resize` tells.
     enum WindowStates { Normal = 0, Minimised = 1, Maximised = 2 };
     int WindowState() const;
     void WindowState(int state);

@@ -151,6 +151,35 @@ TEST_F(FormsOnX11, OfTheirOwnSizeComeUpInIt) {
     EXPECT_EQ(seen.Widths, QSet<int>{WindowOf(Get("A")).width()}) << "no other size flashes up";
 }
 
+TEST_F(FormsOnX11, ModalOnesOfTheirOwnSizeGrowToTheScreenAndGoBack) {
+    Scripts["B"].Style = FormStyle::Windowed;
+    Scripts["B"].Load = [](ScriptedForm& form) {
+        form.Left(3000);
+        form.Top(1500);
+    };
+    Program.Show("A");
+    ASSERT_NO_FATAL_FAILURE(AwaitFront("A"));
+    QTimer::singleShot(0, [&] {
+        const QWidget& window = WindowOf(Get("B"));
+        EXPECT_TRUE(Until([&] { return Times("B Activate") > 0 && window.isActiveWindow(); }));
+        const QRect before(window.pos(), window.size());
+        for (int time = 0; time < 2; ++time) {
+            Get("B").WindowState(Form::Maximised);
+            EXPECT_TRUE(Until([&] { return FillsTheScreen("B"); }));
+            Get("B").WindowState(Form::Normal);
+            EXPECT_TRUE(Until([&] { return window.size() == before.size(); }));
+            SeenUpToNow("B");
+            EXPECT_EQ(window.size(), before.size());
+            // The frame of a maximised window is thinner, and the place goes by the frame.
+            EXPECT_LT((window.pos() - before.topLeft()).manhattanLength(), 8) << time;
+            Seen.clear();
+        }
+        Program.Unload(Get("B"));
+    });
+    Program.Show("B", Modality::Modal);
+    EXPECT_TRUE(Until([&] { return WindowOf(Get("A")).isActiveWindow(); }));
+}
+
 TEST_F(FormsOnX11, SeeAHeldKeyAsOneStroke) {
     Program.Show("A");
     ASSERT_NO_FATAL_FAILURE(AwaitFront("A"));

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
+#include <cstddef>
+#include <utility>
+#include <vector>
 
 namespace trameli {
 
@@ -56,6 +58,35 @@ private:
     }
 };
 
+/// Makes a row of the target of what was taken of the picture's rows, from the first column on that
+/// is needed: their bytes, or sums of them that are `Scale` times as large.
+template <std::uint32_t Scale, typename Value>
+void Across(const Lanes& columns, const Value* values, std::uint32_t* line) {
+    constexpr std::uint32_t whole = Scale * Whole;
+    const int first = columns.All.front().First;
+    for (int x = columns.Begin; x < columns.End; ++x) {
+        const Lane& column = columns.All[static_cast<std::size_t>(x - columns.Begin)];
+        const Value* from = values + static_cast<std::ptrdiff_t>(column.First - first) * Channels;
+        std::uint32_t blue = whole / 2;
+        std::uint32_t green = whole / 2;
+        std::uint32_t red = whole / 2;
+        const auto add = [&](std::uint32_t share) {
+            blue += from[0] * share;
+            green += from[1] * share;
+            red += from[2] * share;
+        };
+        if (column.Count == 1) {
+            add(Whole);
+        } else {
+            const std::uint16_t* const shares = columns.Shares.data() + column.Shares;
+            for (int i = 0; i < column.Count; ++i, from += Channels) {
+                add(shares[i]);
+            }
+        }
+        line[x] = 0xFF000000U | red / whole << 16 | green / whole << 8 | blue / whole;
+    }
+}
+
 }  // namespace
 
 void Stretch(const Pixels& target, const Extent& across, const Extent& down,
@@ -68,46 +99,36 @@ void Stretch(const Pixels& target, const Extent& across, const Extent& down,
     const std::size_t first = static_cast<std::size_t>(columns.All.front().First) * Channels;
     const std::size_t last =
         static_cast<std::size_t>(columns.All.back().First + columns.All.back().Count) * Channels;
+    const auto rowOfPicture = [&](int row) {
+        return picture.Bits +
+               static_cast<std::ptrdiff_t>(picture.Height - 1 - row) * picture.BytesPerRow + first;
+    };
     // Down first: what a row of the target takes of the picture's is added up over its whole width,
     // which is the larger part of the work and the one that the compiler does many at a time.
     std::vector<std::uint16_t> sums(last - first);
-    int rowInSums = -1;  // if it is one alone, as it is when the picture grows
+    int rowBefore = -1;  // if it was one alone
     for (int y = rows.Begin; y < rows.End; ++y) {
         const Lane& row = rows.All[static_cast<std::size_t>(y - rows.Begin)];
         std::uint32_t* const line = target.Data + static_cast<std::ptrdiff_t>(y) * target.Stride;
-        if (row.Count == 1 && row.First == rowInSums) {
-            std::copy(line - target.Stride + columns.Begin, line - target.Stride + columns.End,
-                      line + columns.Begin);
+        if (row.Count == 1) {
+            if (std::exchange(rowBefore, row.First) == row.First) {
+                const std::uint32_t* const before = line - target.Stride;
+                std::copy(before + columns.Begin, before + columns.End, line + columns.Begin);
+            } else {
+                Across<1>(columns, rowOfPicture(row.First), line);
+            }
             continue;
         }
-        rowInSums = row.Count == 1 ? row.First : -1;
+        rowBefore = -1;
         std::fill(sums.begin(), sums.end(), std::uint16_t{0});
         for (int i = 0; i < row.Count; ++i) {
-            const int fromBottom = picture.Height - 1 - (row.First + i);
-            const std::uint8_t* const bytes =
-                picture.Bits + static_cast<std::ptrdiff_t>(fromBottom) * picture.BytesPerRow +
-                first;
+            const std::uint8_t* const bytes = rowOfPicture(row.First + i);
             const unsigned share = rows.Shares[row.Shares + static_cast<std::size_t>(i)];
             for (std::size_t k = 0; k < sums.size(); ++k) {
                 sums[k] = static_cast<std::uint16_t>(sums[k] + bytes[k] * share);
             }
         }
-        for (int x = columns.Begin; x < columns.End; ++x) {
-            const Lane& column = columns.All[static_cast<std::size_t>(x - columns.Begin)];
-            const std::uint16_t* from =
-                sums.data() + static_cast<std::size_t>(column.First) * Channels - first;
-            std::uint32_t blue = Whole * Whole / 2;
-            std::uint32_t green = blue;
-            std::uint32_t red = blue;
-            for (int i = 0; i < column.Count; ++i, from += Channels) {
-                const std::uint32_t share =
-                    columns.Shares[column.Shares + static_cast<std::size_t>(i)];
-                blue += from[0] * share;
-                green += from[1] * share;
-                red += from[2] * share;
-            }
-            line[x] = 0xFF000000U | (red & 0xFF0000U) | (green >> 16) << 8 | blue >> 16;
-        }
+        Across<Whole>(columns, sums.data(), line);
     }
 }
 
