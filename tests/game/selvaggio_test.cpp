@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QMenu>
 #include <QPixmapCache>
+#include <QTimer>
 #include <random>
 
 #include "game/partita.h"
@@ -57,7 +58,11 @@ private:
 
 class Selvaggio {
 public:
-    Selvaggio(const Disco& disco, unsigned seme) : disco_(disco), caso_(seme) { Ricomincia(); }
+    Selvaggio(const Disco& disco, unsigned seme) : disco_(disco), caso_(seme) {
+        Ricomincia();
+        stampa_.callOnTimeout([this] { NellaStampa(); });
+        stampa_.start(0);
+    }
 
     /// Plays until so many mazes more have come up.
     void Gioca(int labirinti) {
@@ -83,6 +88,7 @@ public:
 
     int Labirinti = 0;  ///< that came up; two with one gesture count as one
     int Finali = 0;
+    int Stampe = 0;
 
 private:
     int Fino(int n) { return std::uniform_int_distribution<int>(0, n - 1)(caso_); }
@@ -136,6 +142,27 @@ private:
         } else {
             Risolve(form);
         }
+    }
+
+    /// The print window keeps whoever opened it waiting: somebody else has to play there.
+    void NellaStampa() {
+        if (!partita_ || !partita_->Aperta("frmStampa")) {
+            return;
+        }
+        stampa_.stop();
+        ++Stampe;
+        for (int gesti = Fino(20); gesti > 0 && partita_->Aperta("frmStampa"); --gesti) {
+            Form& form = partita_->Finestra("frmStampa");
+            Fino(2) == 0 ? UnTasto(form) : UnClic(form);
+        }
+        while (QWidget* aperto = QApplication::activePopupWidget()) {
+            aperto->close();
+        }
+        if (partita_->Aperta("frmStampa")) {
+            Partita::Chiudi(partita_->Finestra("frmStampa"));
+        }
+        partita_->Stampanti.Documents.clear();
+        stampa_.start(0);
     }
 
     void UnTasto(Form& form) {
@@ -194,6 +221,7 @@ private:
     std::mt19937 caso_;
     std::unique_ptr<Partita> partita_;
     bool chiesto_ = false;
+    QTimer stampa_;
 };
 
 class GiocatoreSelvaggio : public testing::TestWithParam<unsigned> {};
@@ -215,6 +243,7 @@ TEST_P(GiocatoreSelvaggio, BreaksNothingAndLeavesNothing) {
     RecordProperty("grown", std::to_string(dopo - prima));
     EXPECT_LT(dopo - prima, Tolleranza);
     EXPECT_GT(giocatore.Finali, Labirinti / 250);
+    EXPECT_GT(giocatore.Stampe, Labirinti / 20);
 }
 
 INSTANTIATE_TEST_SUITE_P(Semi, GiocatoreSelvaggio, testing::Range(1U, 1U + Giocatori));

@@ -6,6 +6,8 @@
 #include <QClipboard>
 #include <QTabBar>
 #include <QTest>
+#include <QTimer>
+#include <deque>
 #include <fstream>
 #include <map>
 #include <sstream>
@@ -121,14 +123,20 @@ std::string Mostrato(const PropertyValue& valore) {
 }
 
 const std::map<std::string, int> Tasti{
-    {"Tab", Qt::Key_Tab},     {"Backtab", Qt::Key_Backtab}, {"Space", Qt::Key_Space},
-    {"Enter", Qt::Key_Enter}, {"Left", Qt::Key_Left},       {"Right", Qt::Key_Right},
-    {"Up", Qt::Key_Up},       {"Down", Qt::Key_Down},       {"Backspace", Qt::Key_Backspace}};
+    {"Tab", Qt::Key_Tab},      {"Backtab", Qt::Key_Backtab}, {"Space", Qt::Key_Space},
+    {"Enter", Qt::Key_Enter},  {"Left", Qt::Key_Left},       {"Right", Qt::Key_Right},
+    {"Up", Qt::Key_Up},        {"Down", Qt::Key_Down},       {"Backspace", Qt::Key_Backspace},
+    {"Escape", Qt::Key_Escape}};
 
 class Esecuzione {
 public:
-    void Fai(const std::string& azione) {
+    /// `seguito` is what comes after it, for what does not return before that is done.
+    void Fai(const std::string& azione, const std::function<void()>& seguito) {
         const auto [verbo, oggetto] = PrimaParola(azione);
+        if (verbo == "print") {
+            DuranteLaStampa(seguito);
+            return;
+        }
         const auto gesto = gesti_.find(verbo);
         if (gesto == gesti_.end()) {
             throw std::runtime_error("nobody can " + verbo);
@@ -143,6 +151,9 @@ public:
         const auto punto = cosa.rfind('.');
         if (cosa == "window") {
             return "window " + Davanti().Name();
+        }
+        if (cosa == "printed") {
+            return "printed " + std::to_string(partita_->Stampanti.Documents.size());
         }
         if (cosa == "document") {
             return "document " + partita_->Documenti.Opened.back();
@@ -200,6 +211,20 @@ private:
         } else if (nome != "FormMenu") {
             ClickOn(Trova<CommandButton>(Davanti(), "Command1", 0));
         }
+    }
+
+    /// Goes on in the print window, and closes it in the end.
+    void DuranteLaStampa(const std::function<void()>& seguito) {
+        QTimer attesa;
+        attesa.callOnTimeout([&] {
+            if (partita_->Aperta("frmStampa")) {
+                attesa.stop();
+                seguito();
+                partita_->Gioco.Forms().End();
+            }
+        });
+        attesa.start(0);
+        Tap(Davanti(), Qt::Key_S, Qt::ControlModifier);
     }
 
     void Linguetta(int quale) {
@@ -319,21 +344,28 @@ class Finestre : public testing::TestWithParam<Tavola> {};
 
 TEST_P(Finestre, DoAsTheTableSays) {
     Esecuzione esecuzione;
-    for (const auto& [numero, azione, viste] : GetParam().Righe) {
-        try {
-            esecuzione.Fai(azione);
-            for (const std::string& vista : viste) {
-                const std::string visto = Rifilato(esecuzione.Vedi(vista));
-                if (visto != vista) {
-                    ADD_FAILURE_AT(GetParam().File.c_str(), numero)
-                        << visto << "\n   not " << vista;
+    std::deque<Riga_> righe(GetParam().Righe.begin(), GetParam().Righe.end());
+    const std::function<void()> esegui = [&] {
+        while (!righe.empty()) {
+            const Riga_ riga = righe.front();
+            righe.pop_front();
+            try {
+                esecuzione.Fai(riga.Azione, esegui);
+                for (const std::string& vista : riga.Viste) {
+                    const std::string visto = Rifilato(esecuzione.Vedi(vista));
+                    if (visto != vista) {
+                        ADD_FAILURE_AT(GetParam().File.c_str(), riga.Numero)
+                            << visto << "\n   not " << vista;
+                    }
                 }
+            } catch (const std::exception& errore) {
+                ADD_FAILURE_AT(GetParam().File.c_str(), riga.Numero)
+                    << riga.Azione << ": " << errore.what();
+                righe.clear();
             }
-        } catch (const std::exception& errore) {
-            ADD_FAILURE_AT(GetParam().File.c_str(), numero) << azione << ": " << errore.what();
-            return;
         }
-    }
+    };
+    esegui();
 }
 
 INSTANTIATE_TEST_SUITE_P(Tavole, Finestre, testing::ValuesIn(LeggiTavole()), [](const auto& voce) {
