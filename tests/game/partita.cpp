@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QTest>
+#include <QTimer>
 #include <algorithm>
 
 #include "platform/command_button.h"
@@ -121,6 +122,25 @@ void Partita::Scegli(Form& form, const std::string& voce, std::optional<int> ind
         }
     }
     throw std::runtime_error("no entry " + voce);
+}
+
+bool Partita::Stampa(Form& form, const std::function<void(Form&)>& gesti) {
+    bool vista = false;
+    QTimer occhio;
+    occhio.callOnTimeout([&] {
+        if (Aperta("frmStampa")) {
+            occhio.stop();
+            vista = true;
+            gesti(Finestra("frmStampa"));
+            Pump();
+            if (Form* const finestra = Gioco.Forms().Find("frmStampa")) {
+                Gioco.Forms().Unload(*finestra);
+            }
+        }
+    });
+    occhio.start(0);
+    Tap(form, Qt::Key_S, Qt::ControlModifier);
+    return vista;
 }
 
 void Partita::ViaERitorno(Form& form) {

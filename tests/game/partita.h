@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <stdexcept>
@@ -101,6 +102,9 @@ public:
 
     /// Chooses an entry of the menu bar with the mouse, opening its menu first.
     static void Scegli(Form& form, const std::string& voce, std::optional<int> indice = {});
+    /// Ctrl+S in the maze's window; does something in the print window once that is seen, and
+    /// closes it if that has not. False if it was never seen.
+    bool Stampa(Form& form, const std::function<void(Form&)>& gesti);
     /// Another window comes before this one, and goes again.
     static void ViaERitorno(Form& form);
     /// Closes the window as the desktop does.

@@ -147,7 +147,10 @@ TEST(Lingue, GiveNoLetterTwice) {
         Partita partita(disco);
         for (const auto& [nome, livello] : Finestre) {
             partita.Gioco.Stato().Livello = livello;
-            const Form& form = partita.Gioco.Forms().Load(nome);
+            Form& form = partita.Gioco.Forms().Load(nome);
+            if (form.Name() == "frmStampa") {  // speaks when it has something to print
+                Lingue(partita.Gioco.Stato(), partita.File, partita.Messaggi, "").TraduciForm(form);
+            }
             const std::string dove = lingua + " " + nome + " ";
             QStringList testi = TestiDi(*dynamic_cast<FormWindow&>(WindowOf(form)).menuBar(), dove);
             for (const Control* controllo : form.Controls()) {

@@ -17,7 +17,7 @@ struct FinestraDiGioco {
     const char* Nome;
     std::int16_t Livello = 3;
 };
-inline constexpr std::array<FinestraDiGioco, 8> Finestre{{
+inline constexpr std::array<FinestraDiGioco, 9> Finestre{{
     {"FormAvvio"},
     {"FormMenu"},
     {"FormConfigura"},
@@ -26,6 +26,7 @@ inline constexpr std::array<FinestraDiGioco, 8> Finestre{{
     {"frmTrm1", 7},
     {"frmTrm3", 15},
     {"FormFinale"},
+    {"frmStampa"},
 }};
 
 /// The languages by their files' names, in alphabetical order.

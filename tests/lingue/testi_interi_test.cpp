@@ -91,6 +91,9 @@ TEST_P(TestiInteri, AreSeenInEachWindow) {
     ASSERT_TRUE(partita.Avvia());
     for (const auto& [nome, livello] : Finestre) {
         SCOPED_TRACE(nome);
+        if (std::string(nome) == "frmStampa") {
+            continue;  // it opens over a maze alone
+        }
         Stato& stato = partita.Gioco.Stato();
         stato.Livello = livello;
         stato.RigheGriglia = 15;
@@ -109,6 +112,9 @@ TEST_P(TestiInteri, AreSeenInEachWindow) {
         // Elsewhere pages lie on each other, and a name on a cup.
         if (diGioco || form.Name() == "FormMenu" || form.Name() == "FormAvvio") {
             ControllaPosti(form);
+        }
+        if (form.Name() == "frmTrm3") {
+            EXPECT_TRUE(partita.Stampa(form, ControllaFinestra));
         }
     }
 }
