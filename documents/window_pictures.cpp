@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QPixmap>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QWindow>
 #include <algorithm>
 #include <array>
@@ -12,7 +13,8 @@
 #include <utility>
 #include <vector>
 
-#include "platform/no_printers.h"
+#include "platform/demo_printers.h"
+#include "platform/menu.h"
 #include "platform/qt/form_window.h"
 #include "platform/qt/local_file_system.h"
 #include "platform/status_bar.h"
@@ -98,6 +100,24 @@ public:
         Serve();
     }
 
+    /// Does what opens a window that nothing returns from before it has closed, takes its picture
+    /// and closes it.
+    void Take(const char* name, const std::function<void()>& open) {
+        QTimer looking;
+        QObject::connect(&looking, &QTimer::timeout, [&] {
+            Form* form = Game.Forms().Find(name);
+            if (form && form->NativePart().Window.isVisible()) {
+                looking.stop();
+                Serve();
+                Taken = form->NativePart().Window.grab().toImage();
+                Game.Forms().Unload(*form);
+            }
+        });
+        looking.start(0);
+        open();
+    }
+    QImage Taken;
+
     static void Serve() {
         // What one round of events posts, the next one serves.
         for (int round = 0; round < 4; ++round) {
@@ -115,7 +135,7 @@ private:
     NobodyElse instances_;
     Silence sounds_;
     NoReader documents_;
-    NoPrinters printers_;
+    DemoPrinters printers_{{"Laser 1", "PDF"}};
 
 public:
     Program Game{
@@ -211,6 +231,12 @@ void TurnTo(Form& form, Studio& /*studio*/) {
     }
 }
 
+/// A maze that is about to be printed.
+void Print(Form& form, Studio& studio) {
+    Wanderer(form).Walk(30);
+    studio.Take("frmStampa", [&] { Find<MenuItem>(form, "mnuStampa")->Click(); });
+}
+
 const auto Scenes = std::to_array<Scene>({
     {"FormAvvio", "FormAvvio"},
     {"FormMenu", "FormMenu", 3, {}, [](Form&, Studio& studio) { studio.Tick(); }},
@@ -225,6 +251,7 @@ const auto Scenes = std::to_array<Scene>({
      }},
     {"frmTrm1", "frmTrm1", 6, {}, [](Form&, Studio& studio) { studio.Tick(); }},
     {"frmTrm3", "frmTrm3", 13, {}, [](Form& form, Studio&) { Wanderer(form).Walk(60); }},
+    {"frmStampa", "frmTrm3", 12, {}, Print},
     {"FormFinale", "FormFinale"},
     {"FormConfigura1", "FormConfigura", 3, {}, TurnTo<1>},
     {"FormConfigura2", "FormConfigura", 3, {}, TurnTo<2>},
@@ -257,7 +284,7 @@ QImage WindowPictures::Picture(const std::string& name) const {
         scene->Play(form, studio);
     }
     Studio::Serve();
-    return form.NativePart().Window.grab().toImage();
+    return studio.Taken.isNull() ? form.NativePart().Window.grab().toImage() : studio.Taken;
 }
 
 }  // namespace trameli
