@@ -57,10 +57,8 @@ protected:
             .StampaFPB(cosa_, 10, 20, lato, lato, PrinterSettings::Landscape, "Trameli");
         return vista;
     }
-    /// Opens it and prints.
-    bool Stampa() {
-        return Apri([](const frmStampa& finestra) { ClickOn(finestra.cmdStampa); });
-    }
+    /// In the window: prints.
+    static void Stampa(const frmStampa& finestra) { ClickOn(finestra.cmdStampa); }
 
     /// The messages since the last time, a line each: title, text with bars for line ends.
     std::string Messaggi() {
@@ -174,7 +172,7 @@ TEST_F(StampaTest, AsksBeforeItPrintsBeyondTheSheet) {
         },
         400);
     partita_.Messaggi.Answer = Answer::Yes;
-    Apri([](frmStampa& finestra) { ClickOn(finestra.cmdStampa); }, 400);
+    Apri(Stampa, 400);
     ASSERT_EQ(Documenti().size(), 2U);
     EXPECT_EQ(Documenti()[0].Pictures[0].Width, 4000);
     EXPECT_EQ(Documenti()[1].Pictures[0].Height, 1900);  // 190 of 200 millimetres
@@ -263,19 +261,19 @@ TEST_F(StampaTest, LivesWithPrintersThatComeAndGo) {
 TEST_F(StampaTest, DoesNotOpenWithoutSomethingToPrintAndToPrintOn) {
     const frmStampa::Sorgente disegno = cosa_;
     cosa_ = &sorgente_->Scritta;
-    EXPECT_FALSE(Stampa());
+    EXPECT_FALSE(Apri(Stampa));
     EXPECT_EQ(Messaggi(), "Trameli: Stampa di Scritta||Errore di stampa\n");
     cosa_ = disegno;
-    EXPECT_FALSE(Apri([](const frmStampa&) {}, 0));
+    EXPECT_FALSE(Apri(Stampa, 0));
     EXPECT_EQ(Messaggi(), "Trameli: Errore di stampa\n");
     sorgente_->Disegno.Width(0);
-    EXPECT_FALSE(Stampa());
+    EXPECT_FALSE(Apri(Stampa));
     EXPECT_EQ(Messaggi(), "Trameli: Stampa interrotta.\nTrameli: Si è verificato un errore\n");
     EXPECT_EQ(Finestra(), nullptr);
     cosa_ = sorgente_;
     Gioco().Show("Disegnata");
     Pump();
-    EXPECT_TRUE(Stampa());
+    EXPECT_TRUE(Apri(Stampa));
     EXPECT_EQ(Documenti().at(0).Picture.Width, sorgente_->WindowPixels().Width);
 
     Partita altra(disco_);
@@ -331,32 +329,6 @@ TEST_F(StampaTest, ShowsWhatThePrinterWillMakeOfIt) {
     EXPECT_EQ(Documenti()[2].Settings.Orientation, PrinterSettings::Portrait);
     EXPECT_EQ(Documenti()[2].Settings.Copies, 1);
     EXPECT_EQ(Documenti()[2].Bits[2], 255);  // grey is the printer's affair
-}
-
-TEST_F(StampaTest, EnlargesThePreviewAndComesBack) {
-    Apri([&](frmStampa& finestra) {
-        const PixelSize prima = finestra.WindowPixels();
-        const auto ingrandita = [&] {
-            const bool grande = finestra.WindowPixels().Width > prima.Width;
-            EXPECT_EQ(WidgetOf(finestra.picPreviewZoom).isVisible(), grande);
-            EXPECT_EQ(finestra.cmdChiudi.Enabled(), !grande);
-            return grande && Colorata(finestra.picPreviewZoom);
-        };
-        ClickOn(finestra.picPreview);
-        EXPECT_TRUE(ingrandita());
-        ClickOn(finestra.picPreviewZoom);
-        EXPECT_FALSE(ingrandita());
-        for (const int esce : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Escape}) {
-            Tap(finestra, Qt::Key_Space);  // the keyboard is back on the preview
-            EXPECT_TRUE(ingrandita());
-            Tap(finestra, esce);
-            EXPECT_FALSE(ingrandita());
-        }
-        Tap(finestra, Qt::Key_Space);
-        QTest::mouseClick(WindowOf(finestra).windowHandle(), Qt::LeftButton, {}, {12, 12});
-        EXPECT_FALSE(ingrandita());
-    });
-    EXPECT_TRUE(Documenti().empty());
 }
 
 TEST_F(StampaTest, TellsTheSheetWithoutOpening) {

@@ -6,7 +6,6 @@
 #include <QClipboard>
 #include <QTabBar>
 #include <QTest>
-#include <QTimer>
 #include <deque>
 #include <fstream>
 #include <map>
@@ -134,7 +133,7 @@ public:
     void Fai(const std::string& azione, const std::function<void()>& seguito) {
         const auto [verbo, oggetto] = PrimaParola(azione);
         if (verbo == "print") {
-            DuranteLaStampa(seguito);
+            partita_->Stampa(Davanti(), [&](Form&) { seguito(); });
             return;
         }
         const auto gesto = gesti_.find(verbo);
@@ -211,20 +210,6 @@ private:
         } else if (nome != "FormMenu") {
             ClickOn(Trova<CommandButton>(Davanti(), "Command1", 0));
         }
-    }
-
-    /// Goes on in the print window, and closes it in the end.
-    void DuranteLaStampa(const std::function<void()>& seguito) {
-        QTimer attesa;
-        attesa.callOnTimeout([&] {
-            if (partita_->Aperta("frmStampa")) {
-                attesa.stop();
-                seguito();
-                partita_->Gioco.Forms().End();
-            }
-        });
-        attesa.start(0);
-        Tap(Davanti(), Qt::Key_S, Qt::ControlModifier);
     }
 
     void Linguetta(int quale) {
