@@ -48,8 +48,8 @@ Partita::Partita(const Disco& disco, PixelSize schermo, std::unique_ptr<Casuale>
                  const Installazione& installazione)
     : Schermo(schermo.Width, schermo.Height),
       File(disco.Radice(), installazione.Programma),
-      Gioco({Tempo, Schermo, File, Messaggi, Istanze, Suoni, Documenti, Stampanti,
-             installazione.Locale},
+      Gioco({Tempo, Schermo, File, Messaggi, Istanze, Suoni, Documenti,
+             installazione.Stampanti ? *installazione.Stampanti : Stampanti, installazione.Locale},
             std::move(casuale)) {}
 
 bool Partita::Avvia() {

@@ -61,10 +61,11 @@ constexpr QRgb Pixel(Colour colour) {
 inline constexpr std::array<int, 4> Frecce{Qt::Key_Up, Qt::Key_Right, Qt::Key_Down, Qt::Key_Left};
 inline constexpr std::array<int, 4> Tastierino{Qt::Key_8, Qt::Key_6, Qt::Key_2, Qt::Key_4};
 
-/// The program as it was installed, and the desktop's language.
+/// The program as it was installed, the desktop's language, and printers other than noted ones.
 struct Installazione {
     std::filesystem::path Programma = ProgrammaFornito();
     std::string Locale;
+    Printers* Stampanti = nullptr;
 };
 
 /// One run of the program on a machine with this disk and screen. Everything happens through

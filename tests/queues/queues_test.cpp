@@ -1,0 +1,176 @@
+// Mazes on paper, by way of the real print system.
+#include <QLocalServer>
+#include <QPainter>
+#include <QTimer>
+
+#include "game/partita.h"
+#include "platform/check_box.h"
+#include "platform/combo_box.h"
+#include "platform/image.h"
+#include "platform/picture_box.h"
+#include "platform/qt/desktop_printers.h"
+#include "platform/text_box.h"
+#include "queues/page.h"
+#include "queues/scheduler.h"
+
+namespace trameli {
+namespace {
+
+/// A player at a machine with the printers of a print system.
+class Macchina {
+public:
+    Disco Dischi;
+    DesktopPrinters Stampanti;
+    Partita Gioco{Dischi,
+                  {800, 600},
+                  std::make_unique<CasualeConSeme>(7),
+                  {ProgrammaFornito(), "", &Stampanti}};
+
+    /// A maze of the level after some steps.
+    Tavolo Cammino(int livello) {
+        Dischi.Scrivi("_predefinito");
+        Tavolo tavolo{Gioco.ApriLivello(livello), livello};
+        const std::vector<int> passi = tavolo.Soluzione();
+        tavolo.Cammina({passi.begin(), passi.begin() + 3});
+        return tavolo;
+    }
+
+    /// Opens the print window, does `mani` there, and returns when it has closed.
+    void Stampa(const Tavolo& tavolo, const std::function<void(Form&)>& mani) {
+        QTimer sguardo;
+        sguardo.callOnTimeout([&] {
+            if (Gioco.Aperta("frmStampa")) {
+                sguardo.stop();
+                mani(Gioco.Finestra("frmStampa"));
+            }
+        });
+        sguardo.start();
+        Tap(tavolo.Form_, Qt::Key_S, Qt::ControlModifier);
+    }
+};
+
+/// Replaces what stands in a box, key by key.
+void Digita(Form& stampa, const char* casella, int numero) {
+    ClickOn(Trova<TextBox>(stampa, casella));
+    Tap(stampa, Qt::Key_A, Qt::ControlModifier);
+    for (const char cifra : std::to_string(numero)) {
+        Tap(stampa, cifra);
+    }
+}
+
+/// Opens the list of printers and types the first letter of one.
+void Scegli(Form& stampa, const char* coda) {
+    ClickOn(Trova<ComboBox>(stampa, "cboPrinterNames"));
+    Tap(stampa, *coda);
+    Tap(stampa, Qt::Key_Return);
+}
+
+/// A maze without the mark at its finish, which is not printed.
+QImage SenzaArrivo(const Tavolo& tavolo) {
+    QImage tramelo = Shot(Trova<PictureBox>(tavolo.Form_, "pictureTramelo"));
+    const QRect arrivo = WidgetOf(Trova<Image>(tavolo.Form_, "Image2")).geometry();
+    QPainter(&tramelo).fillRect(arrivo, Qt::white);
+    return tramelo;
+}
+
+struct Foglio {
+    const char* Coda;
+    QPointF Margini;  ///< of the printer, from the corner of the landscape page, in points
+    QRect Stampa;     ///< as it is typed
+    int Copie;
+    bool Grigio;
+};
+
+class Code : public testing::TestWithParam<Foglio> {};
+
+INSTANTIATE_TEST_SUITE_P(Fogli, Code,
+                         testing::Values(Foglio{"Grigia", {34, 14}, {12, 7, 251, 130}, 2, true},
+                                         Foglio{"Colorata", {20, 30}, {0, 24, 260, 160}, 1, false}),
+                         [](const auto& foglio) { return foglio.param.Coda; });
+
+TEST_P(Code, PrintWhatIsSeenWhereItIsWanted) {
+    Scheduler sistema;
+    Macchina macchina;
+    const Foglio& foglio = GetParam();
+    const Tavolo tavolo = macchina.Cammino(15);
+    QImage schermo;
+    macchina.Stampa(tavolo, [&](Form& stampa) {
+        schermo = SenzaArrivo(tavolo);
+        Scegli(stampa, foglio.Coda);
+        ClickOn(Trova<CheckBox>(stampa, "chkProporzioni"));
+        Digita(stampa, "txtPrX", foglio.Stampa.x());
+        Digita(stampa, "txtPrY", foglio.Stampa.y());
+        Digita(stampa, "txtPrW", foglio.Stampa.width());
+        Digita(stampa, "txtPrH", foglio.Stampa.height());
+        Digita(stampa, "txtNCopies", foglio.Copie);
+        Tap(stampa, Qt::Key_Return);
+    });
+    const std::vector<Scheduler::Job> lavori(static_cast<std::size_t>(foglio.Copie),
+                                             {foglio.Coda, "Trameli"});
+    EXPECT_EQ(sistema.Jobs(), lavori);
+    if (foglio.Grigio) {
+        schermo.convertTo(QImage::Format_Grayscale8);
+    }
+    for (int copia = 0; copia < foglio.Copie; ++copia) {
+        const QImage pagina = Rendered(sistema.Delivered());
+        const QRectF posto = PlaceOf(schermo, pagina).translated(foglio.Margini * -25.4 / 72);
+        EXPECT_NEAR(posto.left(), foglio.Stampa.x(), 0.5);
+        EXPECT_NEAR(posto.top(), foglio.Stampa.y(), 0.5);
+        EXPECT_NEAR(posto.width(), foglio.Stampa.width(), 0.5);
+        EXPECT_NEAR(posto.height(), foglio.Stampa.height(), 0.5);
+        EXPECT_TRUE(ShowsWhole(pagina, schermo));
+        EXPECT_EQ(pagina.allGray(), foglio.Grigio);
+    }
+}
+
+TEST(StampaDiretta, FillsALandscapeSheetOfTheDefaultPrinter) {
+    Scheduler sistema;
+    Macchina macchina;
+    const Tavolo tavolo = macchina.Cammino(1);
+    Tap(tavolo.Form_, Qt::Key_M, Qt::ControlModifier);  // bars instead of lines
+    const PixelSize parte = tavolo.Form_.ClientPixels();
+    QImage schermo;
+    macchina.Gioco.Tempo.In(0.5, [&] {
+        const QImage finestra = Shot(tavolo.Form_);
+        schermo = finestra.copy(0, finestra.height() - parte.Height, parte.Width, parte.Height);
+    });
+    Tap(tavolo.Form_, Qt::Key_S, Qt::ControlModifier);
+    const QImage pagina = Rendered(sistema.Delivered());
+    EXPECT_EQ(sistema.Jobs(), (std::vector<Scheduler::Job>{{"Colorata", "Trameli"}}));
+    // The whole millimetres between the edges of the paper.
+    const double scala = std::min(275.0 / parte.Width, 187.0 / parte.Height);
+    EXPECT_NEAR(PlaceOf(schermo, pagina).width(), parte.Width * scala, 0.5);
+    EXPECT_TRUE(ShowsWhole(pagina, schermo));
+}
+
+TEST(SistemaMuto, LeavesThePrinterOfFiles) {
+    const TemporaryFolder cartella;
+    QLocalServer muto;
+    ASSERT_TRUE(muto.listen(QString::fromStdString((cartella.Path() / "socket").string())));
+    AskForPrintersAt(cartella.Path() / "socket");
+    Macchina macchina;
+    std::string nome;
+    macchina.Stampa(macchina.Cammino(7), [&](Form& stampa) {
+        nome = Trova<ComboBox>(stampa, "cboPrinterNames").Text();
+        Tap(stampa, Qt::Key_Escape);
+    });
+    EXPECT_EQ(nome, "PDF");
+    EXPECT_TRUE(muto.hasPendingConnections());
+}
+
+TEST(CodaChiusa, TellsThatItTakesNothing) {
+    Scheduler sistema;
+    Macchina macchina;
+    macchina.Stampa(macchina.Cammino(7), [&](Form& stampa) {
+        QProcess::execute("/usr/sbin/cupsreject", {"Colorata"});
+        Tap(stampa, Qt::Key_Return);
+        EXPECT_TRUE(macchina.Gioco.Aperta("frmStampa"));
+        Tap(stampa, Qt::Key_Escape);
+    });
+    ASSERT_EQ(macchina.Gioco.Messaggi.Messages.size(), 1U);
+    EXPECT_EQ(macchina.Gioco.Messaggi.Messages[0].Text.substr(0, 18), "Stampa interrotta.");
+    EXPECT_TRUE(sistema.Jobs().empty());
+}
+
+}  // namespace
+}  // namespace trameli
