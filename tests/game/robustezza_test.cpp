@@ -20,12 +20,8 @@ protected:
         if (!partita_.Aperta("FormMenu")) {
             partita_.ApriMenu();
         }
-        partita_.Tempo.In(0.3 + 0.25, [&] {
-            EXPECT_EQ(partita_.Tempo.WaitsUnderWay(), 1);
-            azione(partita_.Finestra("frmTrm0"));
-        });
+        partita_.Tempo.In(0.3 + 0.25, [&] { azione(partita_.Finestra("frmTrm0")); });
         partita_.AvviaLivello(4);
-        EXPECT_EQ(partita_.Tempo.WaitsUnderWay(), 0);
         return partita_.Aperta("frmTrm0");
     }
     Tavolo IlTavolo() { return Tavolo(partita_.Finestra("frmTrm0"), 4); }

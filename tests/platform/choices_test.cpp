@@ -9,7 +9,6 @@
 #include "platform/frame.h"
 #include "platform/image.h"
 #include "platform/list_box.h"
-#include "platform/menu.h"
 #include "platform/option_button.h"
 #include "platform/picture_box.h"
 #include "platform/scroll_bar.h"
@@ -49,22 +48,6 @@ TEST_F(ChoicesTest, ClicksChooseWhatTheyAreMeantFor) {
     EXPECT_EQ(Click(*view.viewport(), second), "one");
     EXPECT_EQ(Click(*view.viewport(), second), "one") << "the same one again";
     EXPECT_EQ(Click(*view.viewport(), {100, 70}), "") << "below the last entry";
-}
-
-TEST_F(ChoicesTest, AShortcutOfAnEntryThatCannotBeChosenDoesNothing) {
-    MenuItem menu(TheForm, "Menu", "&Menu");
-    MenuItem entry(menu, "Entry", "Entry", 'O');
-    entry.Click = Noting("Entry");
-    Bring();
-    for (const char* property : {"Enabled", "Visible"}) {
-        entry.Set(property, false);
-        Tap(TheForm, Qt::Key_O, Qt::ControlModifier);
-        EXPECT_EQ(Times("Entry"), 0) << property;
-        entry.Set(property, true);
-        Tap(TheForm, Qt::Key_O, Qt::ControlModifier);
-        EXPECT_EQ(Times("Entry"), 1);
-        Seen.clear();
-    }
 }
 
 TEST_F(ChoicesTest, AssistiveTechnologyIsToldOfAll) {

@@ -4,7 +4,6 @@
 
 #include <optional>
 
-#include "platform/in_child.h"
 #include "platform/qt/folder_lock.h"
 #include "support/stage.h"
 
@@ -27,16 +26,6 @@ TEST(InstancesTest, AreThoseOnTheSameFolder) {
     FolderLock third(here);
     EXPECT_FALSE(third.AnotherRuns()) << "the second did not count as running";
     EXPECT_TRUE(second.AnotherRuns());
-}
-
-TEST(InstancesTest, ThatWereKilledLeaveNothingBehind) {
-    const TemporaryFolder folder;
-    EXPECT_EQ(RunInChild([&] {
-                  // Never destroyed.
-                  return (new FolderLock(folder.Path()))->AnotherRuns() ? 1 : 0;
-              }),
-              0);
-    EXPECT_FALSE(FolderLock(folder.Path()).AnotherRuns());
 }
 
 }  // namespace

@@ -5,9 +5,7 @@
 #include "platform/frame.h"
 #include "platform/image.h"
 #include "platform/label.h"
-#include "platform/line.h"
 #include "platform/option_button.h"
-#include "platform/shape.h"
 #include "platform/tab_strip.h"
 #include "platform/text_box.h"
 
@@ -91,21 +89,6 @@ TEST_F(PictureTest, LettersCanBeReadOnAnyGround) {
             EXPECT_EQ(control->ForeColor(), row.Letters) << "what was set stays";
         }
     }
-}
-
-TEST_F(PictureTest, ShapesAndLinesLieUnderTheControls) {
-    Bring();
-    Label label(TheForm, "Label", {2850, 600, 900, 900}, "");
-    label.BackColor(White);
-    Shape shape(TheForm, "Shape", {300, 300, 3000, 1500}, 4, Black);
-    EXPECT_EQ(Count(Look(shape), Black), 200 * 100 - 192 * 92 - 4 * 60);
-    Line line(TheForm, "Line", 300, 900, 3300, 900, 3, Odd);
-    EXPECT_NEAR(static_cast<double>(Count(Shot(TheForm), Odd)), 3 * (200 - 30), 20);
-    Shape circle(TheForm, "Circle", {3900, 300, 3000, 1500}, 2, Black, ShapeKind::Circle);
-    EXPECT_EQ(Look(circle).pixel(100, 50), PixelOf(ButtonFace)) << "nothing fills it yet";
-    circle.FillColor(Odd);
-    EXPECT_NEAR(static_cast<double>(Count(Look(circle), Odd)), 3.14159 * 48 * 48, 250);
-    EXPECT_EQ(Look(circle).pixel(100, 1), PixelOf(Black));
 }
 
 }  // namespace

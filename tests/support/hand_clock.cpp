@@ -30,11 +30,6 @@ void HandClock::In(double seconds, std::function<void()> action) {
     engagements_.push_back({now_ + seconds, made_++, std::move(action), nullptr, 0});
 }
 
-int HandClock::TimersRunning() const {
-    return static_cast<int>(std::count_if(engagements_.begin(), engagements_.end(),
-                                          [](const auto& e) { return e.Timer != nullptr; }));
-}
-
 /// Runs what is due first, if anything is due up to `until`; appointments before timers.
 bool HandClock::RunNext(double until) {
     const auto next = std::min_element(engagements_.begin(), engagements_.end(),
@@ -62,14 +57,12 @@ void HandClock::Wait(double seconds, const std::function<bool()>& over) {
         return;
     }
     const double end = now_ + seconds;
-    ++waits_;
     Pump();
     while (!over() && now_ < end) {
         if (!RunNext(end)) {
             now_ = end;
         }
     }
-    --waits_;
 }
 
 void HandClock::Advance(double seconds) {

@@ -25,11 +25,6 @@ public:
     /// of a wait.
     void In(double seconds, std::function<void()> action);
 
-    /// Waits of the program that are under way, one inside the other.
-    int WaitsUnderWay() const { return waits_; }
-    /// Timers that are running.
-    int TimersRunning() const;
-
 private:
     class HandTicker;
 
@@ -46,7 +41,6 @@ private:
 
     double now_ = 1000;
     long made_ = 0;
-    int waits_ = 0;
     std::vector<Engagement> engagements_;
 };
 
