@@ -1,15 +1,9 @@
 // Mazes on paper, by way of the real print system.
 #include <QLocalServer>
-#include <QPainter>
-#include <QTimer>
 
 #include "game/partita.h"
-#include "platform/check_box.h"
-#include "platform/combo_box.h"
-#include "platform/image.h"
-#include "platform/picture_box.h"
 #include "platform/qt/desktop_printers.h"
-#include "platform/text_box.h"
+#include "printing/frm_stampa.h"
 #include "queues/page.h"
 #include "queues/scheduler.h"
 
@@ -19,33 +13,18 @@ namespace {
 /// A player at a machine with the printers of a print system.
 class Macchina {
 public:
-    Disco Dischi;
     DesktopPrinters Stampanti;
+    Disco Dischi;
     Partita Gioco{Dischi,
                   {800, 600},
                   std::make_unique<CasualeConSeme>(7),
                   {ProgrammaFornito(), "", &Stampanti}};
 
-    /// A maze of the level after some steps.
+    /// A maze of the level after the first step.
     Tavolo Cammino(int livello) {
-        Dischi.Scrivi("_predefinito");
         Tavolo tavolo{Gioco.ApriLivello(livello), livello};
-        const std::vector<int> passi = tavolo.Soluzione();
-        tavolo.Cammina({passi.begin(), passi.begin() + 3});
+        tavolo.Passo(Contrario(tavolo.Partenza().Lato));
         return tavolo;
-    }
-
-    /// Opens the print window, does `mani` there, and returns when it has closed.
-    void Stampa(const Tavolo& tavolo, const std::function<void(Form&)>& mani) {
-        QTimer sguardo;
-        sguardo.callOnTimeout([&] {
-            if (Gioco.Aperta("frmStampa")) {
-                sguardo.stop();
-                mani(Gioco.Finestra("frmStampa"));
-            }
-        });
-        sguardo.start();
-        Tap(tavolo.Form_, Qt::Key_S, Qt::ControlModifier);
     }
 };
 
@@ -63,14 +42,6 @@ void Scegli(Form& stampa, const char* coda) {
     ClickOn(Trova<ComboBox>(stampa, "cboPrinterNames"));
     Tap(stampa, *coda);
     Tap(stampa, Qt::Key_Return);
-}
-
-/// A maze without the mark at its finish, which is not printed.
-QImage SenzaArrivo(const Tavolo& tavolo) {
-    QImage tramelo = Shot(Trova<PictureBox>(tavolo.Form_, "pictureTramelo"));
-    const QRect arrivo = WidgetOf(Trova<Image>(tavolo.Form_, "Image2")).geometry();
-    QPainter(&tramelo).fillRect(arrivo, Qt::white);
-    return tramelo;
 }
 
 struct Foglio {
@@ -94,8 +65,10 @@ TEST_P(Code, PrintWhatIsSeenWhereItIsWanted) {
     const Foglio& foglio = GetParam();
     const Tavolo tavolo = macchina.Cammino(15);
     QImage schermo;
-    macchina.Stampa(tavolo, [&](Form& stampa) {
-        schermo = SenzaArrivo(tavolo);
+    macchina.Gioco.Stampa(tavolo.Form_, [&](Form& stampa) {
+        // The mark at the finish is not printed.
+        WidgetOf(Trova<Image>(tavolo.Form_, "Image2")).hide();
+        schermo = Shot(Trova<PictureBox>(tavolo.Form_, "pictureTramelo"));
         Scegli(stampa, foglio.Coda);
         ClickOn(Trova<CheckBox>(stampa, "chkProporzioni"));
         Digita(stampa, "txtPrX", foglio.Stampa.x());
@@ -105,19 +78,20 @@ TEST_P(Code, PrintWhatIsSeenWhereItIsWanted) {
         Digita(stampa, "txtNCopies", foglio.Copie);
         Tap(stampa, Qt::Key_Return);
     });
-    const std::vector<Scheduler::Job> lavori(static_cast<std::size_t>(foglio.Copie),
-                                             {foglio.Coda, "Trameli"});
+    const std::vector<std::string> lavori(static_cast<std::size_t>(foglio.Copie),
+                                          foglio.Coda + std::string(": Trameli"));
     EXPECT_EQ(sistema.Jobs(), lavori);
     if (foglio.Grigio) {
         schermo.convertTo(QImage::Format_Grayscale8);
     }
     for (int copia = 0; copia < foglio.Copie; ++copia) {
         const QImage pagina = Rendered(sistema.Delivered());
-        const QRectF posto = PlaceOf(schermo, pagina).translated(foglio.Margini * -25.4 / 72);
-        EXPECT_NEAR(posto.left(), foglio.Stampa.x(), 0.5);
-        EXPECT_NEAR(posto.top(), foglio.Stampa.y(), 0.5);
-        EXPECT_NEAR(posto.width(), foglio.Stampa.width(), 0.5);
-        EXPECT_NEAR(posto.height(), foglio.Stampa.height(), 0.5);
+        const QRectF posto = PlaceOf(schermo, pagina);
+        const QPointF angolo = posto.topLeft() / PixelsPerMillimetre - foglio.Margini * 25.4 / 72;
+        EXPECT_NEAR(angolo.x(), foglio.Stampa.x(), 0.5);
+        EXPECT_NEAR(angolo.y(), foglio.Stampa.y(), 0.5);
+        EXPECT_NEAR(posto.width() / PixelsPerMillimetre, foglio.Stampa.width(), 0.5);
+        EXPECT_NEAR(posto.height() / PixelsPerMillimetre, foglio.Stampa.height(), 0.5);
         EXPECT_TRUE(ShowsWhole(pagina, schermo));
         EXPECT_EQ(pagina.allGray(), foglio.Grigio);
     }
@@ -136,10 +110,10 @@ TEST(StampaDiretta, FillsALandscapeSheetOfTheDefaultPrinter) {
     });
     Tap(tavolo.Form_, Qt::Key_S, Qt::ControlModifier);
     const QImage pagina = Rendered(sistema.Delivered());
-    EXPECT_EQ(sistema.Jobs(), (std::vector<Scheduler::Job>{{"Colorata", "Trameli"}}));
+    EXPECT_EQ(sistema.Jobs(), (std::vector<std::string>{"Colorata: Trameli"}));
     // The whole millimetres between the edges of the paper.
     const double scala = std::min(275.0 / parte.Width, 187.0 / parte.Height);
-    EXPECT_NEAR(PlaceOf(schermo, pagina).width(), parte.Width * scala, 0.5);
+    EXPECT_NEAR(PlaceOf(schermo, pagina).width() / PixelsPerMillimetre, parte.Width * scala, 0.5);
     EXPECT_TRUE(ShowsWhole(pagina, schermo));
 }
 
@@ -149,26 +123,21 @@ TEST(SistemaMuto, LeavesThePrinterOfFiles) {
     ASSERT_TRUE(muto.listen(QString::fromStdString((cartella.Path() / "socket").string())));
     AskForPrintersAt(cartella.Path() / "socket");
     Macchina macchina;
-    std::string nome;
-    macchina.Stampa(macchina.Cammino(7), [&](Form& stampa) {
-        nome = Trova<ComboBox>(stampa, "cboPrinterNames").Text();
-        Tap(stampa, Qt::Key_Escape);
-    });
-    EXPECT_EQ(nome, "PDF");
+    EXPECT_TRUE(macchina.Gioco.Stampa(macchina.Cammino(7).Form_, [](Form& stampa) {
+        EXPECT_EQ(Trova<ComboBox>(stampa, "cboPrinterNames").Text(), "PDF");
+    }));
     EXPECT_TRUE(muto.hasPendingConnections());
 }
 
 TEST(CodaChiusa, TellsThatItTakesNothing) {
     Scheduler sistema;
     Macchina macchina;
-    macchina.Stampa(macchina.Cammino(7), [&](Form& stampa) {
+    macchina.Gioco.Stampa(macchina.Cammino(7).Form_, [&](Form& stampa) {
         QProcess::execute("/usr/sbin/cupsreject", {"Colorata"});
         Tap(stampa, Qt::Key_Return);
         EXPECT_TRUE(macchina.Gioco.Aperta("frmStampa"));
-        Tap(stampa, Qt::Key_Escape);
     });
-    ASSERT_EQ(macchina.Gioco.Messaggi.Messages.size(), 1U);
-    EXPECT_EQ(macchina.Gioco.Messaggi.Messages[0].Text.substr(0, 18), "Stampa interrotta.");
+    EXPECT_TRUE(macchina.Gioco.Messaggi.Messages.at(0).Text.starts_with("Stampa interrotta.\r"));
     EXPECT_TRUE(sistema.Jobs().empty());
 }
 

@@ -3,7 +3,6 @@
 #include <cups/cups.h>
 #include <sys/prctl.h>
 
-#include <QElapsedTimer>
 #include <QLocalSocket>
 #include <QTcpSocket>
 #include <csignal>
@@ -29,9 +28,7 @@ Scheduler::Scheduler() {
     const std::filesystem::path& folder = folder_.Path();
     // A scheduler of root's runs its filters as somebody else.
     std::filesystem::permissions(folder, std::filesystem::perms(0755));
-    for (const char* name : {"state", "cache", "spool/temporary"}) {
-        std::filesystem::create_directories(folder / name);
-    }
+    std::filesystem::create_directories(folder / "spool" / "temporary");
     std::filesystem::copy(source / "ppd", folder / "ppd");
     for (const char* name : {"cupsd.conf", "cups-files.conf", "printers.conf"}) {
         QByteArray text = QByteArray::fromStdString(BytesOf(source / name));
@@ -48,9 +45,8 @@ Scheduler::Scheduler() {
     process_.start("/usr/sbin/cupsd",
                    {"-f", "-c", place + "/cupsd.conf", "-s", place + "/cups-files.conf"});
     QLocalSocket visitor;
-    QElapsedTimer waiting;
-    for (waiting.start(); !visitor.waitForConnected(0);) {
-        if (process_.waitForFinished(10) || waiting.hasExpired(Patience)) {
+    for (int left = Patience / 10; !visitor.waitForConnected(0); --left) {
+        if (process_.waitForFinished(10) || left == 0) {
             throw std::runtime_error("the scheduler does not start");
         }
         visitor.connectToServer(place + "/socket");
@@ -62,12 +58,12 @@ Scheduler::~Scheduler() {
     process_.waitForFinished(Patience);
 }
 
-std::vector<Scheduler::Job> Scheduler::Jobs() const {
+std::vector<std::string> Scheduler::Jobs() const {
     cups_job_t* jobs = nullptr;
     const int count = cupsGetJobs(&jobs, nullptr, 0, CUPS_WHICHJOBS_ALL);
-    std::vector<Job> known;
+    std::vector<std::string> known;
     for (int i = 0; i < count; ++i) {
-        known.emplace_back(jobs[i].dest, jobs[i].title);
+        known.push_back(std::string(jobs[i].dest) + ": " + jobs[i].title);
     }
     cupsFreeJobs(count, jobs);
     return known;

@@ -4,7 +4,6 @@
 #include <QProcess>
 #include <QTcpServer>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "support/stage.h"
@@ -23,9 +22,8 @@ public:
     Scheduler();
     ~Scheduler();
 
-    /// The queue and the name of each job so far, in their order.
-    using Job = std::pair<std::string, std::string>;
-    std::vector<Job> Jobs() const;
+    /// The jobs so far in their order, "queue: name".
+    std::vector<std::string> Jobs() const;
     /// What a queue delivers next; nothing after half a minute of silence.
     QByteArray Delivered();
 
