@@ -61,7 +61,7 @@ TEST(Foglio, RoundsAHalfToTheEvenSide) {
     EXPECT_EQ(AltezzaPer(5, 2.0F), 2);
     EXPECT_EQ(AltezzaPer(7, 2.0F), 4);
     EXPECT_EQ(LarghezzaPer(5, 0.5F), 2);
-    EXPECT_EQ(Centrato({1, 1, 195, 193}, {200, 200}), (PostoStampa{2, 4, 195, 193}));
+    EXPECT_EQ(Centrato({1, 1, 193, 195}, {200, 200}), (PostoStampa{4, 2, 193, 195}));
     EXPECT_EQ(Centrato({1, 1, 300, 201}, {200, 100}), (PostoStampa{-50, -50, 300, 201}));
 }
 
