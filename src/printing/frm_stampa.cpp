@@ -153,17 +153,19 @@ void frmStampa::StampaFPB(const Sorgente& sorgente, int x, int y, int w, int h, 
         return;  // or on the way there: one at a time
     }
     sorgente_ = sorgente;
+    const auto testo = [&](const TestoNumerato& quale) { return Testo(servizi_.Lingue, quale); };
     if (stato_.NomeStampante.empty() && !stampante_.ApriStampante(stato_.NomeStampante)) {
         Forms().Unload(*this);
         return;
     }
     if (Control* const* const altro = std::get_if<Control*>(&sorgente);
         altro && !dynamic_cast<PictureBox*>(*altro)) {
-        Fallisci("Stampa di " + (*altro)->Name() + "\r\n\r\nErrore di stampa");
+        Fallisci(testo(TestoStampa::StampaDi) + (*altro)->Name() + ARigaNuova + ARigaNuova +
+                 testo(TestoStampa::ErroreDiStampa));
         return;
     }
     if (w == 0 || h == 0) {
-        Fallisci("Errore di stampa");
+        Fallisci(testo(TestoStampa::ErroreDiStampa));
         return;
     }
     txtPrX.Text(std::to_string(x));
@@ -178,7 +180,7 @@ void frmStampa::StampaFPB(const Sorgente& sorgente, int x, int y, int w, int h, 
     stato_.Proporzione = static_cast<float>(w) / static_cast<float>(h);
     if (const std::optional<std::string> errore = Cattura()) {
         servizi_.Dialogs.Message(*errore, TitoloStampa, Icon::Critical, Buttons::Ok);
-        Fallisci("Si è verificato un errore");
+        Fallisci(testo(TestoStampa::UnErrore));
         return;
     }
     nomeDocumento_ = nomeDocumento.empty() ? NomeDi(sorgente) : nomeDocumento;
@@ -200,7 +202,8 @@ std::optional<std::string> frmStampa::Cattura() {
     if (trameli::Form* const* const form = std::get_if<trameli::Form*>(&sorgente_)) {
         return immagine_.CatturaForm(**form, Testo(servizi_.Lingue, TestoStampa::SenzaMisura));
     }
-    return immagine_.CatturaImmagine(dynamic_cast<PictureBox&>(*std::get<Control*>(sorgente_)));
+    return immagine_.CatturaImmagine(dynamic_cast<PictureBox&>(*std::get<Control*>(sorgente_)),
+                                     Testo(servizi_.Lingue, TestoStampa::Interrotta));
 }
 
 void frmStampa::Fallisci(const std::string& messaggio) {

@@ -20,6 +20,7 @@
 #include "printing/immagine.h"
 #include "printing/stampante.h"
 #include "printing/stato_stampa.h"
+#include "printing/testi_stampa.h"
 #include "shell/servizi.h"
 
 namespace trameli {
@@ -125,6 +126,7 @@ private:
     void AggiornaAnteprima();
     void AggiornaSeVisibile();
     void AggiornaZoom();
+    void ErroreDiCopia(const TestoNumerato& titolo);
     bool DisegnaImmagine(PictureBox& superficie);
     void picPreview_Click();
     void picZoom_Click();

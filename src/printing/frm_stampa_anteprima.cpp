@@ -68,8 +68,7 @@ void frmStampa::AggiornaAnteprima() {
         Scrivi(Centrato(stato_.Posto, stato_.Foglio));
     }
     if (!DisegnaImmagine(picPreview)) {
-        servizi_.Dialogs.Message("Errore di Copia", " Errore in Preview", Icon::Critical,
-                                 Buttons::Ok);
+        ErroreDiCopia(TestoStampa::TitoloPreview);
     }
 }
 
@@ -88,8 +87,13 @@ void frmStampa::AggiornaZoom() {
                           std::max(0.0, foglio.Width - 2 * BordoZoom),
                           std::max(0.0, foglio.Height - 2 * BordoZoom)});
     if (!DisegnaImmagine(picPreviewZoom)) {
-        servizi_.Dialogs.Message("Errore di Copia", " Errore in Zoom", Icon::Critical, Buttons::Ok);
+        ErroreDiCopia(TestoStampa::TitoloZoom);
     }
+}
+
+void frmStampa::ErroreDiCopia(const TestoNumerato& titolo) {
+    servizi_.Dialogs.Message(Testo(servizi_.Lingue, TestoStampa::ErroreDiCopia),
+                             Testo(servizi_.Lingue, titolo), Icon::Critical, Buttons::Ok);
 }
 
 /// Draws the picture where it will be printed on the surface, which stands for the whole sheet.

@@ -61,10 +61,11 @@ void ConvertiInGrigi(const PixelBlock& immagine) {
     }
 }
 
-std::optional<std::string> Immagine::CatturaImmagine(const Surface& sorgente) {
+std::optional<std::string> Immagine::CatturaImmagine(const Surface& sorgente,
+                                                     const std::string& senzaMisura) {
     Prepara(sorgente.DevicePixels());
     if (dimensione_.Byte == 0) {
-        return "Stampa interrotta.";
+        return senzaMisura;
     }
     if (!memoria_) {
         return "hMem = 0";

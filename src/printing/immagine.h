@@ -42,9 +42,10 @@ public:
     explicit Immagine(Prestito prestito = DalSistema) : prestito_(std::move(prestito)) {}
 
     /// Takes what is drawn on a surface, in the device's own pixels. Nothing if that worked, else
-    /// the message that tells why not.
-    [[nodiscard]] std::optional<std::string> CatturaImmagine(const Surface& sorgente);
-    /// Takes a window as it is seen. `senzaMisura` is the message for one of no size.
+    /// the message that tells why not: `senzaMisura` for a picture of no size.
+    [[nodiscard]] std::optional<std::string> CatturaImmagine(const Surface& sorgente,
+                                                             const std::string& senzaMisura);
+    /// The same with a window as it is seen.
     [[nodiscard]] std::optional<std::string> CatturaForm(const Form& sorgente,
                                                          const std::string& senzaMisura);
 

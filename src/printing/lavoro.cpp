@@ -45,9 +45,10 @@ bool Lavoro::RispettaFoglio(PostoStampa& posto, const SheetSize& foglio) {
     if (!prhDC_ || !Eccede(posto, foglio)) {
         return true;
     }
+    const auto testo = [&](const TestoNumerato& quale) { return Testo(servizi_.Lingue, quale); };
     const Answer risposta = servizi_.Dialogs.Message(
-        "Dimensioni stampa eccedenti i limiti del foglio\r\n\r\nPosso cambiare la scala?",
-        " Errore di Scala", Icon::Question, Buttons::YesNoCancel);
+        testo(TestoStampa::Eccedente) + ARigaNuova + ARigaNuova + testo(TestoStampa::CambioScala),
+        testo(TestoStampa::TitoloScala), Icon::Question, Buttons::YesNoCancel);
     if (risposta == Answer::Yes) {
         posto = Riscalato(posto, foglio);
     }
@@ -57,10 +58,11 @@ bool Lavoro::RispettaFoglio(PostoStampa& posto, const SheetSize& foglio) {
 bool Lavoro::InviaAllaStampante(const PixelRectangle& dove) {
     const std::optional<std::string> errore = InviaCopie(dove);
     if (errore && finestra_.Loaded()) {
-        servizi_.Dialogs.Message(*errore + Testo(servizi_.Lingue, TestoStampa::Chiusura) +
-                                     ARigaNuova + Riga("Codice di errore", CodiceErrore) +
-                                     Testo(servizi_.Lingue, TestoStampa::Errore482),
-                                 TitoloStampa, Icon::Critical, Buttons::Ok);
+        servizi_.Dialogs.Message(
+            *errore + Testo(servizi_.Lingue, TestoStampa::Chiusura) + ARigaNuova +
+                Riga(Testo(servizi_.Lingue, TestoStampa::Codice), CodiceErrore) +
+                Testo(servizi_.Lingue, TestoStampa::Errore482),
+            TitoloStampa, Icon::Critical, Buttons::Ok);
     }
     immagine_.Libera();
     return !errore;
@@ -75,7 +77,7 @@ std::optional<std::string> Lavoro::InviaCopie(const PixelRectangle& dove) {
     const int copie = stato_.NumeroCopie;
     for (int copia = 1; copia <= copie && finestra_.Loaded(); ++copia) {
         if (prhDC_->StartDocument(nomeDocumento_) == StartDocFallito) {
-            return std::string("Errore di StartDoc.") + ARigaNuova;
+            return Testo(servizi_.Lingue, TestoStampa::ErroreStartDoc) + ARigaNuova;
         }
         const int r1 = prhDC_->StartPage();
         const int r2 = prhDC_->Stretch(dove, immagine_.Blocco());
@@ -84,7 +86,7 @@ std::optional<std::string> Lavoro::InviaCopie(const PixelRectangle& dove) {
             r4 = prhDC_->EndDocument();
         }
         if (r1 <= 0 || r2 == 0 || r3 <= 0 || r4 == 0) {
-            return std::string("Stampa interrotta.") + ARigaNuova + Riga("R1", r1) +
+            return Testo(servizi_.Lingue, TestoStampa::Interrotta) + ARigaNuova + Riga("R1", r1) +
                    Riga("R2", r2) + Riga("R3", r3) + Riga("R4", r4);
         }
     }

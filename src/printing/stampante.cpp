@@ -13,7 +13,7 @@ void Stampante::FoglioStampa(int& w, int& h, std::optional<int> orientamento) {
     if (orientamento) {
         if (*orientamento != PrinterSettings::Portrait &&
             *orientamento != PrinterSettings::Landscape) {
-            Avvisa("Orientamento errato");
+            Avvisa(Testo(servizi_.Lingue, TestoStampa::OrientamentoErrato));
             return;
         }
         stato_.DatiStampante.Orientation = *orientamento;
@@ -81,7 +81,7 @@ bool Stampante::LeggiDimensioniFoglio(const std::string& nome, SheetSize& foglio
 std::string Stampante::StampantePredefinita() {
     std::string nome = servizi_.Printers.Default();
     if (nome.empty()) {
-        Avvisa("Stampante di default non specificata.");
+        Avvisa(Testo(servizi_.Lingue, TestoStampa::SenzaDefault));
     }
     return nome;
 }

@@ -21,6 +21,20 @@ inline constexpr TestoNumerato Chiusura{"0011", "La stampa non è riuscita."};
 inline constexpr TestoNumerato ChiudiAnteprima{"0012", "Un clic chiude l'anteprima"};
 inline constexpr TestoNumerato ChiudiZoom{"0013", "Un clic chiude l'anteprima"};
 inline constexpr TestoNumerato Errore482{"0051", "Errore della stampante"};
+inline constexpr TestoNumerato StampaDi{"0060", "Stampa di "};
+inline constexpr TestoNumerato ErroreDiStampa{"0061", "Errore di stampa"};
+inline constexpr TestoNumerato UnErrore{"0062", "Si è verificato un errore"};
+inline constexpr TestoNumerato Interrotta{"0063", "Stampa interrotta."};
+inline constexpr TestoNumerato ErroreStartDoc{"0064", "Errore di StartDoc."};
+inline constexpr TestoNumerato Codice{"0065", "Codice di errore"};
+inline constexpr TestoNumerato Eccedente{"0066", "Dimensioni stampa eccedenti i limiti del foglio"};
+inline constexpr TestoNumerato CambioScala{"0067", "Posso cambiare la scala?"};
+inline constexpr TestoNumerato TitoloScala{"0068", " Errore di Scala"};
+inline constexpr TestoNumerato ErroreDiCopia{"0069", "Errore di Copia"};
+inline constexpr TestoNumerato TitoloPreview{"0070", " Errore in Preview"};
+inline constexpr TestoNumerato TitoloZoom{"0071", " Errore in Zoom"};
+inline constexpr TestoNumerato SenzaDefault{"0072", "Stampante di default non specificata."};
+inline constexpr TestoNumerato OrientamentoErrato{"0073", "Orientamento errato"};
 }  // namespace TestoStampa
 
 /// The title of messages about printing.

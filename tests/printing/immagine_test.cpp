@@ -66,7 +66,7 @@ protected:
 
 TEST_F(ImmagineTest, HoldsWhatIsDrawnAndGivesItBack) {
     Immagine immagine;
-    EXPECT_EQ(immagine.CatturaImmagine(form_.Disegno), std::nullopt);
+    EXPECT_EQ(immagine.CatturaImmagine(form_.Disegno, ""), std::nullopt);
     const PixelBlock blocco = immagine.Blocco();
     const QImage visto = Shot(form_.Disegno).scaled(blocco.Width, blocco.Height);
     EXPECT_EQ(blocco.BytesPerRow, ArrotondaA4(3 * blocco.Width));
@@ -86,9 +86,9 @@ TEST_F(ImmagineTest, HoldsWhatIsDrawnAndGivesItBack) {
 
 TEST_F(ImmagineTest, TellsWhatIsMissing) {
     Immagine immagine([](std::size_t) { return nullptr; });
-    EXPECT_EQ(immagine.CatturaImmagine(form_.Disegno), "hMem = 0");
+    EXPECT_EQ(immagine.CatturaImmagine(form_.Disegno, ""), "hMem = 0");
     EXPECT_EQ(immagine.CatturaForm(form_, ""), "hDC_FSrc = 1\r\nhBmp_Form = 1\r\nhMem = 0");
-    EXPECT_EQ(immagine.CatturaImmagine(form_.Niente), "Stampa interrotta.");
+    EXPECT_EQ(immagine.CatturaImmagine(form_.Niente, "vuota"), "vuota");
     EXPECT_FALSE(immagine.Presente());
 }
 
