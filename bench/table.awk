@@ -52,15 +52,16 @@ function limit(text, unit) {
     return text * nanoseconds[unit]
 }
 
-function verdict(name, ratio, i, text) {
+function verdict(name, ratio, i, text, missed) {
     for (i = 1; i <= aims; i++) {
         if (name ~ aim_name[i]) {
-            text = "<= " aim_ratio[i]
+            text = aim_ratio[i]
+            missed = text != "-" && ratio > text
             if (aim_time[i] != "") {
-                text = text ", " aim_time[i]
+                text = text == "-" ? aim_time[i] : text ", " aim_time[i]
+                missed = missed || ours[name] > limit(aim_time[i])
             }
-            return text (ratio > aim_ratio[i] || \
-                         (aim_time[i] != "" && ours[name] > limit(aim_time[i])) ? "  MISSED" : "")
+            return "<= " text (missed ? "  MISSED" : "")
         }
     }
     return ""
@@ -101,7 +102,7 @@ END {
             printf row, name, shown(base[name]), shown(ours[name]), sprintf("%.2f", ratio),
                    verdict(name, ratio)
         } else {
-            printf row, name, "-", shown(ours[name]), "-", ""
+            printf row, name, "-", shown(ours[name]), "-", verdict(name)
         }
     }
 }

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "game/interruttori.h"
+#include "platform/command_button.h"
 #include "platform/image.h"
 
 namespace trameli {
@@ -67,6 +68,43 @@ TEST_P(StampaDiretta, PutsTheWindowOnWhitePaperOnceAndChangesNothing) {
     EXPECT_EQ(simbolo | Differenze(prima, Shot(form)), simbolo) << "its corners at the most";
     EXPECT_EQ(tratto, MacchiaDi(Shot(form), Pixel(verde)).Posto);
     EXPECT_EQ(tavolo.Pannello(4).c_str(), passi);
+}
+
+class StampaDallaFinestra : public ConTavolo, public testing::WithParamInterface<int> {};
+
+INSTANTIATE_TEST_SUITE_P(Livelli, StampaDallaFinestra, testing::Values(6, 15), NomeLivello);
+
+TEST_P(StampaDallaFinestra, HandsTheMazeOverOnWhiteWhileTheClockGoesOn) {
+    const bool aTempo = GetParam() == 6;
+    const Tavolo tavolo = Apri(GetParam(), Utente(Tastiera).Con(RigaSpessore, 2));
+    const auto passi = tavolo.Soluzione();
+    if (!aTempo) {
+        tavolo.Cammina({passi.begin(), passi.begin() + 3});
+    }
+    const QRgb sfondo = tavolo.Colore(RigaSfondo);
+    const QImage prima = tavolo.Guarda().Immagine();
+    const int quanti = tavolo.Passi();
+    EXPECT_TRUE(partita_.Stampa(tavolo.Form_, [&](const Form& finestra) {
+        partita_.Tempo.Advance(0.1);
+        EXPECT_EQ(MacchiaDi(tavolo.Guarda().Immagine(), sfondo).Quanti, 0);
+        ClickOn(Trova<CommandButton>(finestra, "cmdStampa"));
+    }));
+    EXPECT_EQ(tavolo.Passi(), quanti + (aTempo ? 1 : 0));
+
+    ASSERT_EQ(partita_.Stampanti.Documents.size(), 1U);
+    const NotedPrinters::Document& documento = partita_.Stampanti.Documents[0];
+    EXPECT_EQ(documento.Name, "Trameli");
+    EXPECT_EQ(documento.Settings.Orientation, PrinterSettings::Landscape);
+    const auto [x, y, larghezza, altezza] = documento.Pictures.at(0);
+    EXPECT_EQ(QRect(x, y, larghezza, altezza), QRect(100, 100, 1000, 1000));
+    const PixelBlock& blocco = documento.Picture;
+    const QImage carta(documento.Bits.data(), blocco.Width, blocco.Height, blocco.BytesPerRow,
+                       QImage::Format_BGR888);
+    const QImage dopo = tavolo.Guarda().Immagine();
+    const QRect simbolo = MacchiaDi(prima, Pixel(Blu)).Posto | MacchiaDi(dopo, Pixel(Blu)).Posto;
+    const QRect arrivo = WidgetOf(Trova<Image>(tavolo.Form_, "Image2")).geometry();
+    EXPECT_EQ(simbolo | Differenze(prima, carta.mirrored(), sfondo, arrivo), simbolo);
+    EXPECT_EQ(simbolo | Differenze(prima, dopo), simbolo);
 }
 
 }  // namespace
