@@ -256,17 +256,24 @@ void OpenWindow(benchmark::State& state) {
 void PressKey(benchmark::State& state) {
     Game game;
     game.With("frmStampa", [&](Form& form) {
-        Game::Find<TextBox>(form, "txtPrW").SetFocus();
+        TextBox& width = Game::Find<TextBox>(form, "txtPrW");
+        width.SetFocus();
         QWindow* const window = form.NativePart().Window.windowHandle();
-        constexpr std::array keys{Qt::Key_Up, Qt::Key_Down};
-        std::size_t next = 0;
-        for (auto _ : state) {
+        const auto press = [&](Qt::Key key) {
+            const std::string before = width.Text();
             for (const auto event : {QEvent::KeyPress, QEvent::KeyRelease}) {
-                QKeyEvent stroke(event, keys.at(next), Qt::NoModifier);
+                QKeyEvent stroke(event, key, Qt::NoModifier);
                 QCoreApplication::sendEvent(window, &stroke);
             }
             Serve();
-            next = 1 - next;
+            return width.Text() != before;
+        };
+        Qt::Key next = Qt::Key_Up;
+        for (auto _ : state) {
+            if (!press(next)) {
+                state.SkipWithError("the key did nothing");
+            }
+            next = next == Qt::Key_Up ? Qt::Key_Down : Qt::Key_Up;
         }
     });
 }
