@@ -15,6 +15,7 @@
 
 #include "platform/demo_printers.h"
 #include "platform/menu.h"
+#include "platform/no_dialogs.h"
 #include "platform/qt/form_window.h"
 #include "platform/qt/local_file_system.h"
 #include "platform/status_bar.h"
@@ -45,16 +46,6 @@ public:
 class NobodyElse final : public Instances {
 public:
     bool AnotherRuns() override { return false; }
-};
-
-class NobodyToAsk final : public Dialogs {
-public:
-    Answer Message(const std::string& /*text*/, const std::string& /*title*/, Icon /*icon*/,
-                   Buttons /*buttons*/) override {
-        return Answer::Ok;
-    }
-    std::optional<Colour> ChooseColour() override { return std::nullopt; }
-    void Language(const std::string& /*locale*/) override {}
 };
 
 class NoReader final : public Documents {
@@ -131,7 +122,7 @@ private:
     StillClock clock_;
     PaperScreen screen_;
     LocalFileSystem files_;
-    NobodyToAsk dialogs_;
+    NoDialogs dialogs_;
     NobodyElse instances_;
     Silence sounds_;
     NoReader documents_;

@@ -19,6 +19,12 @@ struct Opzione {
 constexpr std::array Opzioni{
     Opzione{"--help", "", "show this and end", Compito::Aiuto},
     Opzione{"--version", "", "show the version and end", Compito::Versione},
+    Opzione{"--quaderno", "FILE.pdf", "write a book of mazes, one a page, and end",
+            Compito::Quaderno},
+    Opzione{"--livello", "N", "of that level, 1 to 16", Compito::Quaderno},
+    Opzione{"--numero", "N", "so many mazes, 1 to 1000", Compito::Quaderno},
+    Opzione{"--seme", "N", "the same number gives the same mazes", Compito::Quaderno},
+    Opzione{"--soluzioni", "", "with all solutions at the end", Compito::Quaderno},
     Opzione{"-display", "NAME", "the X server to play on, instead of $DISPLAY", {}},
     Opzione{"-platform", "NAME", "another kind of display: xcb, wayland, offscreen", {}},
     Opzione{"-session", "ID", "set by the desktop that brings back its last session", {}},

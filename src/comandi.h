@@ -9,7 +9,7 @@
 namespace trameli {
 
 /// What the program is started for.
-enum class Compito { Gioco, Aiuto, Versione };
+enum class Compito { Gioco, Aiuto, Versione, Quaderno };
 
 /// What a command line says, or what is wrong with it.
 struct Comandi {

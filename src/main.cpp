@@ -6,6 +6,7 @@
 #include "comandi.h"
 #include "platform/desktop.h"
 #include "program.h"
+#include "stampa_quaderno.h"
 
 namespace {
 
@@ -40,6 +41,11 @@ int main(int argc, char** argv) {
             return Tell(stdout, trameli::TestoAiuto(), 0);
         case trameli::Compito::Versione:
             return Tell(stdout, trameli::TestoVersione(), 0);
+        case trameli::Compito::Quaderno: {
+            const trameli::EsitoQuaderno esito =
+                trameli::StampaQuaderno(argc, argv, comandi.Opzioni);
+            return esito.Errore.empty() ? 0 : Tell(stderr, esito.Errore + "\n", esito.Codice);
+        }
         case trameli::Compito::Gioco:
             break;
     }

@@ -41,4 +41,9 @@ constexpr DimensioniGriglia DimensioniDi(int livello) {
     return dimensioni.at(static_cast<std::size_t>(livello));
 }
 
+/// Whether the symbol walks by itself there.
+constexpr bool ATempo(int livello) {
+    return livello >= 5 && livello <= 7;
+}
+
 }  // namespace trameli

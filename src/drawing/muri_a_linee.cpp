@@ -39,20 +39,26 @@ Segmento SegmentoMuro(Cella cella, Lato lato, const Geometria& geometria) {
     return {{x(spigoli.X1), y(spigoli.Y1)}, {x(spigoli.X2), y(spigoli.Y2)}};
 }
 
-void DisegnaMuriALinee(Surface& superficie, const Tramelo& tramelo, const Geometria& geometria,
-                       double spessoreMuri, Estremi estremi, Colour colore) {
-    const auto disegna = estremi == Estremi::Quadri ? &Surface::DrawBox : &Surface::DrawLine;
-    superficie.DrawWidth(Nearest(spessoreMuri));
+void PerOgniMuro(const Tramelo& tramelo, const Geometria& geometria,
+                 const std::function<void(const Segmento&)>& azione) {
     for (std::int16_t r = 1; r <= tramelo.Righe(); ++r) {
         for (std::int16_t c = 1; c <= tramelo.Colonne(); ++c) {
             for (const Lato lato : Ordine) {
                 if (tramelo.Muri(r, c, lato)) {
-                    const auto [da, a] = SegmentoMuro({r, c}, lato, geometria);
-                    (superficie.*disegna)(da.X, da.Y, a.X, a.Y, colore);
+                    azione(SegmentoMuro({r, c}, lato, geometria));
                 }
             }
         }
     }
+}
+
+void DisegnaMuriALinee(Surface& superficie, const Tramelo& tramelo, const Geometria& geometria,
+                       double spessoreMuri, Estremi estremi, Colour colore) {
+    const auto disegna = estremi == Estremi::Quadri ? &Surface::DrawBox : &Surface::DrawLine;
+    superficie.DrawWidth(Nearest(spessoreMuri));
+    PerOgniMuro(tramelo, geometria, [&](const Segmento& muro) {
+        (superficie.*disegna)(muro.Da.X, muro.Da.Y, muro.A.X, muro.A.Y, colore);
+    });
 }
 
 }  // namespace trameli

@@ -55,4 +55,21 @@ std::int16_t QuantiMuriDaAbbattere(int livello, std::int16_t muriRimasti) {
     return Saturated(Trova(livello).DaAbbattere(muriRimasti));
 }
 
+void CreaTramelo(Tramelo& tramelo, int livello, const std::function<void()>& apri) {
+    const Ricetta ricetta = RicettaDi(livello);
+    tramelo.CreaNuovaGriglia();
+    if (ricetta == Ricetta::ScatolaVuota) {
+        tramelo.NessunMuro();
+    }
+    tramelo.NonEliminareMuriEsterni();
+    apri();
+    if (ricetta != Ricetta::ScatolaVuota) {
+        tramelo.Scava();
+    }
+    if (ricetta == Ricetta::ScavataEAllargata) {
+        tramelo.ContaMuriRimasti();
+        tramelo.AbbattiAltriMuri(QuantiMuriDaAbbattere(livello, tramelo.MuriRimasti()));
+    }
+}
+
 }  // namespace trameli

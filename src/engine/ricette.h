@@ -3,6 +3,9 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+
+#include "engine/tramelo.h"
 
 namespace trameli {
 
@@ -19,5 +22,9 @@ Ricetta RicettaDi(int livello);
 /// How many more walls to knock down at levels 1 to 4, 6 and 7, from the figure that
 /// Tramelo::ContaMuriRimasti leaves; 0 at the levels whose recipe has no such step.
 std::int16_t QuantiMuriDaAbbattere(int livello, std::int16_t muriRimasti);
+
+/// Makes a maze of the level. `apri` chooses start and finish and opens them: that has its place
+/// among the draws.
+void CreaTramelo(Tramelo& tramelo, int livello, const std::function<void()>& apri);
 
 }  // namespace trameli

@@ -2,11 +2,12 @@
 
 #include <string>
 
+#include "drawing/arrivi.h"
+
 namespace trameli {
 
 namespace {
 
-constexpr int NumeroArrivi = 20;
 constexpr int NumeroMuri = 4;
 constexpr double Lato = 1200;  // twips; those who take a picture stretch it to their own size
 
@@ -15,8 +16,7 @@ constexpr double Lato = 1200;  // twips; those who take a picture stretch it to 
 FormArchivio::FormArchivio(trameli::Forms& forms)
     : Form(forms, "FormArchivio", {Lato, Lato * NumeroArrivi}) {
     for (int i = 0; i < NumeroArrivi; ++i) {
-        const std::string numero = (i < 10 ? "0" : "") + std::to_string(i);
-        Image2.Add(*this, Bounds{0, Lato * i, Lato, Lato}, Picture{"arrivo/" + numero + ".svg"});
+        Image2.Add(*this, Bounds{0, Lato * i, Lato, Lato}, ImmagineArrivo(i));
     }
     for (int i = 0; i < NumeroMuri; ++i) {
         PictureBox& muro = PictureMuro.Add(*this, Bounds{Lato, Lato * i, Lato, Lato});

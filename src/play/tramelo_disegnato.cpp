@@ -26,20 +26,7 @@ AspettoTraccia FormTrm::Aspetto() const {
 }
 
 void FormTrm::GeneraTramelo() {
-    const Ricetta ricetta = RicettaDi(stato_.Livello);
-    tramelo_.CreaNuovaGriglia();
-    if (ricetta == Ricetta::ScatolaVuota) {
-        tramelo_.NessunMuro();
-    }
-    tramelo_.NonEliminareMuriEsterni();
-    giocatore_.Colloca(TrovaPartenzaArrivo());
-    if (ricetta != Ricetta::ScatolaVuota) {
-        tramelo_.Scava();
-    }
-    if (ricetta == Ricetta::ScavataEAllargata) {
-        tramelo_.ContaMuriRimasti();
-        tramelo_.AbbattiAltriMuri(QuantiMuriDaAbbattere(stato_.Livello, tramelo_.MuriRimasti()));
-    }
+    CreaTramelo(tramelo_, stato_.Livello, [this] { giocatore_.Colloca(TrovaPartenzaArrivo()); });
     AzzeraVariabili();
     InserisciArrivo();
     DisegnaTramelo();

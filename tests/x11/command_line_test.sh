@@ -32,4 +32,21 @@ expect 2 '' "*no display*DISPLAY is ':nowhere'*" "$game" -display :nowhere
 expect 2 '' "*no display*" QT_QPA_PLATFORM=nothing "$game"
 # The server's own library has something to say about that, too.
 expect 2 '' '*no display*' XAUTHORITY=/dev/null "$game"
+
+# A book of mazes needs no display.
+book() { expect 0 '' '*' -u DISPLAY "$game" --quaderno "$HOME/$1.pdf" --livello 12 --numero 13 "${@:2}"; }
+book one --seme 5 --soluzioni
+book again --seme 5 --soluzioni
+book other --seme 6
+cmp "$HOME/one.pdf" "$HOME/again.pdf" || failed=1
+[[ $(pdfinfo "$HOME/one.pdf") == *"Pages: "*15$'\n'* ]] || failed=1
+[[ $(pdfinfo "$HOME/other.pdf") == *"Pages: "*13$'\n'* ]] || failed=1
+[[ $(pdftotext "$HOME/one.pdf" -) != $(pdftotext "$HOME/other.pdf" -) ]] || failed=1
+for wrong in '--livello 17' '--livello 1 --numero 0' '--livello 1 --seme x' '--numero 2'; do
+    # shellcheck disable=SC2086
+    expect 2 '' "*needs a *" "$game" --quaderno "$HOME/wrong.pdf" $wrong
+done
+expect 2 '' "*'--quaderno' needs a file*" "$game" --livello 1
+expect 1 '' '*cannot be written' "$game" --quaderno /dev/null/wrong.pdf --livello 1
+[[ ! -e $HOME/wrong.pdf ]] || failed=1
 exit "$failed"

@@ -8,11 +8,15 @@
 
 /// The pictures lie in a static library, where nothing else makes the linker keep them. Outside
 /// every namespace, as the toolkit wants it.
-static void LoadPictures() {
+static void LoadResources() {
     Q_INIT_RESOURCE(assets);
 }
 
 namespace trameli {
+
+void LoadPictures() {
+    LoadResources();
+}
 
 void PrepareToolkit() {
     // The forms bring their own colours; with a desktop's dark or coloured theme the texts in
