@@ -140,7 +140,8 @@ void Forms::Unload(Form& form) {
             timer->Enabled(false);
         }
     }
-    const bool inFront = form.native_->Window.isActiveWindow();
+    // A modal one that went so soon that it never was leaves nobody in front.
+    const bool inFront = form.native_->Window.isActiveWindow() || form.native_->Window.isModal();
     form.native_->Window.Dismiss();
     const auto place = PlaceOf(form);
     buried_.push_back(std::move(*place));
