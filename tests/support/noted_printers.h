@@ -25,7 +25,6 @@ public:
         int Colour = PrinterSettings::Coloured;  ///< what it has where nothing else is asked
         SheetSize Millimetres{200, 280};
         int PixelsPerMillimetre = 10;
-        std::string Paper = "A4";
     };
     struct Document {
         std::string Printer;
@@ -63,7 +62,6 @@ public:
     std::function<bool(PrinterSettings&)> DialogAnswers;  ///< the user in the properties dialog
     std::vector<Document> Documents;
     std::vector<Form_> Printed;
-    int Opened = 0;  ///< how often any printer was opened
 
     std::vector<std::string> Names() override {
         std::vector<std::string> names;
@@ -74,7 +72,6 @@ public:
     }
     std::string Default() override { return Standard; }
     std::unique_ptr<Printer> Open(const std::string& name) override {
-        ++Opened;
         return Answer.Open && Find(name) ? std::make_unique<Opened_>(*this, name) : nullptr;
     }
     std::unique_ptr<PrintContext> CreateContext(const std::string& name,
@@ -105,7 +102,6 @@ private:
             }
             if (settings.FilledBy != Name) {
                 settings.Colour = model->Colour;
-                settings.Other["media"] = model->Paper;
                 settings.FilledBy = Name;
             }
             settings.Orientation = std::max<int>(settings.Orientation, PrinterSettings::Portrait);
