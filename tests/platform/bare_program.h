@@ -40,15 +40,11 @@ protected:
     /// On `screen`, or on one of so many pixels without a desktop.
     ProgramOf(Maker maker, int width, int height, Screen* screen = nullptr)
         : Display{width, height}, Program(Time, screen ? *screen : Display), maker_(maker) {
-        Introduce(Program);
-    }
-
-    /// Makes A and B known to a program.
-    void Introduce(Forms& program) {
         for (const char* name : {"A", "B"}) {
-            program.Register(name, [this, name](Forms& forms) { return maker_(forms, name); });
+            Program.Register(name, [this, name](Forms& forms) { return maker_(forms, name); });
         }
     }
+
     TheirForm& Get(const std::string& name) {
         return dynamic_cast<TheirForm&>(*Program.Find(name));
     }

@@ -7,52 +7,7 @@
 namespace trameli {
 namespace {
 
-class FormTest : public ScriptedProgram {
-protected:
-    /// Shows A in a further program, which has no other form.
-    ScriptedForm& BringIn(Forms& program) {
-        Introduce(program);
-        program.Show("A");
-        Pump();
-        auto& form = dynamic_cast<ScriptedForm&>(*program.Find("A"));
-        form.First.SetFocus();
-        Seen.clear();
-        return form;
-    }
-};
-
-TEST_F(FormTest, IsPresentedAfterItsLoadWhateverHappensMeanwhile) {
-    const Log shown{"B Load", "B Load over", "B Resize", "B Activate"};
-    const struct {
-        const char* What;
-        std::function<void(Forms&)> Meanwhile;
-        Log Seen;
-    } cases[] = {
-        {"shown again", [](Forms& forms) { forms.Show("B"); }, shown},
-        {"loaded again", [](Forms& forms) { forms.Load("B"); }, shown},
-        {"the last form on the screen goes",
-         [](Forms& forms) { forms.Unload(*forms.Find("A")); },
-         {"B Load", "A Unload", "B Load over", "B Resize", "B Activate"}},
-        {"unloaded",
-         [](Forms& forms) { forms.Unload(*forms.Find("B")); },
-         {"B Load", "B Unload", "B Load over"}},
-        {"the end", [](Forms& forms) { forms.End(); }, {"B Load", "B Load over"}},
-    };
-    for (const auto& one : cases) {
-        SCOPED_TRACE(one.What);
-        Forms program{Time, Display};
-        BringIn(program);
-        Scripts["B"].Load = [&](ScriptedForm& form) {
-            one.Meanwhile(program);
-            program.ServeEvents();
-            EXPECT_FALSE(WindowOf(form).isVisible());
-            form.Note("Load over");
-        };
-        program.Show("B");
-        Pump();
-        EXPECT_EQ(Seen, one.Seen);
-    }
-}
+using FormTest = ScriptedProgram;
 
 TEST_F(FormTest, HearsNothingWhileAnotherOneTakesItsPlace) {
     ScriptedForm& form = Bring("A");

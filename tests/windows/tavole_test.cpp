@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QClipboard>
 #include <QTabBar>
 #include <QTest>
 #include <deque>
@@ -302,6 +303,11 @@ private:
                  QTest::sendKeyEvent(QTest::Click, WindowOf(Davanti()).windowHandle(),
                                      Qt::Key_unknown, QString(lettera), Qt::NoModifier);
              }
+         }},
+        {"paste",
+         [this](const std::string& testo) {
+             QApplication::clipboard()->setText(QString::fromStdString(testo));
+             Tap(Davanti(), Qt::Key_V, Qt::ControlModifier);
          }},
         {"menu", [this](const std::string& voce) { Partita::Scegli(Davanti(), voce); }},
         {"close", [this](const std::string&) { Partita::Chiudi(Davanti()); }},
