@@ -1,6 +1,5 @@
 #include "play/form_finale.h"
 
-#include <algorithm>
 #include <initializer_list>
 #include <string>
 #include <utility>
@@ -20,11 +19,6 @@ constexpr Form::DesignSize Dimensioni{9915, 7680};
 constexpr Colour Sfondo = Rgb(0, 0, 32);
 constexpr double AttesaIniziale = 1;  // seconds
 
-/// Half of the room that is left, in whole pixels, so that no control changes its size by one.
-double Margine(double spazio, double pixel) {
-    return std::max(0, Floor(spazio / 2 / pixel)) * pixel;
-}
-
 /// Whether a dark rim sets the colour off better than a light one.
 bool Chiaro(Colour colore) {
     return 3 * RedOf(colore) + 6 * GreenOf(colore) + BlueOf(colore) > 5 * 255;
@@ -40,6 +34,7 @@ FormFinale::FormFinale(trameli::Forms& forms, Servizi& servizi, Casuale& casuale
       Label2(*this, "Label2", {360, 3960, 3855, 3135}, ""),
       Command1(*this, "Command1", {7440, 5040, 1935, 735}, "Resta a questo livello"),
       Command2(*this, "Command2", {7440, 5880, 1935, 735}, "Vai al prossimo livello"),
+      EssResizer1(*this),
       servizi_(servizi),
       stato_(servizi.Stato),
       casuale_(casuale),
@@ -75,6 +70,7 @@ FormFinale::FormFinale(trameli::Forms& forms, Servizi& servizi, Casuale& casuale
 }
 
 void FormFinale::Form_Load() {
+    EssResizer1.Carica();
     Lingue& lingue = servizi_.Lingue;
     lingue.TraduciForm(*this);
     if (!Loaded()) {
@@ -94,7 +90,7 @@ void FormFinale::Form_Load() {
 }
 
 void FormFinale::Form_Resize() {
-    Centra();
+    EssResizer1.RidimensionaInProporzione();
     DisegnaSfondo();
 }
 
@@ -157,20 +153,6 @@ void FormFinale::DisegnaSfondo() {
     const double pixel = Forms().Screen().TwipsPerPixelX();
     Canvas().Cls();
     DisegnaSfumatura(Canvas(), SchemaColori, Width() / pixel, Height() / pixel);
-}
-
-/// Moves all controls together, so that the layout stands in the middle of any window.
-void FormFinale::Centra() {
-    const double pixel = Forms().Screen().TwipsPerPixelX();
-    const double left = Margine(Width() - Dimensioni.Width, pixel);
-    const double top = Margine(Height() - Dimensioni.Height, pixel);
-    for (PlacedControl* controllo : std::initializer_list<PlacedControl*>{
-             &Image1, &LabelNome, &Label1, &Label2, &Command1, &Command2}) {
-        controllo->Left(controllo->Left() + left - margineSinistro_);
-        controllo->Top(controllo->Top() + top - margineSuperiore_);
-    }
-    margineSinistro_ = left;
-    margineSuperiore_ = top;
 }
 
 GiroOfferte::Offerta FormFinale::OffertaDi(CommandButton& bottone) {

@@ -6,6 +6,7 @@
 #include "platform/form.h"
 #include "platform/image.h"
 #include "platform/label.h"
+#include "scaling/ess_resizer.h"
 #include "shell/giro_offerte.h"
 #include "shell/servizi.h"
 
@@ -26,6 +27,7 @@ public:
     Label Label2;            ///< the level that was solved
     CommandButton Command1;  ///< stays at the level
     CommandButton Command2;  ///< goes on
+    EssResizer EssResizer1;
 
 protected:
     void Form_Load() override;
@@ -42,7 +44,6 @@ private:
     void Command2_Click();
 
     void DisegnaSfondo();
-    void Centra();
     GiroOfferte::Offerta OffertaDi(CommandButton& bottone);
     void Evidenzia(CommandButton& bottone);
     void ApriGioco();
@@ -52,8 +53,6 @@ private:
     Casuale& casuale_;
 
     int SchemaColori = 0;         ///< 0 to 6
-    double margineSinistro_ = 0;  ///< how far the controls stand from their design places
-    double margineSuperiore_ = 0;
     bool attivato_ = false;       ///< has come to the front once
     CommandButton* evidenziato_;  ///< has the focus, or will have it with the window
     GiroOfferte giro_;            ///< goes from button to button for those who have switches

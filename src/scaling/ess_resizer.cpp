@@ -29,12 +29,25 @@ void EssResizer::Carica() {
 }
 
 void EssResizer::Ridimensiona() {
-    // Nothing was recorded yet, or the window is folded away.
-    if (larghezza_ <= 0 || altezza_ <= 0 || form_.Width() <= 0 || form_.Height() <= 0) {
-        return;
+    if (Misurabile()) {
+        Colloca(form_.Width() / larghezza_, form_.Height() / altezza_, 0, 0);
     }
-    const double orizzontale = form_.Width() / larghezza_;
-    const double verticale = form_.Height() / altezza_;
+}
+
+void EssResizer::RidimensionaInProporzione() {
+    if (Misurabile()) {
+        const double scala = std::min(form_.Width() / larghezza_, form_.Height() / altezza_);
+        Colloca(scala, scala, (form_.Width() - scala * larghezza_) / 2,
+                (form_.Height() - scala * altezza_) / 2);
+    }
+}
+
+/// Not before anything was recorded, nor while the window is folded away.
+bool EssResizer::Misurabile() const {
+    return larghezza_ > 0 && altezza_ > 0 && form_.Width() > 0 && form_.Height() > 0;
+}
+
+void EssResizer::Colloca(double orizzontale, double verticale, double left, double top) {
     // Always from the record: scaling what was scaled before would add up the roundings.
     for (Control* controllo : form_.Controls()) {
         const auto disegno = disegni_.find(controllo);
@@ -43,8 +56,8 @@ void EssResizer::Ridimensiona() {
         }
         const auto& [posto, punti] = disegno->second;
         dynamic_cast<PlacedControl&>(*controllo)
-            .Place({posto.Left * orizzontale, posto.Top * verticale, posto.Width * orizzontale,
-                    posto.Height * verticale});
+            .Place({left + posto.Left * orizzontale, top + posto.Top * verticale,
+                    posto.Width * orizzontale, posto.Height * verticale});
         if (auto* const conScritta = dynamic_cast<InteractiveControl*>(controllo)) {
             Font carattere = conScritta->Font();
             carattere.Points = punti * std::min(orizzontale, verticale);

@@ -19,6 +19,8 @@ public:
 
     /// Lays the controls out for the form's present size. Belongs into `Form_Resize`.
     void Ridimensiona();
+    /// The same with one scale for both directions, in the middle of the form.
+    void RidimensionaInProporzione();
 
 private:
     /// A control as it was laid out.
@@ -26,6 +28,9 @@ private:
         Bounds Posto;
         double Punti;  // 0 where nothing is written
     };
+
+    bool Misurabile() const;
+    void Colloca(double orizzontale, double verticale, double left, double top);
 
     Form& form_;
     double larghezza_ = 0;

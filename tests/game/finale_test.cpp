@@ -69,9 +69,12 @@ TEST_F(Finale, TellsPlayerAndLevelInTheMiddleOfTheWindowWhateverItsSize) {
     for (const QSize misura : {QSize(1366, 768), QSize(801, 601), QSize(1080, 1920)}) {
         WindowOf(form).resize(misura);
         Pump();
-        EXPECT_NEAR(Bottone(2).Left(), 7440 + (form.Width() - 9915) / 2, pixel);
-        EXPECT_NEAR(Bottone(2).Top(), 5880 + (form.Height() - 7680) / 2, pixel);
-        EXPECT_EQ(WidgetOf(Bottone(2)).size(), QSize(129, 49));  // in whole pixels
+        const double scala = std::min(form.Width() / 9915, form.Height() / 7680);
+        const double left = (form.Width() - scala * 9915) / 2 + scala * 7440;
+        const double top = (form.Height() - scala * 7680) / 2 + scala * 5880;
+        EXPECT_NEAR(Bottone(2).Left(), left, pixel);
+        EXPECT_NEAR(Bottone(2).Top(), top, pixel);
+        EXPECT_NEAR(Bottone(2).Width(), scala * 1935, pixel);
     }
 }
 
