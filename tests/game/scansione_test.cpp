@@ -155,5 +155,25 @@ TEST_F(ConInterruttori, WithOneKeyTheOfferStandsStillWhileTheKeyIsDownAndIsTheOn
     EXPECT_EQ(tavolo.Passi() + tavolo.Urti(), 1);
 }
 
+TEST_F(ConInterruttori, WithOneKeyNothingIsOnShowOrTakenBeforeATick) {
+    const Tavolo tavolo = Apri(9, Automatica);
+    partenza_ = tavolo.Partenza();
+    const int dentro = Offerta(Contrario(partenza_.Lato));
+    partita_.Tempo.Advance(Giro - 0.01);
+    Spazio(tavolo.Form_);
+    EXPECT_EQ(tavolo.Urti() + tavolo.Passi(), 0);
+    partita_.Tempo.Advance(0.01);
+    while (TrattiAllInizio(tavolo) != std::vector{Offerta(partenza_.Lato)}) {
+        Tic();
+    }
+    Spazio(tavolo.Form_);
+    partita_.Tempo.Advance(DopoUnTasto);
+    Spazio(tavolo.Form_);
+    EXPECT_EQ(tavolo.Urti(), 1);
+    EXPECT_TRUE(TrattiAllInizio(tavolo).empty());
+    partita_.Tempo.Advance(2 * Giro - DopoUnTasto);
+    EXPECT_EQ(TrattiAllInizio(tavolo), std::vector{dentro});
+}
+
 }  // namespace
 }  // namespace trameli

@@ -38,6 +38,9 @@ TEST_P(Ritorno, IsAnotherColourIfThePlayerWantsIt) {
     const std::vector<int> via(passi.begin() + 1, passi.end() - 1);
     std::vector<int> indietro(via.rbegin(), via.rend());
     std::transform(indietro.begin(), indietro.end(), indietro.begin(), Contrario);
+    // A new start knows nothing of the way before it.
+    tavolo.Cammina({passi[0], passi[1]});
+    Comando(tavolo, Qt::Key_R);
     tavolo.Passo(passi[0]);
     for (int volta = 0; volta < 4; ++volta) {
         const bool avanza = volta % 2 == 0;
