@@ -164,6 +164,7 @@ TEST_F(ATempo, ANewMazeHasAllSunsAndAWaitOfItsOwn) {
     CtrlN();
     EXPECT_NEAR(partita_.Tempo.Now(), inizio + 2 + TreSecondi, 1e-6);
     EXPECT_EQ(Soli(), 5);
+    EXPECT_EQ(IlTavolo().Urti(), 0);
     EXPECT_TRUE(Orologio().Enabled());
 }
 
