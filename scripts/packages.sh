@@ -23,6 +23,8 @@ packages_test=(libgtest-dev xvfb xdotool "${packages_display[@]}" cups ghostscri
 # The package: what makes it and what looks it through. What is needed to build the game inside it
 # stands in debian/control once more, because Debian's tools read nothing else.
 packages_package=(dpkg-dev debhelper lintian desktop-file-utils appstream reuse)
+# Trying it on a bare system.
+packages_try=(mmdebstrap xvfb xauth openbox xdotool)
 # The start of the game is measured in a real window.
 packages_bench=(libbenchmark-dev xvfb openbox)
 
