@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/bounds.h"
 #include "platform/colour.h"
 #include "platform/font.h"
 #include "platform/picture.h"
@@ -17,16 +18,6 @@ namespace trameli {
 class Form;
 class Container;
 class PropertyAccess;
-
-/// Place and size in twips, relative to the container.
-struct Bounds {
-    double Left = 0;
-    double Top = 0;
-    double Width = 0;
-    double Height = 0;
-
-    bool operator==(const Bounds&) const = default;
-};
 
 /// Name of a control, with its index if it is an element of a control array.
 struct ControlName {

@@ -4,8 +4,8 @@
 #include <memory>
 #include <string>
 
+#include "platform/bounds.h"
 #include "platform/colour.h"
-#include "platform/control.h"
 #include "platform/picture.h"
 
 namespace trameli {

@@ -11,10 +11,6 @@ namespace {
 
 constexpr int TastoIndietro = 8;
 
-float Rapporto(int sopra, int sotto) {
-    return static_cast<float>(sopra) / static_cast<float>(sotto);
-}
-
 int Limitato(int valore, const Limiti& limiti) {
     return std::clamp(valore, limiti.Minimo, limiti.Massimo);
 }
@@ -27,6 +23,10 @@ PostoStampa PerFattore(float fattore, const PostoStampa& posto) {
 }
 
 }  // namespace
+
+float Rapporto(int larghezza, int altezza) {
+    return static_cast<float>(larghezza) / static_cast<float>(altezza);
+}
 
 double NumeroDi(std::string_view testo) {
     testo.remove_prefix(std::min(testo.find_first_not_of(" \t"), testo.size()));

@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "platform/control.h"
+#include "platform/bounds.h"
 #include "platform/pixel_block.h"
 #include "platform/printers.h"
 
@@ -25,13 +25,18 @@ struct Limiti {
     int Minimo;
     int Massimo;
 };
-inline constexpr Limiti LimitiMisura{1, 2000};
-inline constexpr Limiti LimitiMargine{-2000, 2000};
+inline constexpr Limiti LimitiMisura{1, 2000};       ///< of width and height
+inline constexpr Limiti FrecceMisura{2, 2000};       ///< the same by the arrows: a 1 is only typed
+inline constexpr Limiti LimitiMargine{-2000, 2000};  ///< of the margins, however they are set
+inline constexpr Limiti FrecceCopie{1, 100};         ///< copies by the arrows
 
 /// False for a printer that could not be asked, whose sheet has no size.
 constexpr bool HaMisura(const SheetSize& foglio) {
     return foglio.Width > 0 && foglio.Height > 0;
 }
+
+/// How much width there is for a height of 1.
+float Rapporto(int larghezza, int altezza);
 
 /// The number that a text begins with, decimal point allowed; 0 if it begins with none.
 double NumeroDi(std::string_view testo);

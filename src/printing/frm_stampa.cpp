@@ -14,16 +14,12 @@ namespace {
 
 constexpr Form::DesignSize Dimensioni{9360, 7845};
 constexpr int Sottile = 1;
-constexpr Colour Cornice = Rgb(128, 128, 128);
+constexpr Colour Contorno = Rgb(128, 128, 128);
 constexpr Colour Avviso = Rgb(255, 255, 192);
 
 const Font Leggibile{"Arial", 9, false};
 const Font Grassetto{"Arial", 9, true};
 const Font Compatto{"Arial", 8.25, true};
-
-constexpr Limiti Margini{-2000, 2000};
-constexpr Limiti Misure{2, 2000};  // a 1 can only be typed
-constexpr Limiti Copie{1, 100};
 
 std::string NomeDi(const frmStampa::Sorgente& sorgente) {
     return std::visit([](const auto* cosa) { return cosa->Name(); }, sorgente);
@@ -45,7 +41,7 @@ frmStampa::frmStampa(trameli::Forms& forms, Servizi& servizi, StatoStampa& stato
       cmdProprieta(zFrame1, "cmdProprieta", {4680, 360, 1815, 555}, "Proprietà"),
 
       fraFoglio(*this, "fraFoglio", {360, 1560, 5055, 2535}, "Foglio"),
-      shpFoglio(fraFoglio, "shpFoglio", {360, 360, 2895, 1815}, Sottile, Cornice),
+      shpFoglio(fraFoglio, "shpFoglio", {360, 360, 2895, 1815}, Sottile, Contorno),
       shpBordo(fraFoglio, "shpBordo", {360, 360, 2805, 1845}, Sottile, Black),
       picPreview(fraFoglio, "picPreview", {360, 360, 2415, 1455}),
       lblStampaInCorso(picPreview, "lblStampaInCorso", {360, 600, 1095, 495}, "Stampa in corso..."),
@@ -54,26 +50,30 @@ frmStampa::frmStampa(trameli::Forms& forms, Servizi& servizi, StatoStampa& stato
 
       lblLblNCopie(*this, "lblLblNCopie", {5880, 2760, 1215, 375}, "N. di copie:"),
       txtNCopies(*this, "txtNCopies", {5880, 3120, 945, 345}),
-      updNCopies(*this, "updNCopies", {6960, 3165, 240, 285}, txtNCopies, Copie.Minimo,
-                 Copie.Massimo),
+      updNCopies(*this, "updNCopies", {6960, 3165, 240, 285}, txtNCopies, FrecceCopie.Minimo,
+                 FrecceCopie.Massimo),
 
       zFrame2(*this, "zFrame2", {120, 4320, 4215, 1695}, "Margini Stampa"),
       zLabel7(zFrame2, "zLabel7", {120, 360, 735, 255}, "S&inistro:"),
       txtPrX(zFrame2, "txtPrX", {960, 360, 705, 285}),
-      updPrX(zFrame2, "updPrX", {1665, 360, 270, 285}, txtPrX, Margini.Minimo, Margini.Massimo),
+      updPrX(zFrame2, "updPrX", {1665, 360, 270, 285}, txtPrX, LimitiMargine.Minimo,
+             LimitiMargine.Massimo),
       zLabel9(zFrame2, "zLabel9", {0, 840, 855, 255}, "S&uperiore:"),
       txtPrY(zFrame2, "txtPrY", {960, 840, 705, 285}),
-      updPrY(zFrame2, "updPrY", {1680, 840, 240, 285}, txtPrY, Margini.Minimo, Margini.Massimo),
+      updPrY(zFrame2, "updPrY", {1680, 840, 240, 285}, txtPrY, LimitiMargine.Minimo,
+             LimitiMargine.Massimo),
       cmdOrigine(zFrame2, "cmdOrigine", {2160, 360, 1695, 795}, "Alto sinistra"),
       chkCentro(zFrame2, "chkCentro", {240, 1320, 3015, 255}, "Stampa &al centro"),
 
       zFrame3(*this, "zFrame3", {4560, 4320, 4215, 1695}, "Dimensioni Stampa"),
       zLabel8(zFrame3, "zLabel8", {0, 360, 1095, 255}, "Largh&ezza:"),
       txtPrW(zFrame3, "txtPrW", {1200, 360, 705, 285}),
-      updPrW(zFrame3, "updPrW", {1905, 360, 270, 285}, txtPrW, Misure.Minimo, Misure.Massimo),
+      updPrW(zFrame3, "updPrW", {1905, 360, 270, 285}, txtPrW, FrecceMisura.Minimo,
+             FrecceMisura.Massimo),
       zLabel2(zFrame3, "zLabel2", {240, 840, 855, 255}, "Alte&zza:"),
       txtPrH(zFrame3, "txtPrH", {1200, 840, 705, 285}),
-      updPrH(zFrame3, "updPrH", {1920, 840, 240, 285}, txtPrH, Misure.Minimo, Misure.Massimo),
+      updPrH(zFrame3, "updPrH", {1920, 840, 240, 285}, txtPrH, FrecceMisura.Minimo,
+             FrecceMisura.Massimo),
       cmdMax(zFrame3, "cmdMax", {2400, 360, 1455, 795}, "Massima"),
       chkProporzioni(zFrame3, "chkProporzioni", {240, 1320, 3495, 255}, "&Mantieni proporzioni"),
 
@@ -82,7 +82,7 @@ frmStampa::frmStampa(trameli::Forms& forms, Servizi& servizi, StatoStampa& stato
       imgPrinter(*this, "imgPrinter", {2280, 2400, 1320, 1065}, {"stampa/stampante.svg"}),
 
       picZoom(*this, "picZoom", {240, 0, 8775, 1515}),
-      shpFoglioZoom(picZoom, "shpFoglioZoom", {3780, 1200, 315, 315}, Sottile, Cornice),
+      shpFoglioZoom(picZoom, "shpFoglioZoom", {3780, 1200, 315, 315}, Sottile, Contorno),
       picPreviewZoom(picZoom, "picPreviewZoom", {3840, 1260, 195, 195}),
 
       servizi_(servizi),
@@ -177,7 +177,7 @@ void frmStampa::StampaFPB(const Sorgente& sorgente, int x, int y, int w, int h, 
     txtPrY.Text(std::to_string(y));
     txtPrW.Text(std::to_string(w));
     txtPrH.Text(std::to_string(h));
-    stato_.Proporzione = static_cast<float>(w) / static_cast<float>(h);
+    stato_.Proporzione = Rapporto(w, h);
     if (const std::optional<std::string> errore = Cattura()) {
         servizi_.Dialogs.Message(*errore, TitoloStampa, Icon::Critical, Buttons::Ok);
         Fallisci(testo(TestoStampa::UnErrore));

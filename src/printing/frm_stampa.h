@@ -86,8 +86,7 @@ public:
     /// As Stampa::StampaFPB, with this window, for whatever is asked for.
     void StampaFPB(const Sorgente& sorgente, int x, int y, int w, int h, int orientamento,
                    const std::string& nomeDocumento);
-    /// Sheet size in millimetres of the printer in force without opening the window, -1 and -1 if
-    /// it cannot be told; `orientamento` is 1 or 2.
+    /// As Stampante::FoglioStampa, without opening the window.
     void FoglioStampa(int& w, int& h, std::optional<int> orientamento = std::nullopt);
 
 protected:
@@ -124,8 +123,9 @@ private:
     void DimensionaFoglio();
     void DisponiMiniatura();
     void AggiornaAnteprima();
-    void AggiornaSeVisibile();
+    void AggiornaSeHaMisura();
     void AggiornaZoom();
+    bool IngrandisciFoglio();
     void ErroreDiCopia(const TestoNumerato& titolo);
     bool DisegnaImmagine(PictureBox& superficie);
     void picPreview_Click();

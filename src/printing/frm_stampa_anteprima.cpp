@@ -25,6 +25,7 @@ void frmStampa::DisponiAnteprima() {
     picPreview.Click = [this] { picPreview_Click(); };
 
     picZoom.Visible(false);
+    picZoom.TakesKeyboard(false);  // what lies on it does
     picZoom.Click = [this] { picZoom_Click(); };
     picPreviewZoom.AccessibleName("Anteprima di stampa ingrandita");
     picPreviewZoom.TakesKeyboard(true);
@@ -73,22 +74,25 @@ void frmStampa::AggiornaAnteprima() {
 }
 
 void frmStampa::AggiornaZoom() {
+    if (!IngrandisciFoglio()) {
+        ErroreDiCopia(TestoStampa::TitoloZoom);
+    }
+}
+
+bool frmStampa::IngrandisciFoglio() {
     const HoldPainting insieme(*this);
     picZoom.Place({BordoZoom, BordoZoom, std::max(0.0, ScaleWidth() - 2 * BordoZoom),
                    std::max(0.0, ScaleHeight() - 2 * BordoZoom)});
     picZoom.ToFront();
-    const float rapporto =
-        HaMisura(stato_.Foglio)
-            ? static_cast<float>(stato_.Foglio.Width) / static_cast<float>(stato_.Foglio.Height)
-            : static_cast<float>(picPreview.Width() / picPreview.Height());
+    const float rapporto = HaMisura(stato_.Foglio)
+                               ? Rapporto(stato_.Foglio.Width, stato_.Foglio.Height)
+                               : static_cast<float>(picPreview.Width() / picPreview.Height());
     const Bounds foglio = FoglioIngrandito(picZoom.Width(), picZoom.Height(), rapporto);
     shpFoglioZoom.Place(foglio);
     picPreviewZoom.Place({foglio.Left + BordoZoom, foglio.Top + BordoZoom,
                           std::max(0.0, foglio.Width - 2 * BordoZoom),
                           std::max(0.0, foglio.Height - 2 * BordoZoom)});
-    if (!DisegnaImmagine(picPreviewZoom)) {
-        ErroreDiCopia(TestoStampa::TitoloZoom);
-    }
+    return DisegnaImmagine(picPreviewZoom);
 }
 
 void frmStampa::ErroreDiCopia(const TestoNumerato& titolo) {

@@ -64,7 +64,7 @@ void frmStampa::LarghezzaScelta() {
         txtPrH.Text(std::to_string(AltezzaPer(stato_.Posto.W, stato_.Proporzione)));
         Forms().ServeEvents();
     }
-    AggiornaSeVisibile();
+    AggiornaSeHaMisura();
 }
 
 void frmStampa::AltezzaScelta() {
@@ -72,7 +72,7 @@ void frmStampa::AltezzaScelta() {
         txtPrW.Text(std::to_string(LarghezzaPer(stato_.Posto.H, stato_.Proporzione)));
         Forms().ServeEvents();
     }
-    AggiornaSeVisibile();
+    AggiornaSeHaMisura();
 }
 
 /// The width always wins.
@@ -82,7 +82,7 @@ void frmStampa::chkProporzioni_Click() {
     }
 }
 
-void frmStampa::AggiornaSeVisibile() {
+void frmStampa::AggiornaSeHaMisura() {
     if (Loaded() && stato_.Posto.W > 1 && stato_.Posto.H > 1) {
         AggiornaAnteprima();
     }
@@ -110,18 +110,12 @@ void frmStampa::cmdOrigine_Click() {
     AggiornaAnteprima();
 }
 
-/// Puts into the boxes what is another number there.
+/// Puts the numbers into the boxes, also where another text stands for the same one.
 void frmStampa::Scrivi(const PostoStampa& posto) {
-    const PostoStampa prima = stato_.Posto;
-    const auto scrivi = [](TextBox& casella, int dopo, int ora) {
-        if (dopo != ora) {
-            casella.Text(std::to_string(dopo));
-        }
-    };
-    scrivi(txtPrW, posto.W, prima.W);
-    scrivi(txtPrH, posto.H, prima.H);
-    scrivi(txtPrX, posto.X, prima.X);
-    scrivi(txtPrY, posto.Y, prima.Y);
+    txtPrW.Text(std::to_string(posto.W));
+    txtPrH.Text(std::to_string(posto.H));
+    txtPrX.Text(std::to_string(posto.X));
+    txtPrY.Text(std::to_string(posto.Y));
 }
 
 }  // namespace trameli

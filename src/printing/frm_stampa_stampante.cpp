@@ -1,6 +1,7 @@
 // The print window's printers, and its jobs.
 #include <algorithm>
 #include <initializer_list>
+#include <utility>
 
 #include "base/rounding.h"
 #include "platform/forms.h"
@@ -74,15 +75,15 @@ void frmStampa::cmdProprieta_Click() {
     // The boxes hold what was typed, which may be nothing at all.
     dati.Copies = std::max(1, Nearest(NumeroDi(txtNCopies.Text())));
     stampante_.MostraProprietaStampante();
+    const int copie = std::exchange(dati.Copies, 1);  // the job makes the copies itself
     if (!Loaded()) {
         return;
     }
     LeggiFoglio();
-    if (NumeroDi(txtNCopies.Text()) != dati.Copies) {
-        txtNCopies.Text(std::to_string(dati.Copies));
+    if (NumeroDi(txtNCopies.Text()) != copie) {
+        txtNCopies.Text(std::to_string(copie));
     }
     stato_.ColoreStampante = dati.Colour;
-    dati.Copies = 1;  // the job makes the copies itself
     DimensionaFoglio();
 }
 
@@ -95,7 +96,7 @@ void frmStampa::cmdStampa_Click() {
     lblStampaInCorso.Top((picPreview.Height() - lblStampaInCorso.Height()) / 2);
     lblStampaInCorso.Visible(true);
     Forms().ServeEvents();
-    Lavoro lavoro(*this, servizi_, stato_, immagine_);
+    Lavoro lavoro(*this, servizi_, stato_, immagine_, [this] { return !chiudiDopo_; });
     const bool stampata = Loaded() && lavoro.StampaImmagine(stato_.Posto, nomeDocumento_);
     inLavoro_ = false;
     if (!Loaded()) {

@@ -4,8 +4,9 @@
 #include <new>
 #include <utility>
 
-// Pixels of three bytes are slow to take apart for what every processor of the kind has, and twice
-// as fast for what nearly all of them have. The sanitizers cannot do with a choice at the start.
+// The loop over the pixels is made several times, and the processor's best is chosen at the start:
+// what all processors of the kind have is slow at taking pixels of three bytes apart. The address
+// sanitizer cannot do with such a choice.
 #if defined(__x86_64__) && defined(__GLIBC__) && defined(__GNUC__) && !defined(__clang__) && \
     !defined(__SANITIZE_ADDRESS__)
 #define PER_OGNI_PROCESSORE [[gnu::target_clones("default", "ssse3", "avx2")]]

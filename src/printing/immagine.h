@@ -7,6 +7,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "platform/form.h"
 #include "platform/pixel_block.h"
@@ -35,10 +36,12 @@ void ConvertiInGrigi(const PixelBlock& immagine);
 /// previews, sent, and given back.
 class Immagine {
 public:
+    /// Bytes of pixels.
     using Memoria = std::unique_ptr<std::uint8_t[]>;
     /// Where memory comes from: so many bytes, or nothing if there are not as many.
     using Prestito = std::function<Memoria(std::size_t)>;
 
+    /// No picture yet.
     explicit Immagine(Prestito prestito = DalSistema) : prestito_(std::move(prestito)) {}
 
     /// Takes what is drawn on a surface, in the device's own pixels. Nothing if that worked, else

@@ -75,7 +75,7 @@ std::optional<std::string> Lavoro::InviaCopie(const PixelRectangle& dove) {
     }
     int r4 = 0;
     const int copie = stato_.NumeroCopie;
-    for (int copia = 1; copia <= copie && finestra_.Loaded(); ++copia) {
+    for (int copia = 1; copia <= copie && finestra_.Loaded() && ancora_(); ++copia) {
         if (prhDC_->StartDocument(nomeDocumento_) == StartDocFallito) {
             return Testo(servizi_.Lingue, TestoStampa::ErroreStartDoc) + ARigaNuova;
         }

@@ -1,9 +1,11 @@
 // One job: from millimetres to documents in the queue.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "platform/form.h"
 #include "platform/printers.h"
@@ -20,17 +22,20 @@ namespace trameli {
 class Lavoro {
 public:
     /// All of it must outlive the job. `finestra` waits for it: once that is unloaded, no further
-    /// copy is sent and nothing more is told.
-    Lavoro(Form& finestra, Servizi& servizi, StatoStampa& stato, Immagine& immagine)
+    /// copy is sent and nothing more is told. Before each copy `ancora` is asked whether it is
+    /// still wanted.
+    Lavoro(Form& finestra, Servizi& servizi, StatoStampa& stato, Immagine& immagine,
+           std::function<bool()> ancora)
         : finestra_(finestra),
           servizi_(servizi),
           stato_(stato),
           immagine_(immagine),
+          ancora_(std::move(ancora)),
           stampante_(servizi, stato) {}
 
     /// Prints at that place of the sheet, after a question if it reaches beyond it. True if all
-    /// copies were taken; else the player knows why. The picture is gone afterwards, unless the
-    /// player cancelled.
+    /// copies that were still wanted were taken; else the player knows why. The picture is gone
+    /// afterwards, unless the player cancelled.
     bool StampaImmagine(PostoStampa posto, const std::string& nome);
 
 private:
@@ -43,6 +48,7 @@ private:
     Servizi& servizi_;
     StatoStampa& stato_;
     Immagine& immagine_;
+    std::function<bool()> ancora_;
     Stampante stampante_;
     std::unique_ptr<PrintContext> prhDC_;
     std::string nomeDocumento_;

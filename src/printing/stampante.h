@@ -16,8 +16,9 @@ public:
     /// Both must outlive it.
     Stampante(Servizi& servizi, StatoStampa& stato) : servizi_(servizi), stato_(stato) {}
 
-    /// Sheet size in millimetres of the printer in force, or of the default one; -1 and -1 if it
-    /// cannot be told. `orientamento`, 1 or 2, is what the settings have from then on.
+    /// Sheet size in millimetres of the printer in force, or of the default one; -1 and -1 if that
+    /// cannot be opened, 0 and 0 if it gives no answer. `orientamento`, 1 or 2, is what the
+    /// settings have from then on.
     void FoglioStampa(int& w, int& h, std::optional<int> orientamento);
 
     /// Opens a printer and fits the settings to it. An empty name becomes that of the default

@@ -14,6 +14,7 @@ struct TestoNumerato {
     const char* Disegno;
 };
 
+/// Of the print window's messages and tool tips.
 namespace TestoStampa {
 inline constexpr TestoNumerato NonSiApre{"0009", "La stampante non si può aprire."};
 inline constexpr TestoNumerato SenzaMisura{"0010", "L'immagine non ha dimensioni."};
@@ -39,8 +40,10 @@ inline constexpr TestoNumerato OrientamentoErrato{"0073", "Orientamento errato"}
 
 /// The title of messages about printing.
 inline constexpr const char* TitoloStampa = "Trameli";
+/// Between the lines of a message.
 inline constexpr const char* ARigaNuova = "\r\n";
 
+/// A numbered text in the current language.
 inline std::string Testo(Lingue& lingue, const TestoNumerato& testo) {
     return lingue.TestoLingua(testo.Id, testo.Disegno);
 }

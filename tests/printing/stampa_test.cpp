@@ -203,10 +203,12 @@ TEST_F(StampaTest, DoesNothingElseWhileAJobIsUnderWay) {
         ClickOn(finestra.cmdStampa);
         ASSERT_EQ(Finestra(), &finestra);  // it failed, and nobody has closed it
         EXPECT_TRUE(finestra.cmdStampa.Enabled());
+        partita_.Stampanti.Answer = {};
+        finestra.txtNCopies.Text("2");
         ClickOn(finestra.cmdStampa);
         EXPECT_EQ(Finestra(), nullptr);
     });
-    EXPECT_EQ(Documenti().size(), 2U);
+    EXPECT_EQ(Documenti().size(), 2U);  // the one that failed, and no second copy
 }
 
 TEST_F(StampaTest, OutlivesItsWindowAndTheProgramInTheMiddleOfAJob) {
