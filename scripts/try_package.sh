@@ -113,7 +113,9 @@ keys Left Right Up Down Left Right Up Down
 eventually is_loud 1000 || fail "a wall is heard"
 echo "a wall is heard"
 
-keys alt+t r
+keys alt+t
+sleep 1
+keys r
 eventually is_printed || fail "a maze is printed"
 eventually viewer_shows 'Trameli .*\.pdf' || fail "and shown"
 echo "a maze is printed and shown"
