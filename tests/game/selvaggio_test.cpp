@@ -23,7 +23,7 @@ namespace {
 #ifdef __SANITIZE_ADDRESS__
 constexpr int LabirintiInTutto = 10000;
 #else
-constexpr int LabirintiInTutto = 2000;
+constexpr int LabirintiInTutto = 3000;
 #endif
 constexpr int Giocatori = 4;
 
@@ -221,7 +221,7 @@ class GiocatoreSelvaggio : public testing::TestWithParam<unsigned> {};
 TEST_P(GiocatoreSelvaggio, BreaksNothingAndLeavesNothing) {
     constexpr int Labirinti = LabirintiInTutto / Giocatori;
     // Fonts and other caches fill, and it takes a while until every window was seen in every state.
-    constexpr int Riscaldamento = Labirinti / 2;
+    constexpr int Riscaldamento = 2 * Labirinti / 3;
     constexpr int Tolleranza = 64 * 1024;  // bytes: less than 40 for a maze
     const Disco disco;
     disco.Scrivi("Anna", FileUtente().Con(RigaMaiuscolo, "True").Con(RigaLinee, "False"));
