@@ -15,6 +15,12 @@ struct PixelBlock {
     std::uint8_t* Bits = nullptr;
 };
 
+/// The grey of a colour where there are no colours, on paper as in a preview: the mean, rounded. A
+/// third is never half of anything.
+constexpr std::uint8_t GreyOf(unsigned red, unsigned green, unsigned blue) {
+    return static_cast<std::uint8_t>((red + green + blue + 1U) / 3U);
+}
+
 /// A place on a page or a surface in its own pixels. It may reach beyond all edges.
 struct PixelRectangle {
     int Left = 0;

@@ -23,9 +23,7 @@ constexpr int Bit = 24;
 PER_OGNI_PROCESSORE void RigaInGrigi(std::uint8_t* riga, int larghezza) {
     for (int x = 0; x < larghezza; ++x) {
         std::uint8_t* const pixel = riga + 3 * static_cast<std::ptrdiff_t>(x);
-        // To the nearest: a third is never half of anything.
-        const auto grigio = static_cast<std::uint8_t>(
-            (static_cast<unsigned>(pixel[0]) + pixel[1] + pixel[2] + 1U) / 3U);
+        const std::uint8_t grigio = GreyOf(pixel[2], pixel[1], pixel[0]);
         pixel[0] = grigio;
         pixel[1] = grigio;
         pixel[2] = grigio;

@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QPainter>
 #include <QPdfWriter>
+#include <algorithm>
 
 #include "platform/qt/convert.h"
 
@@ -19,8 +20,18 @@ QPageLayout LayoutOf(const PageFormat& format) {
                        QPageLayout::Portrait, QMarginsF(), QPageLayout::Millimeter);
 }
 
+/// The toolkit's own grey weighs the colours, and would not be that of the preview.
 QImage Greyed(const QImage& picture) {
-    return picture.convertToFormat(QImage::Format_Grayscale8);
+    QImage grey(picture.size(), QImage::Format_Grayscale8);
+    for (int y = 0; y < grey.height(); ++y) {
+        const auto* const row = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
+        std::transform(row, row + picture.width(), grey.scanLine(y), [](QRgb colour) {
+            return GreyOf(static_cast<unsigned>(qRed(colour)),
+                          static_cast<unsigned>(qGreen(colour)),
+                          static_cast<unsigned>(qBlue(colour)));
+        });
+    }
+    return grey;
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ namespace trameli {
 /// A picture and its place on the printable part of a page, in the printer's pixels.
 struct PlacedPicture {
     PixelRectangle Where;
-    QImage Picture;
+    QImage Picture;  ///< as `PictureOf` makes it
 };
 using PrintedPage = std::vector<PlacedPicture>;
 
