@@ -1,7 +1,6 @@
 #include "printing/foglio.h"
 
 #include <algorithm>
-#include <charconv>
 
 #include "base/rounding.h"
 
@@ -26,27 +25,6 @@ PostoStampa PerFattore(float fattore, const PostoStampa& posto) {
 
 float Rapporto(int larghezza, int altezza) {
     return static_cast<float>(larghezza) / static_cast<float>(altezza);
-}
-
-double NumeroDi(std::string_view testo) {
-    testo.remove_prefix(std::min(testo.find_first_not_of(" \t"), testo.size()));
-    if (testo.starts_with('+')) {
-        testo.remove_prefix(1);
-        if (testo.starts_with('-')) {
-            return 0;
-        }
-    }
-    // Words that stand for a number, such as "inf", begin with none.
-    if (testo.find_first_of("0123456789.") > (testo.starts_with('-') ? 1U : 0U)) {
-        return 0;
-    }
-    double numero = 0;
-    const auto letto = std::from_chars(testo.data(), testo.data() + testo.size(), numero,
-                                       std::chars_format::fixed);
-    if (letto.ec == std::errc::result_out_of_range) {
-        return testo.starts_with('-') ? LimitiMargine.Minimo - 1 : LimitiMargine.Massimo + 1;
-    }
-    return numero;
 }
 
 int FiltraTastoNumerico(int tasto, bool consentiMeno, std::string_view testo,

@@ -38,9 +38,6 @@ constexpr bool HaMisura(const SheetSize& foglio) {
 /// How much width there is for a height of 1.
 float Rapporto(int larghezza, int altezza);
 
-/// The number that a text begins with, decimal point allowed; 0 if it begins with none.
-double NumeroDi(std::string_view testo);
-
 /// What becomes of a typed key, a character's code or 8 for a step back: itself if it can be part
 /// of a number, or else 0. A minus sign, where it is allowed at all, can only come first.
 int FiltraTastoNumerico(int tasto, bool consentiMeno, std::string_view testo,

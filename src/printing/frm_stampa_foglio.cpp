@@ -2,6 +2,7 @@
 #include <initializer_list>
 #include <string>
 
+#include "base/leading_number.h"
 #include "base/rounding.h"
 #include "platform/forms.h"
 #include "printing/frm_stampa.h"
@@ -50,13 +51,13 @@ int frmStampa::FiltraTastoNumerico(const TextBox& casella, int keyAscii, bool co
 
 /// A number out of its range is replaced at once, which is a change of its own.
 void frmStampa::NumeroCambiato(TextBox& casella, int& numero, const Limiti& limiti) {
-    const double scritto = NumeroDi(casella.Text());
+    const double scritto = LeadingNumber(casella.Text());
     if (scritto < limiti.Minimo) {
         casella.Text(std::to_string(limiti.Minimo));
     } else if (scritto > limiti.Massimo) {
         casella.Text(std::to_string(limiti.Massimo));
     }
-    numero = Nearest(NumeroDi(casella.Text()));
+    numero = Nearest(LeadingNumber(casella.Text()));
 }
 
 void frmStampa::LarghezzaScelta() {

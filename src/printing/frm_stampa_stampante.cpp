@@ -3,6 +3,7 @@
 #include <initializer_list>
 #include <utility>
 
+#include "base/leading_number.h"
 #include "base/rounding.h"
 #include "platform/forms.h"
 #include "printing/frm_stampa.h"
@@ -26,7 +27,7 @@ void frmStampa::DisponiStampante() {
     txtNCopies.KeyPress = [this](int tasto) {
         return FiltraTastoNumerico(txtNCopies, tasto, false);
     };
-    txtNCopies.Change = [this] { stato_.NumeroCopie = Nearest(NumeroDi(txtNCopies.Text())); };
+    txtNCopies.Change = [this] { stato_.NumeroCopie = Nearest(LeadingNumber(txtNCopies.Text())); };
     cmdStampa.Default(true);
     cmdStampa.Click = [this] { cmdStampa_Click(); };
     cmdChiudi.Cancel(true);
@@ -73,14 +74,14 @@ void frmStampa::LeggiFoglio() {
 void frmStampa::cmdProprieta_Click() {
     PrinterSettings& dati = stato_.DatiStampante;
     // The boxes hold what was typed, which may be nothing at all.
-    dati.Copies = std::max(1, Nearest(NumeroDi(txtNCopies.Text())));
+    dati.Copies = std::max(1, Nearest(LeadingNumber(txtNCopies.Text())));
     stampante_.MostraProprietaStampante();
     const int copie = std::exchange(dati.Copies, 1);  // the job makes the copies itself
     if (!Loaded()) {
         return;
     }
     LeggiFoglio();
-    if (NumeroDi(txtNCopies.Text()) != copie) {
+    if (LeadingNumber(txtNCopies.Text()) != copie) {
         txtNCopies.Text(std::to_string(copie));
     }
     stato_.ColoreStampante = dati.Colour;

@@ -66,7 +66,8 @@ TEST_F(NumbersTest, ArrowsCountFromWhatTheBoxHolds) {
                 {"abc", 0, "3", "-3"},       {"-", 0, "3", "-3"},
                 {"500", 30, "30", "30"},     {"-19", -19, "-16", "-20"},
                 {"-500", -20, "-20", "-20"}, {"99999999999", 30, "30", "30"},
-                {"nan", 0, "3", "-3"}};
+                {"nan", 0, "3", "-3"},       {"5mm", 5, "8", "2"},
+                {"1e3", 1, "4", "-2"}};
     for (const auto& row : rows) {
         for (const bool up : {true, false}) {
             for (const bool mouse : {true, false}) {

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include "base/leading_number.h"
+
 namespace trameli {
 
 void PrintTo(const PostoStampa& posto, std::ostream* os) {
@@ -39,10 +41,10 @@ TEST(Foglio, ReadsTheNumberThatATextBeginsWith) {
                                                            {"-", 0},
                                                            {"99999999999", 99999999999.0}};
     for (const auto& [testo, numero] : casi) {
-        EXPECT_EQ(NumeroDi(testo), numero) << testo;
+        EXPECT_EQ(LeadingNumber(testo), numero) << testo;
     }
-    EXPECT_GT(NumeroDi(std::string(400, '9')), 2000);
-    EXPECT_LT(NumeroDi("-" + std::string(400, '9')), -2000);
+    EXPECT_GT(LeadingNumber(std::string(400, '9')), 2000);
+    EXPECT_LT(LeadingNumber("-" + std::string(400, '9')), -2000);
 }
 
 TEST(Foglio, LetsOnlyKeysOfNumbersThrough) {

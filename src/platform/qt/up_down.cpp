@@ -4,8 +4,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
-#include <cmath>
 
+#include "base/leading_number.h"
 #include "base/rounding.h"
 #include "platform/property_access.h"
 #include "platform/qt/accessibility.h"
@@ -135,11 +135,6 @@ QAccessibleInterface* UpDownWidget::Describe() {
     return new AccessibleUpDown(this);
 }
 
-double NumberIn(const TextBox& box) {
-    const double number = ToQt(box.Text()).toDouble();
-    return std::isfinite(number) ? number : 0;
-}
-
 }  // namespace
 
 UpDown::UpDown(Container& container, ControlName name, const Bounds& bounds, TextBox& buddy,
@@ -160,11 +155,11 @@ UpDown::UpDown(Container& container, ControlName name, const Bounds& bounds, Tex
 }
 
 int UpDown::Value() const {
-    return Nearest(std::clamp<double>(NumberIn(buddy_), min_, max_));
+    return Nearest(std::clamp<double>(LeadingNumber(buddy_.Text()), min_, max_));
 }
 
 void UpDown::Count(int direction) {
-    const double next = NumberIn(buddy_) + direction * increment_;
+    const double next = LeadingNumber(buddy_.Text()) + direction * increment_;
     const int counted = Nearest(std::clamp<double>(next, min_, max_));
     const std::string text = std::to_string(counted);
     if (text == buddy_.Text()) {
