@@ -19,7 +19,8 @@ namespace trameli {
 
 namespace {
 
-constexpr int MostCopies = 100;
+/// As many as four digits say, which is what a box for copies takes.
+constexpr int MostCopies = 9999;
 /// Letters of a paper's name that are shown at least; a longer one is cut off.
 constexpr int LettersOfPaper = 30;
 
@@ -61,12 +62,10 @@ public:
                                    settings.Colour != PrinterSettings::Grey);
             rows.addRow(colour_);
         }
-        if (choices.CanCopies) {
-            copies_ = new QSpinBox;
-            copies_->setRange(1, MostCopies);
-            copies_->setValue(settings.Copies);
-            rows.addRow(ToQt(texts.Copies), copies_);
-        }
+        copies_ = new QSpinBox;
+        copies_->setRange(1, MostCopies);
+        copies_->setValue(settings.Copies);
+        rows.addRow(ToQt(texts.Copies), copies_);
         auto* const buttons = new QDialogButtonBox;
         auto* const ok = buttons->addButton(ToQt(texts.Ok), QDialogButtonBox::AcceptRole);
         buttons->addButton(ToQt(texts.Cancel), QDialogButtonBox::RejectRole);
@@ -87,9 +86,7 @@ public:
             settings.Colour =
                 colour_->IsFirst() ? PrinterSettings::Coloured : PrinterSettings::Grey;
         }
-        if (copies_) {
-            settings.Copies = copies_->value();
-        }
+        settings.Copies = copies_->value();
     }
 
 private:

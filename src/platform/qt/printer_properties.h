@@ -13,7 +13,6 @@ namespace trameli {
 struct PropertyChoices {
     std::vector<std::pair<std::string, std::string>> Papers;  ///< keys and names
     bool CanColour = false;
-    bool CanCopies = true;
 };
 
 /// Lets the user change `settings`, and their paper, over the window in front. True for OK; else
