@@ -127,7 +127,11 @@ void DesktopPrinters::PrintForm(const Form& form, const std::string& name) {
     errands_.Send(
         [=](const Errands::Progress& progress) {
             const PrinterFacts printer = handover->AskForDefault();
-            const PixelRectangle where = Largest(FormatOf(printer, settings), picture.size());
+            const PageFormat format = FormatOf(printer, settings);
+            if (!format.HasRoom()) {
+                return false;
+            }
+            const PixelRectangle where = Largest(format, picture.size());
             return handover->Print(printer, settings, {name, {{{where, picture}}}}, progress);
         },
         [handover](bool taken) {

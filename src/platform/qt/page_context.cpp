@@ -5,7 +5,7 @@
 namespace trameli {
 
 int PageContext::StartDocument(const std::string& name) {
-    if (format_.Pixels.Width <= 0 || format_.Pixels.Height <= 0) {
+    if (!format_.HasRoom()) {
         return -1;
     }
     document_ = {name, {}};

@@ -61,7 +61,7 @@ PageFormat FormatOf(const PrinterFacts& printer, const PrinterSettings& settings
         ontoPage.rotate(-90);
     }
     ontoPage.translate(read.Left, read.Top);
-    if (format.Pixels.Width > 0 && format.Pixels.Height > 0) {
+    if (format.HasRoom()) {
         const auto scale = [](int millimetres, int pixels) {
             return static_cast<double>(millimetres) * Hundredths / pixels;
         };

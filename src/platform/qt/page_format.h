@@ -18,6 +18,9 @@ struct PageFormat {
     QSizeF Page;          ///< in millimetres, as the printer gets it
     QTransform OntoPage;  ///< from those pixels to millimetres of the page
     bool Grey = false;
+
+    /// False if the margins take up the whole sheet.
+    bool HasRoom() const { return Pixels.Width > 0 && Pixels.Height > 0; }
 };
 
 /// Settings that do not fit the printer count as `Fitting` has them.
