@@ -2,11 +2,15 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 
+#include <QTimer>
 #include <algorithm>
+#include <future>
 
 #include "platform/bare_program.h"
 #include "platform/qt/desktop_printers.h"
 #include "platform/qt/environment.h"
+#include "platform/qt/errands.h"
+#include "platform/qt/handover.h"
 #include "support/stage.h"
 
 namespace fs = std::filesystem;
@@ -97,6 +101,26 @@ TEST_F(PdfPrinterTest, PrintsWhatAFormShows) {
     const std::string page = BytesOf(Shown[0]);
     EXPECT_NE(page.find("/MediaBox [0 0 842"), std::string::npos);
     EXPECT_NE(page.find("/Width " + std::to_string(size.Width)), std::string::npos);
+}
+
+TEST_F(PdfPrinterTest, TakesBackWhatComesTooLate) {
+    const auto pdf = std::make_shared<PdfPrinter>(PdfOptions{.Folder = Documents, .Home = {}});
+    Handover handover(nullptr, pdf);
+    int signs = 0;
+    EXPECT_FALSE(handover.Print(pdf->Facts("PDF"), {}, {"Trameli", {{}}},
+                                [&signs] { return ++signs == 1; }));
+    EXPECT_EQ(signs, 2);
+    EXPECT_EQ(Files().size(), 0U);
+}
+
+TEST_F(PdfPrinterTest, IsWaitedForNoLongerWhenTheProgramEnds) {
+    std::promise<void> over;
+    Errands errands;
+    QTimer::singleShot(0, [this] { Program.End(); });
+    EXPECT_FALSE(errands.Run([ended = over.get_future().share()](const auto&) {
+        return ended.wait_for(std::chrono::seconds(20)) == std::future_status::timeout;
+    }));
+    over.set_value();
 }
 
 TEST_F(PdfPrinterTest, LeavesNothingBehindWhenTheDiskIsFull) {

@@ -3,6 +3,7 @@
 
 #include "game/partita.h"
 #include "platform/qt/desktop_printers.h"
+#include "platform/qt/handover.h"
 #include "printing/frm_stampa.h"
 #include "queues/page.h"
 #include "queues/scheduler.h"
@@ -44,6 +45,18 @@ void Scegli(Form& stampa, const char* coda) {
     Tap(stampa, Qt::Key_Return);
 }
 
+/// Red, green and blue weigh the same.
+QImage InGrigio(QImage immagine) {
+    for (int y = 0; y < immagine.height(); ++y) {
+        for (int x = 0; x < immagine.width(); ++x) {
+            const QColor colore = immagine.pixelColor(x, y);
+            const int media = qRound((colore.red() + colore.green() + colore.blue()) / 3.0);
+            immagine.setPixelColor(x, y, QColor(media, media, media));
+        }
+    }
+    return immagine;
+}
+
 struct Foglio {
     const char* Coda;
     QPointF Margini;  ///< of the printer, from the corner of the landscape page, in points
@@ -82,7 +95,7 @@ TEST_P(Code, PrintWhatIsSeenWhereItIsWanted) {
                                           foglio.Coda + std::string(": Trameli"));
     EXPECT_EQ(sistema.Jobs(), lavori);
     if (foglio.Grigio) {
-        schermo.convertTo(QImage::Format_Grayscale8);
+        schermo = InGrigio(schermo);
     }
     for (int copia = 0; copia < foglio.Copie; ++copia) {
         const QImage pagina = Rendered(sistema.Delivered());
@@ -139,6 +152,16 @@ TEST(CodaChiusa, TellsThatItTakesNothing) {
     });
     EXPECT_TRUE(macchina.Gioco.Messaggi.Messages.at(0).Text.starts_with("Stampa interrotta.\r"));
     EXPECT_TRUE(sistema.Jobs().empty());
+}
+
+TEST(CodaLenta, CancelsAJobThatComesTooLate) {
+    Scheduler sistema;
+    Handover consegna(std::make_shared<KnownQueues>(), std::make_shared<PdfPrinter>(PdfOptions()));
+    int segni = 0;  // one for the page, one for the job, one for its bytes
+    EXPECT_FALSE(consegna.Print(consegna.AskForDefault(), {}, {"Trameli", {{}}},
+                                [&segni] { return ++segni <= 3; }));
+    EXPECT_EQ(segni, 4);
+    EXPECT_EQ(sistema.Jobs(), std::vector<std::string>{"Colorata: Trameli (cancelled)"});
 }
 
 }  // namespace

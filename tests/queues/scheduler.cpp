@@ -63,7 +63,8 @@ std::vector<std::string> Scheduler::Jobs() const {
     const int count = cupsGetJobs(&jobs, nullptr, 0, CUPS_WHICHJOBS_ALL);
     std::vector<std::string> known;
     for (int i = 0; i < count; ++i) {
-        known.push_back(std::string(jobs[i].dest) + ": " + jobs[i].title);
+        known.push_back(std::string(jobs[i].dest) + ": " + jobs[i].title +
+                        (jobs[i].state == IPP_JSTATE_CANCELED ? " (cancelled)" : ""));
     }
     cupsFreeJobs(count, jobs);
     return known;

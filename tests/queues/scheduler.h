@@ -22,7 +22,7 @@ public:
     Scheduler();
     ~Scheduler();
 
-    /// The jobs so far in their order, "queue: name".
+    /// The jobs so far in their order, "queue: name", and "(cancelled)" behind those that are.
     std::vector<std::string> Jobs() const;
     /// What a queue delivers next; nothing after half a minute of silence.
     QByteArray Delivered();

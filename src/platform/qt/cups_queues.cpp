@@ -14,7 +14,8 @@ namespace {
 
 /// How long an answer may take. Nobody waits so long for it, but what is learnt then counts later.
 constexpr int SecondsForQuestions = 4;
-constexpr int SecondsForJobs = 30;
+/// Less than a job may stand still, so that its end is known before it is given up.
+constexpr int SecondsForJobs = 20;
 
 /// In bytes; the print service refuses jobs with longer names.
 constexpr qsizetype LongestName = 255;
@@ -57,11 +58,9 @@ void AddOptions(const QueueJob& job, Options& options) {
     if (!job.ColourWord.empty()) {
         options.Add("print-color-mode", job.ColourWord);
     }
-    if (job.Copies > 1) {
-        options.Add("copies", std::to_string(job.Copies));
-    }
-    // The page is just as it goes onto the paper. These keep the queue's own defaults from turning
-    // or shrinking it.
+    // The page is just as it goes onto the paper. These keep the queue's own defaults from
+    // multiplying, turning or shrinking it.
+    options.Add("copies", std::to_string(job.Copies));
     options.Add("orientation-requested", std::to_string(IPP_ORIENT_PORTRAIT));
     options.Add("print-scaling", "none");
     options.Add("number-up", "1");
@@ -82,7 +81,7 @@ bool SendDocument(const CupsLibrary& cups, http_t* http, int id, const QueueJob&
         wanted = progress();
     }
     return status == HTTP_STATUS_CONTINUE && wanted &&
-           cups.cupsFinishDocument(http, queue) <= IPP_STATUS_OK_CONFLICTING;
+           cups.cupsFinishDocument(http, queue) <= IPP_STATUS_OK_CONFLICTING && progress();
 }
 
 }  // namespace
@@ -111,6 +110,9 @@ std::optional<QueueList> ListQueues(CupsLibrary& cups) {
     }
     const char* users = cups.cupsGetDefault2(connection.Native());
     const auto systems = connection.Ask(IPP_OP_CUPS_GET_DEFAULT, {}, {"printer-name"});
+    if (!systems) {
+        return std::nullopt;
+    }
     for (const std::string& own :
          {std::string(users ? users : ""), CupsAnswer(cups, systems.get()).Text("printer-name")}) {
         // A user can choose a queue with a set of options, "queue/set".

@@ -39,7 +39,7 @@ struct QueueJob {
 };
 
 /// Hands a job over; false if the queue does not take it. `progress` is called whenever some of it
-/// has gone; when it answers false, nothing is printed.
+/// has gone, and at the end; when it answers false, the job is cancelled.
 bool SubmitJob(CupsLibrary& cups, const QueueJob& job, const std::function<bool()>& progress);
 
 }  // namespace trameli

@@ -1,8 +1,8 @@
 #include "platform/qt/errands.h"
 
+#include <QCoreApplication>
 #include <QEventLoop>
 #include <QTimer>
-#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <exception>
@@ -81,16 +81,30 @@ bool Errands::Run(const Work& work) {
     struct Wait {
         QEventLoop* Loop = nullptr;  ///< nothing once nobody waits any more
         bool Result = false;
-        std::atomic<bool> GivenUp = false;
-        std::atomic<Now::time_point> LastSign{Now::now()};
+
+        /// A sign of the work, which is told whether it is given up. Both ways with the lock: work
+        /// that goes on after this has half a minute before it.
+        bool Sign() {
+            const std::lock_guard lock(mutex_);
+            lastSign_ = Now::now();
+            return !givenUp_;
+        }
+        bool GiveUpAtStandstill() {
+            const std::lock_guard lock(mutex_);
+            givenUp_ = Now::now() - lastSign_ > Standstill;
+            return givenUp_;
+        }
+
+    private:
+        std::mutex mutex_;
+        bool givenUp_ = false;
+        Now::time_point lastSign_ = Now::now();
     };
     const auto wait = std::make_shared<Wait>();
-    QEventLoop loop;
+    // The application's, for `Forms::End` to find it.
+    QEventLoop loop(QCoreApplication::instance());
     wait->Loop = &loop;
-    const Progress progress = [wait] {
-        wait->LastSign = Now::now();
-        return !wait->GivenUp;
-    };
+    const Progress progress = [wait] { return wait->Sign(); };
     Send([work, progress](const Progress&) { return work(progress); },
          [wait](bool result) {
              wait->Result = result;
@@ -100,8 +114,7 @@ bool Errands::Run(const Work& work) {
          });
     QTimer watch;
     QObject::connect(&watch, &QTimer::timeout, &loop, [&wait, &loop] {
-        if (Now::now() - wait->LastSign.load() > Standstill) {
-            wait->GivenUp = true;
+        if (wait->GiveUpAtStandstill()) {
             loop.quit();
         }
     });

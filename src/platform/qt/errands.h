@@ -26,7 +26,8 @@ public:
     /// the program ends before. Without a thread to be had the answer is false.
     void Send(Work work, std::function<void(bool)> then);
     /// Has the work done and serves window events meanwhile. The work's answer, or false if there
-    /// was no progress for half a minute.
+    /// was no progress for half a minute, or the program ends; in that case the work goes on as
+    /// long as there is time.
     bool Run(const Work& work);
 
 private:

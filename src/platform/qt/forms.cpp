@@ -166,6 +166,11 @@ void Forms::End() {
             box->reject();
         }
     }
+    // Whoever waits for something that is done beside the windows has a loop of the application's.
+    for (QEventLoop* loop :
+         qApp->findChildren<QEventLoop*>(QString(), Qt::FindDirectChildrenOnly)) {
+        loop->quit();
+    }
     for (const Native::Modal& modal : native_->Modals) {
         modal.Loop->quit();
     }

@@ -1,5 +1,6 @@
 #include "platform/qt/handover.h"
 
+#include <system_error>
 #include <utility>
 
 namespace trameli {
@@ -25,6 +26,10 @@ bool Handover::Print(const PrinterFacts& printer, const PrinterSettings& setting
     }
     if (printer.Kind == PrinterFacts::Kinds::Files) {
         made_ = pdf_->Print(document.Name, time_, pdf).value_or(std::filesystem::path());
+        if (!progress() && !made_.empty()) {
+            std::error_code error;
+            std::filesystem::remove(std::exchange(made_, {}), error);
+        }
         return !made_.empty();
     }
     const PrinterSettings fitting = Fitting(printer, settings);

@@ -29,7 +29,8 @@ public:
 
     /// The default printer, asked for now; the one that makes files if there is no other.
     PrinterFacts AskForDefault();
-    /// False if the printer does not take the document, or `progress` said that nobody waits.
+    /// False if the printer does not take the document, or `progress` said that nobody waits. What
+    /// got through too late is taken back then.
     bool Print(const PrinterFacts& printer, const PrinterSettings& settings,
                const PrintedDocument& document, const std::function<bool()>& progress);
 
