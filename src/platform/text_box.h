@@ -31,6 +31,9 @@ public:
     std::function<bool(const std::string& wouldBe)> Accepts;
     /// The text is another one, by hand or by code.
     std::function<void()> Change;
+    /// The player has changed the text without a key: dropped something, or pasted it with the
+    /// mouse or from the box's own menu. Comes after `Change`, when the text is done.
+    std::function<void()> EditedByMouse;
 
 protected:
     void Properties(PropertyAccess& access) override;

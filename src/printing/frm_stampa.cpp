@@ -122,8 +122,9 @@ void frmStampa::Form_Load() {
 
 void frmStampa::Centra() {
     const Screen& schermo = Forms().Screen();
-    Left((schermo.Width() - Width()) / 2);
-    Top((schermo.Height() - Height()) / 2);
+    // On a screen that is too small, its frame with the button to close it is the last to be lost.
+    Left(std::max(0.0, (schermo.Width() - Width()) / 2));
+    Top(std::max(0.0, (schermo.Height() - Height()) / 2));
 }
 
 /// Widens the window as a whole, as far as the screen has room, where a label beside a box has a

@@ -32,8 +32,10 @@ void frmStampa::DisponiFoglio() {
         casella.Testo.KeyPress = [casella](int tasto) {
             return FiltraTastoNumerico(casella.Testo, tasto, casella.ConMeno);
         };
-        casella.Testo.KeyUp = [this, casella](int, int) { (this->*casella.Scelta)(); };
-        casella.Frecce.Change = [this, casella] { (this->*casella.Scelta)(); };
+        const auto scelta = [this, casella] { (this->*casella.Scelta)(); };
+        casella.Testo.KeyUp = [scelta](int, int) { scelta(); };
+        casella.Testo.EditedByMouse = scelta;
+        casella.Frecce.Change = scelta;
     }
     chkProporzioni.Value(true);
     chkProporzioni.Click = [this] { chkProporzioni_Click(); };

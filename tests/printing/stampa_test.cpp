@@ -1,6 +1,9 @@
 // The print window on a machine with printers of its own.
 #include <gtest/gtest.h>
 
+#include <QClipboard>
+#include <QLineEdit>
+
 #include <QTimer>
 
 #include "game/partita.h"
@@ -332,6 +335,19 @@ TEST_F(StampaTest, ShowsWhatThePrinterWillMakeOfIt) {
     EXPECT_EQ(Documenti()[2].Settings.Orientation, PrinterSettings::Portrait);
     EXPECT_EQ(Documenti()[2].Settings.Copies, 1);
     EXPECT_TRUE(Rosso(Documenti()[2]));  // grey is the printer's affair
+}
+
+TEST_F(StampaTest, FollowsWhatTheMousePastes) {
+    Apri([](const frmStampa& finestra) {
+        const QImage prima = Shot(finestra.picPreview);
+        QApplication::clipboard()->setText("50");
+        auto& casella = dynamic_cast<QLineEdit&>(WidgetOf(finestra.txtPrW));
+        casella.selectAll();
+        casella.paste();  // as the box's own menu does
+        Pump();
+        EXPECT_EQ(finestra.txtPrH.Text(), "50");
+        EXPECT_NE(Shot(finestra.picPreview), prima);
+    });
 }
 
 TEST_F(StampaTest, TellsTheSheetWithoutOpening) {

@@ -92,7 +92,7 @@ std::optional<QueueList> ListQueues(CupsLibrary& cups) {
     }
     const CupsConnection connection(cups, SecondsForQuestions);
     if (connection.State() != CupsConnection::States::Open) {
-        return connection.State() == CupsConnection::States::Nobody ? std::optional<QueueList>({})
+        return connection.State() == CupsConnection::States::Nobody ? std::optional(QueueList())
                                                                     : std::nullopt;
     }
     const auto answer = connection.Ask(IPP_OP_CUPS_GET_PRINTERS, {}, {"printer-name"});

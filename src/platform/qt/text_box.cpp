@@ -1,6 +1,7 @@
 #include "platform/text_box.h"
 
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QValidator>
 
 #include "platform/property_access.h"
@@ -39,6 +40,7 @@ TextWidget::TextWidget(QWidget* parent) : QLineEdit(parent) {
 }
 
 void TextWidget::keyPressEvent(QKeyEvent* event) {
+    const QScopedValueRollback byKey(ByKey, true);
     const bool up = event->key() == Qt::Key_Up;
     if (Count && (up || event->key() == Qt::Key_Down)) {
         Count(up ? 1 : -1);
@@ -60,6 +62,7 @@ void TextWidget::keyPressEvent(QKeyEvent* event) {
 
 /// What is composed of several keys, or chosen from a list of characters, comes this way.
 void TextWidget::inputMethodEvent(QInputMethodEvent* event) {
+    const QScopedValueRollback byKey(ByKey, true);
     QInputMethodEvent passed(event->preeditString(), event->attributes());
     passed.setCommitString(LetThrough(event->commitString()), event->replacementStart(),
                            event->replacementLength());
@@ -96,6 +99,13 @@ TextBox::TextBox(Container& container, ControlName name, const Bounds& bounds)
     widget.Validator = new AskingValidator(*this, &widget);
     widget.setValidator(widget.Validator);
     QObject::connect(&widget, &QLineEdit::textChanged, [this] { Fire(*this, Change); });
+    QObject::connect(&widget, &QLineEdit::textEdited, [this, &widget] {
+        if (!widget.ByKey) {
+            // The text is not in place yet.
+            QMetaObject::invokeMethod(
+                &widget, [this] { Fire(*this, EditedByMouse); }, Qt::QueuedConnection);
+        }
+    });
 }
 
 std::string TextBox::Text() const {

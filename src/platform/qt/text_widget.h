@@ -20,6 +20,9 @@ public:
     /// What the up and down keys do, told 1 for up and -1 for down.
     std::function<void(int)> Count;
 
+    /// Whether what changes is changed by the keyboard.
+    bool ByKey = false;
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
