@@ -154,6 +154,15 @@ TEST(CodaChiusa, TellsThatItTakesNothing) {
     EXPECT_TRUE(sistema.Jobs().empty());
 }
 
+TEST(SistemaSparito, LeavesNoQueueBehind) {
+    DesktopPrinters stampanti{PdfOptions()};
+    {
+        const Scheduler sistema;
+        EXPECT_EQ(stampanti.Names(), (std::vector<std::string>{"Colorata", "Grigia", "PDF"}));
+    }
+    EXPECT_EQ(stampanti.Names(), std::vector<std::string>{"PDF"});
+}
+
 TEST(CodaLenta, CancelsAJobThatComesTooLate) {
     Scheduler sistema;
     Handover consegna(std::make_shared<KnownQueues>(), std::make_shared<PdfPrinter>(PdfOptions()));
