@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
-#include <QPainter>
 #include <QScreen>
 #include <QWindow>
 #include <algorithm>
@@ -13,7 +12,6 @@
 #include "platform/label.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/native.h"
-#include "platform/qt/surface_native.h"
 
 namespace trameli {
 
@@ -32,35 +30,6 @@ bool TakesTab(const InteractiveControl& control) {
 }
 
 }  // namespace
-
-ClientArea::ClientArea(Form& form, QWidget* parent) : QWidget(parent), form_(form) {
-    setMouseTracking(true);
-    setAttribute(Qt::WA_OpaquePaintEvent);
-}
-
-void ClientArea::paintEvent(QPaintEvent* event) {
-    QPainter painter(this);
-    if (const auto& canvas = form_.NativePart().Canvas) {
-        canvas->SurfaceNative().Paint(painter, event->rect());
-    } else {
-        painter.fillRect(event->rect(), ToQt(form_.BackColor()));
-    }
-}
-
-void ClientArea::resizeEvent(QResizeEvent*) {
-    Resized();
-}
-
-void ClientArea::Resized() {
-    if (const auto& canvas = form_.NativePart().Canvas) {
-        canvas->SurfaceNative().Resize(size(), devicePixelRatioF());
-    }
-    form_.Forms().Dispatch(form_, [this] { Form::Native::Resize(form_); });
-}
-
-void ClientArea::mouseMoveEvent(QMouseEvent*) {
-    form_.Forms().Dispatch(form_, [this] { Form::Native::MouseMoved(form_); });
-}
 
 FormWindow::FormWindow(Form& form, QSize clientSize, FormStyle style)
     : form_(form),

@@ -5,27 +5,11 @@
 #include <QTimer>
 
 #include "platform/form.h"
+#include "platform/qt/client_area.h"
 #include "platform/qt/form_buttons.h"
 #include "platform/qt/key_road.h"
 
 namespace trameli {
-
-/// The area below the menu bar: it carries the form's controls and shows the form's own drawing.
-class ClientArea : public QWidget {
-public:
-    ClientArea(Form& form, QWidget* parent);
-
-    /// Tells the form that it has another size.
-    void Resized();
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-
-private:
-    Form& form_;
-};
 
 /// A form's window on the screen. It tells the form of its size, of keys, of its coming to the
 /// front and of being closed.
