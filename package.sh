@@ -37,14 +37,15 @@ copy_sources() {
         -- "${names[@]}" | tar -x -C "$1"
 }
 
-# make_package FOLDER [NAME]: in a subfolder of that name, since the name must not show in the result.
+# make_package FOLDER NAME: in a subfolder of that name, since the name must not show in the result.
 make_package() {
-    local folder=$1 sources=$1/${2:-trameli-$version}
+    local folder=$1 sources=$1/$2
     rm -rf "$folder"
-    copy_sources "$sources"
+    mkdir -p "$folder"
+    cp -a "$taken" "$sources"
     (cd "$sources" && dpkg-buildpackage --build=binary --no-sign --unsigned-changes) \
         >"$folder/log" 2>&1 || {
-        tail -n 40 "$folder/log" >&2
+        tail -n 40 "$folder/log" | cut -c 1-200 >&2
         echo "The package could not be built; $folder/log tells all." >&2
         return 1
     }
@@ -56,8 +57,13 @@ if command -v ccache >/dev/null; then
     CCACHE_DIR=${CCACHE_DIR:-$(ccache --get-config cache_dir)}
     export CCACHE_DIR
 fi
+# Taken once: somebody may go on working while the package is made.
+taken=build/package-sources
+trap 'rm -rf "$taken"' EXIT
+rm -rf "$taken"
+copy_sources "$taken"
 echo "Building $package" >&2
-make_package build/package
+make_package build/package "trameli-$version"
 lintian --allow-root --pedantic --fail-on error,warning,pedantic "build/package/$package" >&2
 if [[ ${1:-} == --twice ]]; then
     echo "Building it again" >&2
