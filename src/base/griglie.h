@@ -8,9 +8,6 @@
 
 namespace trameli {
 
-/// How many levels there are; a level is 0 to one less.
-inline constexpr int NumeroLivelli = 16;
-
 /// Rows and columns of a grid.
 struct DimensioniGriglia {
     std::int16_t Righe;
@@ -18,27 +15,33 @@ struct DimensioniGriglia {
     bool operator==(const DimensioniGriglia&) const = default;
 };
 
-/// The grid of a level, 0 to 15; any other number throws std::out_of_range.
+/// The grid of each level. A level more begins here; the tables that need a row too do not compile
+/// until they have it.
+inline constexpr auto Griglie = std::to_array<DimensioniGriglia>({
+    {6, 9},
+    {6, 9},
+    {6, 9},
+    {6, 9},
+    {6, 9},
+    {8, 11},
+    {8, 11},
+    {8, 11},
+    {3, 4},
+    {4, 5},
+    {5, 6},
+    {6, 7},
+    {8, 10},
+    {10, 15},
+    {12, 18},
+    {15, 20},
+});
+
+/// How many levels there are; a level is 0 to one less.
+inline constexpr int NumeroLivelli = Griglie.size();
+
+/// The grid of a level; a number that is none throws std::out_of_range.
 constexpr DimensioniGriglia DimensioniDi(int livello) {
-    constexpr std::array<DimensioniGriglia, NumeroLivelli> dimensioni{{
-        {6, 9},
-        {6, 9},
-        {6, 9},
-        {6, 9},
-        {6, 9},
-        {8, 11},
-        {8, 11},
-        {8, 11},
-        {3, 4},
-        {4, 5},
-        {5, 6},
-        {6, 7},
-        {8, 10},
-        {10, 15},
-        {12, 18},
-        {15, 20},
-    }};
-    return dimensioni.at(static_cast<std::size_t>(livello));
+    return Griglie.at(static_cast<std::size_t>(livello));
 }
 
 /// Whether the symbol walks by itself there.

@@ -22,7 +22,7 @@ constexpr int Nessuno(int /*m*/) {
     return 0;
 }
 
-constexpr std::array<Livello, NumeroLivelli> Livelli{{
+constexpr auto Livelli = std::to_array<Livello>({
     {Ricetta::ScatolaVuota, Nessuno},
     {Ricetta::ScavataEAllargata, [](int m) { return m - Quotient(m, 6); }},
     {Ricetta::ScavataEAllargata, [](int m) { return m - 2 * Quotient(m, 6); }},
@@ -39,7 +39,8 @@ constexpr std::array<Livello, NumeroLivelli> Livelli{{
     {Ricetta::Scavata, Nessuno},
     {Ricetta::Scavata, Nessuno},
     {Ricetta::Scavata, Nessuno},
-}};
+});
+static_assert(Livelli.size() == NumeroLivelli);
 
 const Livello& Trova(int livello) {
     return Livelli.at(static_cast<std::size_t>(livello));

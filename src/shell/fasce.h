@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "base/griglie.h"
 #include "platform/colour.h"
 
 namespace trameli {
@@ -20,6 +21,7 @@ inline constexpr std::array<Fascia, 3> Fasce{{
     {5, 7, 1800, Rgb(64, 0, 0)},
     {8, 15, 2880, Rgb(0, 0, 64)},
 }};
+static_assert(Fasce.back().Ultimo == NumeroLivelli - 1);
 
 /// Those with a symbol that walks by itself.
 inline constexpr Fascia LivelliATempo = Fasce[1];

@@ -10,6 +10,8 @@
 #include <system_error>
 #include <variant>
 
+#include "base/combinazioni_spessori.h"
+#include "base/griglie.h"
 #include "base/rounding.h"
 
 namespace trameli {
@@ -31,7 +33,7 @@ constexpr double ColoreMassimo = 16777215;
 
 /// The format: the order of the lines is all that tells the values apart.
 constexpr std::array<Riga, 16> Formato{{
-    {&Impostazioni::Livello, 0, 15},
+    {&Impostazioni::Livello, 0, NumeroLivelli - 1},
     {&Impostazioni::UsaMaiuscolo},
     {&Impostazioni::CambiaColoreRitorno},
     {&Impostazioni::LineeNeiPrimiLivelli},
@@ -41,7 +43,7 @@ constexpr std::array<Riga, 16> Formato{{
     {&Impostazioni::ColoreSimbolo, 0, ColoreMassimo},
     {&Impostazioni::ColoreRitorno, 0, ColoreMassimo},
     {&Impostazioni::ColoreScansione, 0, ColoreMassimo},
-    {&Impostazioni::SpessoreLinee, 0, 6},
+    {&Impostazioni::SpessoreLinee, 0, NumeroSpessori - 1},
     {&Impostazioni::SuoniAttivi},
     {&Impostazioni::SuonoMovimento},
     {&Impostazioni::PuntatoreSistema},

@@ -20,7 +20,7 @@ struct Opzione {
     const char* Nome;
 };
 
-constexpr std::array<Opzione, NumeroSpessori> Opzioni{{
+constexpr auto Opzioni = std::to_array<Opzione>({
     {600, 2160, "1: pareti e traccia sottili"},
     {1320, 2160, "2: pareti e traccia medie"},
     {2040, 2160, "3: pareti e traccia grosse"},
@@ -28,7 +28,8 @@ constexpr std::array<Opzione, NumeroSpessori> Opzioni{{
     {1320, 2760, "5: pareti sottili, traccia media"},
     {600, 3360, "6: pareti grosse, traccia sottile"},
     {1320, 3360, "7: pareti medie, traccia sottile"},
-}};
+});
+static_assert(Opzioni.size() == NumeroSpessori);
 constexpr double LarghezzaOpzione = 615;
 constexpr double AltezzaOpzione = 375;
 
