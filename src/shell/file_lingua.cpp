@@ -92,6 +92,24 @@ std::string_view SenzaUltimo(std::string_view testo) {
     return testo.substr(0, testo.size() - std::min<std::size_t>(testo.size(), 1));
 }
 
+/// Hands over each value with where it is kept, until `presa` says that it has seen enough.
+template <typename Presa>
+void Percorri(std::string_view testo, Presa presa) {
+    std::string_view sezione;
+    while (!testo.empty()) {
+        const std::string_view riga = ProssimaRiga(testo);
+        if (const auto nuova = SezioneDi(riga)) {
+            sezione = *nuova;
+        } else if (const auto voce = VoceDi(riga)) {
+            const std::string_view valore = FinoAZero(SenzaVirgolette(voce->Valore));
+            if (!presa(Posto(sezione, voce->Chiave),
+                       PrimiCaratteri(valore, FileLingua::LimiteValore))) {
+                return;
+            }
+        }
+    }
+}
+
 }  // namespace
 
 FileLingua::FileLingua(std::string_view byte) {
@@ -117,17 +135,28 @@ std::string FileLingua::Valore(std::string_view sezione, std::string_view chiave
     return trovato == valori_.end() ? std::string() : trovato->second;
 }
 
-void FileLingua::LeggiSezioni(std::string_view testo) {
-    std::string_view sezione;
-    while (!testo.empty()) {
-        const std::string_view riga = ProssimaRiga(testo);
-        if (const auto nuova = SezioneDi(riga)) {
-            sezione = *nuova;
-        } else if (const auto voce = VoceDi(riga)) {
-            const std::string_view valore = FinoAZero(SenzaVirgolette(voce->Valore));
-            valori_.try_emplace(Posto(sezione, voce->Chiave), PrimiCaratteri(valore, LimiteValore));
-        }
+std::string FileLingua::SoloValore(std::string_view byte, std::string_view sezione,
+                                   std::string_view chiave) {
+    if (byte.size() > LimiteSezioni) {
+        return FileLingua(byte).Valore(sezione, chiave);
     }
+    std::string trovato;
+    Percorri(TestoUtf8(byte), [&, cercato = Posto(sezione, chiave)](const std::string& posto,
+                                                                    std::string_view valore) {
+        if (posto != cercato) {
+            return true;
+        }
+        trovato = valore;
+        return false;
+    });
+    return trovato;
+}
+
+void FileLingua::LeggiSezioni(std::string_view testo) {
+    Percorri(testo, [this](std::string posto, std::string_view valore) {
+        valori_.try_emplace(std::move(posto), valore);
+        return true;
+    });
 }
 
 void FileLingua::LeggiRighe(std::string testo) {

@@ -35,6 +35,11 @@ public:
     /// character, without its first and last.
     std::string Valore(std::string_view sezione, std::string_view chiave) const;
 
+    /// The same of the bytes of a file of which nothing else is asked: up to `LimiteSezioni` it is
+    /// read only as far as that.
+    static std::string SoloValore(std::string_view byte, std::string_view sezione,
+                                  std::string_view chiave);
+
 private:
     /// A line by its place in the text.
     struct Riga {

@@ -117,7 +117,7 @@ std::string Lingue::LinguaDelDesktop() const {
     }
     for (const std::string& lingua : Elenca()) {
         const auto byte = fileSystem_.Read(FileDi(lingua), FileLingua::LimiteLettura);
-        if (byte && Sigla(FileLingua(*byte).Valore(SezioneLingua, ChiaveSigla)) == cercata) {
+        if (byte && Sigla(FileLingua::SoloValore(*byte, SezioneLingua, ChiaveSigla)) == cercata) {
             return lingua;
         }
     }

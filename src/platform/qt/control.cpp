@@ -83,6 +83,9 @@ void Control::Properties(PropertyAccess& access) {
 VisualControl::VisualControl(Container& container, ControlName name, std::unique_ptr<Native> native)
     : Control(container.ContainerForm(), std::move(name)), native_(std::move(native)) {
     native_->Widget->setObjectName(ToQt(Name()));
+    // It gets its size from its bounds. Otherwise the toolkit would measure it for one of its own,
+    // in a font that is never seen and takes as long to load as any other.
+    native_->Widget->setAttribute(Qt::WA_Resized);
     // A widget made after its window was shown stays hidden unless it is told.
     native_->Widget->show();
 }

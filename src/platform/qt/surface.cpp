@@ -1,7 +1,10 @@
 #include "platform/surface.h"
 
+#include <sys/mman.h>
+
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <iterator>
 
 #include "base/rounding.h"
@@ -12,6 +15,23 @@
 namespace trameli {
 
 namespace {
+
+/// An image in memory that the system may give in large pages. A screen's worth of small ones costs
+/// more time than what is drawn there.
+QImage InLargePages(const QSize& size) {
+    constexpr std::size_t page = std::size_t{2} << 20;
+    const std::size_t stride = static_cast<std::size_t>(size.width()) * sizeof(std::uint32_t);
+    const std::size_t needed = stride * static_cast<std::size_t>(size.height());
+    const std::size_t pages = (needed + page - 1) / page;
+    void* const memory = needed < page ? nullptr : std::aligned_alloc(page, pages * page);
+    if (!memory) {
+        return {size, QImage::Format_RGB32};
+    }
+    madvise(memory, pages * page, MADV_HUGEPAGE);
+    return {
+        static_cast<uchar*>(memory), size.width(), size.height(), static_cast<qsizetype>(stride),
+        QImage::Format_RGB32,        std::free,    memory};
+}
 
 std::uint32_t PixelOf(Colour colour) {
     return 0xFF000000U | static_cast<std::uint32_t>(RedOf(colour)) << 16 |
@@ -76,7 +96,7 @@ void Surface::Native::Resize(const QSize& size, double devicePixelRatio) {
     }
     const QImage before = image_;
     ratio_ = devicePixelRatio;
-    image_ = QImage(wanted, QImage::Format_RGB32);
+    image_ = InLargePages(wanted);
     Clear();
     if (!before.isNull() && !image_.isNull()) {
         QPainter painter(&image_);
