@@ -14,6 +14,7 @@
 #include "platform/control_array.h"
 #include "platform/forms.h"
 #include "platform/picture_box.h"
+#include "platform/qt/graphics.h"
 #include "platform/qt/native.h"
 #include "platform/qt/toolkit.h"
 
@@ -83,11 +84,11 @@ void RebuildBars(benchmark::State& state) {
     }
 }
 
-/// The same pixels from one picture, with bare painter calls.
+/// The same pieces of the same picture on an image of the window's size, with bare painter calls.
 void PaintBars(benchmark::State& state) {
     const Maze maze;
-    const QImage texture(420, 420, QImage::Format_RGB32);
-    QImage window(1920, 950, QImage::Format_RGB32);
+    const QImage texture = AtOwnSize({"muri/0.svg"}, 1);
+    QImage window(1920, 1080, QImage::Format_RGB32);
     const auto places = PostiBarre(maze.Walls, maze.Geometry);
     for (auto _ : state) {
         window.fill(Qt::yellow);
