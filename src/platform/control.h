@@ -174,6 +174,9 @@ protected:
     void Properties(PropertyAccess& access) override;
 
 private:
+    void ShowColours();
+    void ShowFont();
+
     bool enabled_ = true;
     Colour backColor_ = ButtonFace;
     Colour foreColor_ = Black;

@@ -46,6 +46,9 @@ public:
     Container::Native ContainerNative() override;
 
 private:
+    PictureBox(Container& container, ControlName name, const Bounds& bounds,
+               std::unique_ptr<VisualControl::Native> native);
+
     Container& container_;
     trameli::Picture picture_;
 };

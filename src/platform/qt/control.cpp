@@ -87,7 +87,8 @@ VisualControl::VisualControl(Container& container, ControlName name, std::unique
     // in a font that is never seen and takes as long to load as any other.
     native_->Widget->setAttribute(Qt::WA_Resized);
     // A widget made after its window was shown stays hidden unless it is told.
-    native_->Widget->show();
+    visible_ = native_->StartsVisible;
+    native_->Widget->setVisible(visible_);
 }
 
 VisualControl::~VisualControl() = default;
@@ -158,10 +159,9 @@ void PlacedControl::Properties(PropertyAccess& access) {
 InteractiveControl::InteractiveControl(Container& container, ControlName name, const Bounds& bounds,
                                        std::unique_ptr<Native> native)
     : PlacedControl(container, std::move(name), bounds, std::move(native)) {
-    QWidget* widget = NativePart().Widget;
-    widget->setFont(ToQt(font_, TwipsPerPixel(OwnerForm())));
-    new ControlEvents(*this, widget);
-    BackColor(backColor_);
+    new ControlEvents(*this, NativePart().Widget);
+    ShowColours();
+    ShowFont();
 }
 
 void InteractiveControl::Enabled(bool enabled) {
@@ -171,17 +171,29 @@ void InteractiveControl::Enabled(bool enabled) {
 
 void InteractiveControl::BackColor(Colour colour) {
     backColor_ = colour;
-    Paint(*NativePart().Widget, ToQt(backColor_), ToQt(foreColor_));
+    ShowColours();
 }
 
 void InteractiveControl::ForeColor(Colour colour) {
     foreColor_ = colour;
-    Paint(*NativePart().Widget, ToQt(backColor_), ToQt(foreColor_));
+    ShowColours();
+}
+
+void InteractiveControl::ShowColours() {
+    if (NativePart().ShowsLook) {
+        Paint(*NativePart().Widget, ToQt(backColor_), ToQt(foreColor_));
+    }
 }
 
 void InteractiveControl::Font(const trameli::Font& font) {
     font_ = font;
-    NativePart().Widget->setFont(ToQt(font, TwipsPerPixel(OwnerForm())));
+    ShowFont();
+}
+
+void InteractiveControl::ShowFont() {
+    if (NativePart().ShowsLook) {
+        NativePart().Widget->setFont(ToQt(font_, TwipsPerPixel(OwnerForm())));
+    }
 }
 
 void InteractiveControl::ToolTipText(const std::string& text) {

@@ -20,6 +20,8 @@ struct VisualControl::Native {
     Native& operator=(const Native&) = delete;
 
     QPointer<QWidget> Widget;
+    bool StartsVisible = true;
+    bool ShowsLook = true;  ///< colours and font of the control are those of the widget
 };
 
 /// Where the widgets of a container's controls are put.

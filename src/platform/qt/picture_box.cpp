@@ -5,6 +5,7 @@
 #include <QPainter>
 
 #include "base/rounding.h"
+#include "platform/qt/convert.h"
 #include "platform/qt/drawing.h"
 #include "platform/qt/graphics.h"
 #include "platform/qt/key_press.h"
@@ -31,12 +32,10 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override {
-        {
-            QPainter painter(this);
-            Drawn->Paint(painter, event->rect());
-        }
-        if (Press) {
-            PaintFocusRing(*this);
+        QPainter painter(this);
+        Drawn->Paint(painter, event->rect());
+        if (Press && hasFocus()) {
+            PaintFocusRing(painter, rect(), ToQt(Owner->BackColor()));
         }
     }
     void resizeEvent(QResizeEvent*) override {
@@ -74,11 +73,22 @@ private:
     KeyStroke stroke_;
 };
 
+/// A widget of which nothing is seen but the surface, and that has no use for colours and font.
+std::unique_ptr<VisualControl::Native> MakeBox(Container& container, bool visible) {
+    auto native = MakeNative<PictureBoxWidget>(container);
+    native->StartsVisible = visible;
+    native->ShowsLook = false;
+    return native;
+}
+
 }  // namespace
 
 PictureBox::PictureBox(Container& container, ControlName name, const Bounds& bounds)
-    : InteractiveControl(container, std::move(name), bounds,
-                         MakeNative<PictureBoxWidget>(container)),
+    : PictureBox(container, std::move(name), bounds, MakeBox(container, true)) {}
+
+PictureBox::PictureBox(Container& container, ControlName name, const Bounds& bounds,
+                       std::unique_ptr<VisualControl::Native> native)
+    : InteractiveControl(container, std::move(name), bounds, std::move(native)),
       container_(container) {
     auto& widget = WidgetOf<PictureBoxWidget>(*this);
     widget.Owner = this;
@@ -89,15 +99,27 @@ PictureBox::PictureBox(Container& container, ControlName name, const Bounds& bou
 }
 
 PictureBox::PictureBox(PictureBox& model, int index)
-    : PictureBox(model.container_, {model.Name(), index}, model.Place()) {
-    Visible(false);
-    Enabled(model.Enabled());
-    BackColor(model.BackColor());
+    : PictureBox(model.container_, {model.Name(), index}, model.Place(),
+                 MakeBox(model.container_, false)) {
+    // Mazes have seventy of these, so that nothing is set which is so already.
+    if (!model.Enabled()) {
+        Enabled(false);
+    }
+    if (model.BackColor() != BackColor()) {
+        BackColor(model.BackColor());
+    }
     DrawWidth(model.DrawWidth());
-    ToolTipText(model.ToolTipText());
-    AccessibleName(model.AccessibleName());
-    MouseIcon(model.MouseIcon());
-    Picture(model.picture_);
+    if (!model.ToolTipText().empty()) {
+        ToolTipText(model.ToolTipText());
+    }
+    if (!model.AccessibleName().empty()) {
+        AccessibleName(model.AccessibleName());
+    }
+    if (model.MouseIcon()) {
+        MouseIcon(model.MouseIcon());
+    }
+    picture_ = model.picture_;
+    SurfaceNative().Backdrop(model.SurfaceNative().Backdrop());
 }
 
 void PictureBox::BackColor(Colour colour) {

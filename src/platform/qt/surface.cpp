@@ -77,7 +77,7 @@ void Surface::Cls() {
 }
 
 PixelSize Surface::DevicePixels() const {
-    return {native_->Image().width(), native_->Image().height()};
+    return {native_->DeviceSize().width(), native_->DeviceSize().height()};
 }
 
 int Surface::ReadPixels(const PixelBlock& into) const {
@@ -91,14 +91,15 @@ void Surface::Native::Setup(double twipsPerPixel, Colour background) {
 
 void Surface::Native::Resize(const QSize& size, double devicePixelRatio) {
     const QSize wanted = (QSizeF(size) * devicePixelRatio).toSize();
-    if (image_.size() == wanted && ratio_ == devicePixelRatio) {
+    if (size_ == wanted && ratio_ == devicePixelRatio) {
         return;
     }
-    const QImage before = image_;
+    const QImage before = blank_ ? QImage() : image_;
     ratio_ = devicePixelRatio;
-    image_ = InLargePages(wanted);
+    size_ = wanted;
     Clear();
-    if (!before.isNull() && !image_.isNull()) {
+    if (!before.isNull() && !wanted.isEmpty()) {
+        Image();
         QPainter painter(&image_);
         painter.drawImage(0, 0, before);
     }
@@ -116,19 +117,33 @@ void Surface::Native::Backdrop(QImage picture) {
 
 void Surface::Native::Adopt(const Native& drawing) {
     // Both share the memory until one of them is drawn on.
-    backdrop_ = drawing.image_;
-    image_ = drawing.image_;
+    backdrop_ = drawing.Image();
+    image_ = backdrop_;
+    blank_ = false;
+    size_ = drawing.size_;
     ratio_ = drawing.ratio_;
-    Touch(0, 0, image_.width(), image_.height());
+    Touch(0, 0, size_.width(), size_.height());
 }
 
 void Surface::Native::Clear() {
+    blank_ = true;
+    Touch(0, 0, size_.width(), size_.height());
+}
+
+const QImage& Surface::Native::Image() const {
+    if (!blank_) {
+        return image_;
+    }
+    blank_ = false;
+    if (image_.size() != size_) {
+        image_ = InLargePages(size_);
+    }
     image_.fill(background_);
     if (!backdrop_.isNull() && !image_.isNull()) {
         QPainter painter(&image_);
         painter.drawImage(0, 0, backdrop_);
     }
-    Touch(0, 0, image_.width(), image_.height());
+    return image_;
 }
 
 void Surface::Native::Fill(double x1, double y1, double x2, double y2, Colour colour) {
@@ -184,7 +199,7 @@ void Surface::Native::Rings(std::span<const Colour> colours, double radius) {
     std::vector<std::uint32_t> pixels;
     std::transform(colours.begin(), colours.end(), std::back_inserter(pixels), PixelOf);
     trameli::FillRings(Target(), pixels, radius);
-    Touch(0, 0, image_.width(), image_.height());
+    Touch(0, 0, size_.width(), size_.height());
 }
 
 bool Surface::Native::Stretch(const PixelRectangle& where, const PixelBlock& picture) {
@@ -201,15 +216,24 @@ bool Surface::Native::Stretch(const PixelRectangle& where, const PixelBlock& pic
     const auto inside = [](double edge, int end) {
         return static_cast<int>(std::clamp(edge, 0.0, static_cast<double>(end)));
     };
-    Touch(inside(left, image_.width()), inside(top, image_.height()), inside(right, image_.width()),
-          inside(bottom, image_.height()));
+    Touch(inside(left, size_.width()), inside(top, size_.height()), inside(right, size_.width()),
+          inside(bottom, size_.height()));
     return true;
 }
 
 void Surface::Native::Paint(QPainter& painter, const QRect& where) {
     announced_ = QRect();
+    if (blank_ && ratio_ == 1) {
+        const QRect picture(QPoint(0, 0), backdrop_.size());
+        if (backdrop_.hasAlphaChannel() || !picture.contains(where)) {
+            painter.fillRect(where, QColor::fromRgb(background_));
+        }
+        const QRect seen = where & picture;
+        painter.drawImage(seen.topLeft(), backdrop_, seen);
+        return;
+    }
     const QRectF source(QPointF(where.topLeft()) * ratio_, QSizeF(where.size()) * ratio_);
-    painter.drawImage(QRectF(where), image_, source);
+    painter.drawImage(QRectF(where), Image(), source);
 }
 
 int Surface::Native::ToDevice(double twips) const {
@@ -222,6 +246,7 @@ int Surface::Native::PenOnDevice(int pen) const {
 }
 
 Pixels Surface::Native::Target() {
+    Image();
     return {reinterpret_cast<std::uint32_t*>(image_.bits()), image_.width(), image_.height(),
             static_cast<int>(image_.bytesPerLine() / 4)};
 }

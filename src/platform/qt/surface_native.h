@@ -46,9 +46,13 @@ struct Surface::Native {
     /// Shows what lies in `where`, in logical pixels.
     void Paint(QPainter& painter, const QRect& where);
     /// All pixels, in the resolution of the device.
-    const QImage& Image() const { return image_; }
+    const QImage& Image() const;
+    /// How many there are.
+    QSize DeviceSize() const { return size_; }
     /// Logical size.
-    QSize Size() const { return (QSizeF(image_.size()) / ratio_).toSize(); }
+    QSize Size() const { return (QSizeF(size_) / ratio_).toSize(); }
+    /// What `Clear` puts on the background.
+    const QImage& Backdrop() const { return backdrop_; }
 
 private:
     struct Point {
@@ -63,7 +67,11 @@ private:
     /// Notes that device pixels from (left, top) to before (right, bottom) have changed.
     void Touch(int left, int top, int right, int bottom);
 
-    QImage image_;
+    QSize size_;  // in device pixels
+    // Made when it is first drawn on or read: the bars of a wall show nothing but their backdrop,
+    // and there are seventy of them.
+    mutable QImage image_;
+    mutable bool blank_ = true;  // nothing but background and backdrop, whatever `image_` holds
     QImage backdrop_;
     RoundPens pens_;
     std::uint32_t background_ = 0;
