@@ -40,6 +40,10 @@ Program::Program(const Services& services, std::unique_ptr<Casuale> casuale)
     forms_.SwitchesInUse([this] { return stato_.ModoInput != Tastiera; });
 }
 
+FirstSight Program::PrimaVista() {
+    return FormAvvio::PrimaVista();
+}
+
 bool Program::Main() {
     if (services_.Instances.AnotherRuns()) {
         services_.Dialogs.Message(lingue_.TestoLingua("0001"), "Error", Icon::Critical,

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "engine/casuale.h"
+#include "platform/first_sight.h"
 #include "platform/forms.h"
 #include "platform/services.h"
 #include "printing/stampa_con_finestra.h"
@@ -24,6 +25,9 @@ public:
     /// Opens and reads nothing yet. `casuale` takes the place of the generator that `Main` seeds
     /// from the clock.
     explicit Program(const Services& services, std::unique_ptr<Casuale> casuale = nullptr);
+
+    /// What the first window shows, to be got ready before there is a program.
+    static FirstSight PrimaVista();
 
     /// Starts the game: reads the first user's settings and shows the splash. False if another
     /// instance runs: that was told in a message box, and nothing was opened, read or written.

@@ -3,6 +3,7 @@
 
 #include <memory>
 
+#include "platform/first_sight.h"
 #include "platform/services.h"
 
 namespace trameli {
@@ -12,7 +13,7 @@ namespace trameli {
 class Desktop {
 public:
     /// Ends the process with one line on standard error and code 2 if no display can be opened.
-    Desktop(int& argc, char** argv);
+    Desktop(int& argc, char** argv, const FirstSight& firstSight);
     ~Desktop();
     Desktop(const Desktop&) = delete;
     Desktop& operator=(const Desktop&) = delete;

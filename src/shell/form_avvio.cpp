@@ -14,6 +14,8 @@ namespace {
 constexpr Form::DesignSize Dimensioni{8190, 6210};
 constexpr Colour BluScuro = Rgb(0, 0, 128);
 constexpr int Fasce = 256;
+constexpr const char* Immagine = "avvio/labirinto.svg";
+constexpr double PuntiBottone = 24;
 
 struct Scritta {
     Bounds Posto;
@@ -31,7 +33,7 @@ constexpr std::array<Scritta, 2> Scritte{{
 
 FormAvvio::FormAvvio(trameli::Forms& forms, Servizi& servizi)
     : Form(forms, "FormAvvio", Dimensioni),
-      Image1(*this, "Image1", {480, 4320, 1215, 1095}, {"avvio/labirinto.svg"}),
+      Image1(*this, "Image1", {480, 4320, 1215, 1095}, {Immagine}),
       Label2("Label2"),
       Command1(*this, "Command1", {2280, 4200, 3015, 1215}, "&Avvio"),
       EssResizer1(*this),
@@ -49,9 +51,13 @@ FormAvvio::FormAvvio(trameli::Forms& forms, Servizi& servizi)
     }
 
     Command1.Picture({"icona/trameli.svg"});
-    Command1.Font(Fumetto(24));
+    Command1.Font(Fumetto(PuntiBottone));
     Command1.MouseIcon(PuntatoreIcona());
     Command1.Click = [this] { Command1_Click(); };
+}
+
+FirstSight FormAvvio::PrimaVista() {
+    return {Fumetto(PuntiBottone), {Immagine}};
 }
 
 void FormAvvio::Form_Load() {

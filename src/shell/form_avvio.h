@@ -3,6 +3,7 @@
 
 #include "platform/command_button.h"
 #include "platform/control_array.h"
+#include "platform/first_sight.h"
 #include "platform/form.h"
 #include "platform/image.h"
 #include "platform/label.h"
@@ -16,6 +17,9 @@ class FormAvvio : public Form {
 public:
     /// `servizi` must outlive it; it is read again at each event.
     FormAvvio(trameli::Forms& forms, Servizi& servizi);
+
+    /// What of it takes longest to show.
+    static FirstSight PrimaVista();
 
     // The controls, those further back first.
     Image Image1;
