@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds with warnings as errors, and runs all tests twice: on the
-# optimised build and under the sanitizers. An argument picks tests by name, as CTest's -R does.
+# Installs what is missing, builds with warnings as errors, and runs all tests: those of the program
+# itself on the optimised build, all others under the sanitizers. An argument picks tests by name, as
+# CTest's -R does.
 set -euo pipefail
 cd -P -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")"
 # shellcheck source=scripts/packages.sh
@@ -12,7 +13,8 @@ cd -P -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")"
 
 pick=()
 if [[ $# -gt 0 ]]; then
-    pick=(-R "$1")
+    # They may be in one of the two presets alone.
+    pick=(-R "$1" --no-tests=ignore)
 fi
 
 need_packages "${packages_build[@]}" "${packages_run[@]}" "${packages_test[@]}"

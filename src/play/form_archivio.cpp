@@ -9,17 +9,17 @@ namespace trameli {
 namespace {
 
 constexpr int NumeroMuri = 4;
-constexpr double Lato = 1200;  // twips; those who take a picture stretch it to their own size
+constexpr double Quadro = 1200;  // twips; those who take a picture stretch it to their own size
 
 }  // namespace
 
 FormArchivio::FormArchivio(trameli::Forms& forms)
-    : Form(forms, "FormArchivio", {Lato, Lato * NumeroArrivi}) {
+    : Form(forms, "FormArchivio", {Quadro, Quadro * NumeroArrivi}) {
     for (int i = 0; i < NumeroArrivi; ++i) {
-        Image2.Add(*this, Bounds{0, Lato * i, Lato, Lato}, ImmagineArrivo(i));
+        Image2.Add(*this, Bounds{0, Quadro * i, Quadro, Quadro}, ImmagineArrivo(i));
     }
     for (int i = 0; i < NumeroMuri; ++i) {
-        PictureBox& muro = PictureMuro.Add(*this, Bounds{Lato, Lato * i, Lato, Lato});
+        PictureBox& muro = PictureMuro.Add(*this, Bounds{Quadro, Quadro * i, Quadro, Quadro});
         muro.Picture({"muri/" + std::to_string(i) + ".svg"});
     }
 }

@@ -93,7 +93,7 @@ TEST(SurfaceTest, BackgroundColourTakesAwayEveryPixelAndTheScreenShowsIt) {
             ASSERT_TRUE(screen.Image() == sheet.Image());
         }
     };
-    for (int width = 1; width <= 60; ++width) {
+    for (const int width : {1, 2, 3, 4, 5, 7, 10, 16, 31, 60}) {
         for (const double ratio : Ratios) {
             ASSERT_NO_FATAL_FAILURE(eraseAll(ratio, Twips, width));
         }
