@@ -1,4 +1,4 @@
-// Clicks and the focus.
+// Clicks.
 #include <QTest>
 
 #include "platform/bare_program.h"
@@ -6,17 +6,13 @@
 #include "platform/frame.h"
 #include "platform/image.h"
 #include "platform/label.h"
-#include "platform/picture_box.h"
 
 namespace trameli {
 namespace {
 
 using Names = std::vector<std::string>;
 
-class ControlsTest : public BareProgram {
-protected:
-    bool HasFocus(const VisualControl& control) const { return WidgetOf(control).hasFocus(); }
-};
+class ControlsTest : public BareProgram {};
 
 TEST_F(ControlsTest, MouseClicksWhatIsEnabledAndOnlyInside) {
     Frame frame(TheForm, "Frame", {0, 0, 9000, 6000});
@@ -47,37 +43,6 @@ TEST_F(ControlsTest, MouseClicksWhatIsEnabledAndOnlyInside) {
         ClickOn(*control);
         EXPECT_EQ(Seen, Names{control->Name()});
     }
-}
-
-TEST_F(ControlsTest, FocusGoesOnlyWhereItCan) {
-    PictureBox home(TheForm, "Home", {300, 300, 900, 600});
-    Frame frame(TheForm, "Frame", {1500, 300, 3000, 3000});
-    CommandButton button(frame, "Button", {300, 300, 900, 600});
-    button.GotFocus = Noting("Button");
-    Bring();
-    const std::pair<InteractiveControl&, const char*> rows[] = {
-        {button, "Visible"}, {button, "Enabled"}, {frame, "Visible"}, {frame, "Enabled"}};
-    for (const auto& [control, property] : rows) {
-        home.SetFocus();
-        control.Set(property, false);
-        Seen.clear();
-        button.SetFocus();
-        control.Set(property, true);
-        Pump();
-        EXPECT_TRUE(HasFocus(home) && Seen.empty()) << control.Name() << property;
-        button.SetFocus();
-        button.SetFocus();
-        EXPECT_TRUE(HasFocus(button));
-        EXPECT_EQ(Seen.size(), 1U);
-    }
-    Program.Unload(Bring("B"));
-    Pump();
-    EXPECT_EQ(Seen.size(), 1U) << "it only came back with its window";
-    home.SetFocus();
-    Bring("B");
-    button.SetFocus();
-    Pump();
-    EXPECT_TRUE(WindowOf(Get("B")).isActiveWindow()) << "no window comes to the front by it";
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 // Boxes for numbers, and the keys that lead through a form of them.
 #include <QAccessible>
-#include <QInputMethodEvent>
 #include <QTest>
 
 #include "platform/bare_program.h"
@@ -111,48 +110,6 @@ TEST_F(NumbersTest, AnArrowHeldDownGoesOnWhileThePointerIsOnIt) {
     Bring("B");  // the button may be let go there
     Time.Advance(1);
     EXPECT_EQ(Box.Text(), "-14");
-}
-
-TEST_F(NumbersTest, KeyPressFiltersWhatIsTypedAndNothingElse) {
-    std::vector<int> asked;
-    Box.KeyPress = [&](int key) {
-        asked.push_back(key);
-        return key == 'x' ? 'y' : key == 8 || (key >= '0' && key <= '9') ? key : 0;
-    };
-    Type("1a2x");
-    EXPECT_EQ(Box.Text(), "12y");
-    Tap(TheForm, Qt::Key_Backspace);
-    EXPECT_EQ(asked, (std::vector<int>{'1', 'a', '2', 'x', 8}));
-    asked.clear();
-    for (const int key : {Qt::Key_A, Qt::Key_C, Qt::Key_V, Qt::Key_V}) {
-        Tap(TheForm, key, Qt::ControlModifier);
-    }
-    for (const int key :
-         {Qt::Key_Home, Qt::Key_Right, Qt::Key_Delete, Qt::Key_Tab, Qt::Key_Backtab}) {
-        Tap(TheForm, key);
-    }
-    EXPECT_EQ(Box.Text(), "112");
-    EXPECT_TRUE(asked.empty());
-    QInputMethodEvent composed;
-    composed.setCommitString(QStringLiteral("8ê9"));
-    QApplication::sendEvent(&WidgetOf(Box), &composed);
-    EXPECT_EQ(asked, (std::vector<int>{'8', 0xEA, '9'}));
-    Box.KeyPress = [](int) { return 0; };
-    Type("5");
-    Tap(TheForm, Qt::Key_Backspace);
-    EXPECT_EQ(Box.Text().find('5'), std::string::npos);
-}
-
-TEST_F(NumbersTest, SelectionAndLengthOfABox) {
-    Box.MaxLength(5);
-    Type("1234");
-    EXPECT_EQ(Box.SelStart(), 4);
-    Tap(TheForm, Qt::Key_Left, Qt::ShiftModifier);
-    Tap(TheForm, Qt::Key_Left, Qt::ShiftModifier);
-    EXPECT_EQ(Box.SelStart(), 2);
-    EXPECT_EQ(Box.SelText(), "34");
-    Type("56789");
-    EXPECT_EQ(Box.Text(), "12567");
 }
 
 TEST_F(NumbersTest, EnterAndEscapePressTheirButtonsFromWhereverTheyHaveNoOtherMeaning) {

@@ -350,25 +350,5 @@ TEST_F(StampaTest, FollowsWhatTheMousePastes) {
     });
 }
 
-TEST_F(StampaTest, TellsTheSheetWithoutOpening) {
-    struct Caso {
-        std::optional<int> Orientamento;
-        SheetSize Foglio;
-        const char* Messaggi;
-    };
-    for (const auto& [orientamento, foglio, messaggi] :
-         std::vector<Caso>{{std::nullopt, {200, 280}, ""},
-                           {2, {280, 200}, ""},
-                           {3, {-1, -1}, "Trameli: Orientamento errato\n"},
-                           {std::nullopt, {280, 200}, ""}}) {
-        SheetSize letto;
-        dynamic_cast<frmStampa&>(Gioco().Load("frmStampa"))
-            .FoglioStampa(letto.Width, letto.Height, orientamento);
-        EXPECT_EQ(letto.Width, foglio.Width);
-        EXPECT_EQ(letto.Height, foglio.Height);
-        EXPECT_EQ(Messaggi(), messaggi);
-    }
-}
-
 }  // namespace
 }  // namespace trameli

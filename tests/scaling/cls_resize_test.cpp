@@ -82,26 +82,6 @@ TEST_F(ClsResizeTest, FirstResizeRecordsAndFurtherOnesGoThereAndBack) {
     EXPECT_EQ(form.Libera.Width(), 1001);
 }
 
-TEST_F(ClsResizeTest, TagTellsWhatFollows) {
-    Finestra& form = Carica();
-    Misura(form, 6000, 4500);
-    const struct {
-        const char* Tag;
-        Bounds Posto;
-    } casi[] = {{"", {600, 120, 2002, 3000}},        {"libero: LW", {600, 120, 2002, 3000}},
-                {"@", {300, 60, 1001, 1500}},        {"@l,t", {600, 120, 1001, 1500}},
-                {"@W", {300, 60, 2002, 1500}},       {"@hx", {300, 60, 1001, 3000}},
-                {"@L,T,W,H", {600, 120, 2002, 3000}}};
-    form.Ridimensiona.ReInitialise();
-    for (const auto& [tag, posto] : casi) {
-        form.Libera.Tag("");
-        Misura(form, 6000, 4500);
-        form.Libera.Tag(tag);
-        Misura(form, 12000, 9000);
-        EXPECT_EQ(form.Libera.Place(), posto) << tag;
-    }
-}
-
 TEST_F(ClsResizeTest, ShareOfTheScreenStandsInItsMiddleAndStartsFromTheDesign) {
     Finestra& form = Carica();
     form.Ridimensiona.SizeFormToScreen(75);
@@ -110,28 +90,6 @@ TEST_F(ClsResizeTest, ShareOfTheScreenStandsInItsMiddleAndStartsFromTheDesign) {
     EXPECT_EQ(form.Left(), 2400);
     EXPECT_EQ(form.Top(), 1800);
     EXPECT_EQ(form.Cornice.Place(), (Bounds{288, 3840, 13680, 3360}));
-}
-
-TEST_F(ClsResizeTest, WhatIsFoldedAwayOrGoneIsLeftAlone) {
-    Finestra& form = Carica();
-    form.Ridimensiona.ReInitialise();
-    form.WindowState(Form::Minimised);
-    form.Libera.Left(7);
-    form.Ridimensiona.ResizeControls();
-    EXPECT_EQ(form.Libera.Left(), 7);
-    form.WindowState(Form::Normal);
-
-    form.Dentro.Unload(1);
-    form.Dentro.Load(2).Left(9);
-    Misura(form, 12000, 4500);
-    EXPECT_EQ(form.Dentro(0).Left(), 200);
-    EXPECT_EQ(form.Dentro(2).Left(), 9);
-
-    clsResize diAltri = form.Ridimensiona;
-    Programma.Unload(form);
-    Pump();
-    diAltri.ResizeControls();
-    EXPECT_EQ(diAltri.SourceForm(), nullptr);
 }
 
 }  // namespace
