@@ -18,8 +18,9 @@ packages_wayland=(qt6-wayland)
 # Only where there is no display: a virtual one with its password, and a window manager.
 packages_display=(tigervnc-standalone-server tigervnc-tools openbox)
 # The tests bring their own X servers, with and without a window manager, and look at that display.
-# They also bring their own print service, and look at its pages.
-packages_test=(libgtest-dev xvfb xdotool "${packages_display[@]}" cups ghostscript poppler-utils)
+# They also bring their own Wayland session and print service, and look at its pages.
+packages_test=(libgtest-dev xvfb xdotool "${packages_display[@]}" weston "${packages_wayland[@]}"
+    cups ghostscript poppler-utils)
 # The package: what makes it and what looks it through. What is needed to build the game inside it
 # stands in debian/control once more, because Debian's tools read nothing else.
 packages_package=(dpkg-dev debhelper lintian desktop-file-utils appstream reuse)
@@ -51,7 +52,7 @@ Needed are a C++20 compiler, CMake 3.25 or later, Ninja, Qt 6.4 or later with Wi
 its X11 or Wayland plugin and its translations, libxcb, Fontconfig, CUPS 2.3 or later (its library), and SDL2_mixer 2.6 or later with
 FluidSynth; the fonts Comic Neue and Liberation Sans (or Comic Sans MS and Arial); for the music a General MIDI
 soundfont; without a display also TigerVNC's X server with vncpasswd and the window manager openbox; for tests
-and benchmarks both of these, GoogleTest, Google Benchmark, Xvfb and xdotool, the whole of CUPS with its filters,
+and benchmarks both of these, GoogleTest, Google Benchmark, Xvfb, xdotool and Weston, the whole of CUPS with its filters,
 Ghostscript and Poppler's tools.
 
 Missing, by Debian's names:

@@ -1,4 +1,4 @@
-// Forms on a real X server: their size when they are activated, and keys that the server repeats.
+// Forms on a real display: their size when they are activated, and keys that the server repeats.
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QKeyEvent>
@@ -61,8 +61,10 @@ protected:
     FormsOnX11() : ScriptedProgram(&RealScreen()) {}
 
     void SetUp() override {
-        ASSERT_EQ(QGuiApplication::platformName(), "xcb") << "see on_display.sh";
+        ASSERT_NE(QGuiApplication::platformName(), "offscreen") << "see on_display.sh";
     }
+
+    static bool OnX11() { return QGuiApplication::platformName() == "xcb"; }
 
     static Screen& RealScreen() {
         static DesktopScreen screen;
@@ -72,6 +74,11 @@ protected:
     /// The window with its frame, if the window manager gave it one, takes the whole screen.
     bool FillsTheScreen(const std::string& name) {
         const QWindow& window = *WindowOf(Get(name)).windowHandle();
+        if (!OnX11()) {
+            // Nobody knows what panels leave, but the frame takes a little in any case.
+            const int frame = window.screen()->size().width() - window.width();
+            return window.isExposed() && frame > 0 && frame < 20;
+        }
         return window.isExposed() && window.frameGeometry() == window.screen()->availableGeometry();
     }
     /// Waits until a form that was shown is activated and has the whole screen.
@@ -170,8 +177,10 @@ TEST_F(FormsOnX11, ModalOnesOfTheirOwnSizeGrowToTheScreenAndGoBack) {
             EXPECT_TRUE(Until([&] { return window.size() == before.size(); }));
             SeenUpToNow("B");
             EXPECT_EQ(window.size(), before.size());
-            // The frame of a maximised window is thinner, and the place goes by the frame.
-            EXPECT_LT((window.pos() - before.topLeft()).manhattanLength(), 8) << time;
+            if (OnX11()) {
+                // The frame of a maximised window is thinner, and the place goes by the frame.
+                EXPECT_LT((window.pos() - before.topLeft()).manhattanLength(), 8) << time;
+            }
             Seen.clear();
         }
         Program.Unload(Get("B"));
@@ -223,7 +232,7 @@ TEST_F(FormsOnX11, GiveTheKeyboardToAMessageBoxAndGetItBack) {
     DesktopDialogs().Message("text", "title", Icon::Critical, Buttons::Ok);
     eye.stop();
     EXPECT_TRUE(Until([&] { return WindowOf(Get("A")).isActiveWindow(); }));
-    EXPECT_TRUE(WidgetOf(Get("A").Second).hasFocus());
+    EXPECT_TRUE(Until([&] { return WidgetOf(Get("A").Second).hasFocus(); }));
 }
 
 TEST_F(FormsOnX11, ThatAreDestroyedFromOutsideEndTheProgramAndBoxesAreClosed) {

@@ -168,8 +168,11 @@ void FormWindow::Arrange() {
     const QRect place = QGuiApplication::primaryScreen()->availableGeometry();
     // The size comes first and the wish to be maximised after it, so that the window fills the
     // screen also where no window manager hears of the wish. Where the program's screen is another
-    // one than the toolkit's, only the program's tells how large a full one is.
-    resize(size);
+    // one than the toolkit's, only the program's tells how large a full one is. A Wayland
+    // compositor always hears of it, and the size would be the one that the window goes back to.
+    if (!QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
+        resize(size);
+    }
     if (size == place.size()) {
         move(place.topLeft());
         setWindowState(windowState() | Qt::WindowMaximized);
