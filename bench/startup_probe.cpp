@@ -14,12 +14,12 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <fstream>
 #include <string>
 
 #include "platform/desktop.h"
 #include "platform/qt/form_window.h"
 #include "program.h"
+#include "resident.h"
 
 namespace {
 
@@ -31,14 +31,6 @@ double Age() {
     const double seconds =
         static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
     return start ? (seconds - std::stod(start) * 1e-9) * 1000 : 0;
-}
-
-long ResidentKilobytes() {
-    std::ifstream statm("/proc/self/statm");
-    long total = 0;
-    long resident = 0;
-    statm >> total >> resident;
-    return resident * (sysconf(_SC_PAGESIZE) / 1024);
 }
 
 long Ticks() {
@@ -104,7 +96,7 @@ int main(int argc, char** argv) {
         window.showMaximized();
         Report([&] { return window.Painted; }, idleSeconds);
     }
-    const trameli::Desktop desktop(argc, argv);
+    const trameli::Desktop desktop(argc, argv, trameli::Program::PrimaVista());
     trameli::Program program(desktop.Services());
     if (!program.Main()) {
         std::fputs("another instance runs\n", stderr);
