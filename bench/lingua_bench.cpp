@@ -106,7 +106,7 @@ BENCHMARK(SetCaptions)->Name("traduci_base/lingue")->Arg(6)->Arg(200);
 
 int main(int argc, char** argv) {
     const trameli::Machine machine;
-    const trameli::Desktop desktop(argc, argv);
+    const trameli::Desktop desktop(argc, argv, trameli::Program::PrimaVista());
     trameli::TheMachine = &machine;
     trameli::TheDesktop = &desktop;
     benchmark::Initialize(&argc, argv);

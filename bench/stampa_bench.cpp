@@ -286,7 +286,7 @@ BENCHMARK(PressKey)->Name("stampa/tasto")->Unit(benchmark::kMillisecond);
 
 int main(int argc, char** argv) {
     const trameli::Folder folder;
-    const trameli::Desktop desktop(argc, argv);
+    const trameli::Desktop desktop(argc, argv, trameli::Program::PrimaVista());
     trameli::TheFolder = &folder;
     trameli::TheDesktop = &desktop;
     benchmark::Initialize(&argc, argv);
