@@ -23,6 +23,7 @@ files == 1 {
     split($0, field, ",")
     name = substr(field[1], 2, length(field[1]) - 2)
     sub(/_median$/, "", name)
+    sub(/\/repeats:[0-9]+/, "", name)
     time = field[3] * nanoseconds[field[5]]
     slash = index(name, "/")
     head = slash ? substr(name, 1, slash - 1) : name

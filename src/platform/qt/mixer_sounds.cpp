@@ -1,5 +1,7 @@
 #include "platform/qt/mixer_sounds.h"
 
+#include <sched.h>
+
 #include <chrono>
 #include <condition_variable>
 #include <exception>
@@ -24,6 +26,13 @@ constexpr auto Round = 500ms;
 /// How long the end of the program waits for the sound system.
 constexpr auto Farewell = 500ms;
 
+/// Lets other threads finish what they are at when this one wakes up: the step that asks for a
+/// sound is drawn first. The threads that this one starts, such as the device's, are as others are.
+void StandBack() {
+    const sched_param none{};
+    pthread_setschedparam(pthread_self(), SCHED_BATCH | SCHED_RESET_ON_FORK, &none);
+}
+
 }  // namespace
 
 /// What shall be heard. There is no queue: a new wish takes the place of an old one of its kind, so
@@ -46,6 +55,7 @@ MixerSounds::MixerSounds(LocalFileSystem files, MixerOptions options)
         thread_ =
             std::thread([wishes = wishes_, files = std::move(files), options = std::move(options)] {
                 try {
+                    StandBack();
                     Mixer mixer(files, options);
                     Serve(*wishes, mixer);
                 } catch (const std::exception&) {
