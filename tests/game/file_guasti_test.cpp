@@ -80,14 +80,5 @@ TEST_F(FileGuasti, OneThatCannotBeSavedIsNotReadBackUntilItIs) {
     EXPECT_EQ(stato_.Livello, 3);
 }
 
-TEST_F(FileGuasti, BlanksInFrontAreReadUpTo64KiB) {
-    for (const std::size_t blanks : {65000U, 65536U}) {
-        Write(disco_.FileDi("Anna"),
-              std::string(blanks, ' ') + FileUtente().Con(RigaLivello, 9).Bytes());
-        Leggi();
-        EXPECT_EQ(stato_.Livello, blanks == 65000 ? 9 : 3);
-    }
-}
-
 }  // namespace
 }  // namespace trameli

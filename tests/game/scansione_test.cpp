@@ -30,23 +30,6 @@ TEST_P(OgniModo, OffersGoRoundClockwiseOneAtATime) {
     EXPECT_EQ(tavolo.Urti() + tavolo.Passi(), 0);
 }
 
-TEST_F(ConInterruttori, WithOneKeyAWalkLooksAsWithTheKeyboard) {
-    constexpr int livello = 9;
-    disco_.Scrivi("_predefinito", Utente(0));
-    // The same maze in another game, since both draw the same numbers.
-    Partita altra(disco_, {800, 600}, 7);
-    const Tavolo modello(altra.ApriLivello(livello), livello, Utente(0));
-    const Tavolo tavolo = Apri(livello, Automatica);
-    std::vector<int> passi = tavolo.Soluzione();
-    passi.pop_back();
-    int offerta = 0;
-    for (const int verso : passi) {
-        modello.Passo(verso);
-        Vai(tavolo.Form_, verso, offerta);
-        ASSERT_EQ(tavolo.Guarda().Immagine(), modello.Guarda().Immagine());
-    }
-}
-
 TEST_F(ConInterruttori, WithTwoKeysTheOfferStaysOnAStepAndARestartShowsNone) {
     const Tavolo tavolo = Apri(9, Manuale);
     partenza_ = tavolo.Partenza();

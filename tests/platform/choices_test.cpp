@@ -1,17 +1,10 @@
-// What a player chooses, and what is told of it to those who cannot see it.
-#include <QAccessible>
+// What a player chooses.
 #include <QListView>
 #include <QTabBar>
 #include <QTest>
 
 #include "platform/bare_program.h"
-#include "platform/check_box.h"
-#include "platform/frame.h"
-#include "platform/image.h"
 #include "platform/list_box.h"
-#include "platform/option_button.h"
-#include "platform/picture_box.h"
-#include "platform/scroll_bar.h"
 #include "platform/tab_strip.h"
 
 namespace trameli {
@@ -48,38 +41,6 @@ TEST_F(ChoicesTest, ClicksChooseWhatTheyAreMeantFor) {
     EXPECT_EQ(Click(*view.viewport(), second), "one");
     EXPECT_EQ(Click(*view.viewport(), second), "one") << "the same one again";
     EXPECT_EQ(Click(*view.viewport(), {100, 70}), "") << "below the last entry";
-}
-
-TEST_F(ChoicesTest, AssistiveTechnologyIsToldOfAll) {
-    CheckBox check(TheForm, "Check", {300, 300, 3000, 450}, "&Check");
-    OptionButton option(TheForm, "Option", {300, 300, 3000, 450}, "&Option");
-    Frame frame(TheForm, "Frame", {300, 300, 3000, 450}, "&Frame");
-    TabStrip tabs(TheForm, "Tabs", {300, 900, 6000, 1500}, {"&Tabs", "Two"});
-    ListBox list(TheForm, "List", {300, 300, 3000, 450});
-    HScrollBar bar(TheForm, "Bar", {300, 300, 3000, 450}, 0, 9, 1);
-    Image image(TheForm, "Image", {300, 300, 900, 600}, {"sole.svg"});
-    PictureBox box(TheForm, "Box", {300, 300, 900, 600});
-    Bring();
-    const struct {
-        InteractiveControl& Control;
-        QAccessible::Role Role;
-    } rows[] = {
-        {check, QAccessible::CheckBox}, {option, QAccessible::RadioButton},
-        {frame, QAccessible::Grouping}, {tabs, QAccessible::PageTabList},
-        {list, QAccessible::List},      {bar, QAccessible::ScrollBar},
-        {image, QAccessible::Graphic},  {box, QAccessible::Graphic},
-    };
-    for (const auto& [control, role] : rows) {
-        auto* const seen = QAccessible::queryAccessibleInterface(&WidgetOf(control));
-        EXPECT_EQ(seen->role(), role) << control.Name();
-        const bool hasCaption = control.Set("Caption", control.Name()) == PropertyCode::Done;
-        control.AccessibleName(hasCaption ? "" : control.Name());
-        EXPECT_EQ(seen->text(QAccessible::Name), QString::fromStdString(control.Name()));
-    }
-    auto* const tab = QAccessible::queryAccessibleInterface(&WidgetOf(tabs))->child(0);
-    EXPECT_EQ(tab->text(QAccessible::Name), "Tabs");
-    auto* const window = QAccessible::queryAccessibleInterface(&WindowOf(TheForm));
-    EXPECT_FALSE(window->text(QAccessible::Name).trimmed().isEmpty());
 }
 
 }  // namespace

@@ -47,33 +47,6 @@ TEST(FileLingua, GivesWhatCanBeRead) {
     }
 }
 
-/// The same text in a file of so many bytes.
-std::string Lungo(const std::string& testo, std::size_t lunghezza) {
-    return testo + "\n" + std::string(lunghezza - testo.size() - 1, '\n');
-}
-
-TEST(FileLingua, LosesItsSectionsWhereItIsLong) {
-    const std::string normale = "[T]\r\nK=\"a\xC3\xA8\"\r\n[S]\r\nK=\"b\"\r\nL=\" c \" \r\n";
-    const FileLingua piccolo(Lungo(normale, 64000));
-    const FileLingua grande(Lungo(normale, 64001));
-    EXPECT_EQ(piccolo.Valore("S", "L"), " c ");
-    EXPECT_EQ(grande.Valore("S", "L"), " c ");
-    EXPECT_EQ(piccolo.Valore("S", "K"), "b");
-    EXPECT_EQ(grande.Valore("S", "K"), "a\xC3\xA8");
-
-    const std::string sparso = "KK=\"a\"\n K=\"b\"\nM(x\xC3\xA8y\xC3\xA8\nO\nR=\"a\0b\"\n"s;
-    const FileLingua file(Lungo(sparso, 64001));
-    for (const auto& [chiave, valore] :
-         {std::pair{"K", "\"a"},  // the longer key begins with it, and comes first
-          {"k", ""},
-          {"M", "\xC3\xA8y"},
-          {"O", ""},
-          {"R", "a"},
-          {"Z", ""}}) {
-        EXPECT_EQ(file.Valore("S", chiave), valore) << chiave;
-    }
-}
-
 TEST(FileLingua, TakesAValueAndKeepsTheRest) {
     const std::vector<Caso> casi{
         {"", "[S]\r\nK=v\r\n"},
