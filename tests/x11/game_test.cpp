@@ -1,12 +1,11 @@
 // A game on a real display: by keys from the splash into a maze, and out at the exit.
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QProcess>
 #include <QTest>
 
 #include "game/partita.h"
-#include "platform/menu.h"
+#include "platform/option_button.h"
 
 namespace trameli {
 namespace {
@@ -33,8 +32,8 @@ TEST(AGame, GoesByKeysFromTheSplashIntoAMazeAndOutAtTheExit) {
     const auto menuPronto = [&] {
         return davanti("FormMenu") && Until([&] {
                    partita.Tempo.Advance(0.3);
-                   const QWidget* const scelto = QApplication::focusWidget();
-                   return scelto && scelto->objectName() == "Option1";
+                   const Form& menu = partita.Finestra("FormMenu");
+                   return WidgetOf(Trova<OptionButton>(menu, "Option1", livello)).hasFocus();
                });
     };
     partita.Avvia();
