@@ -5,9 +5,14 @@
 
 namespace trameli {
 
-/// The largest cells that leave half a cell free at each side of the grid and a whole one above
-/// and below, where the finish picture goes; the grid in the middle. Width and height of the box
-/// are in twips and need not be whole. What does not fit into 16 bits stops at their limit.
-Geometria CalcolaGeometria(double larghezza, double altezza, int righe, int colonne);
+/// In which sides of the grid start and finish can be.
+enum class Aperture { OgniLato, SopraESotto };
+
+/// The largest cells that leave a whole cell free where the finish picture can go: above and below
+/// the grid, and at its sides too unless only half a cell is wanted there; the grid in the middle.
+/// Width and height of the box are in twips and need not be whole. What does not fit into 16 bits
+/// stops at their limit.
+Geometria CalcolaGeometria(double larghezza, double altezza, int righe, int colonne,
+                           Aperture aperture = Aperture::OgniLato);
 
 }  // namespace trameli

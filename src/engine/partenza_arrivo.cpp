@@ -70,7 +70,7 @@ Posizione DavantiA(Cella cella, Lato lato, const Geometria& geometria, double sp
         case Lato::Sinistra:
             break;
     }
-    // With neither the sixth nor the half wall: there the picture is cut off by the edge.
+    // With neither the sixth nor the half wall, a little further off than at the other sides.
     return {Saturated(y + sesto + mezzoMuro), Saturated(x - intera)};
 }
 

@@ -4,7 +4,6 @@
 #include <string>
 
 #include "base/rounding.h"
-#include "drawing/geometria.h"
 #include "platform/forms.h"
 #include "shell/puntatori.h"
 
@@ -113,7 +112,7 @@ void FormTrm::Form_Activate() {
     TrameliRisolti = 0;
     Disponi();
     geometria_ = CalcolaGeometria(pictureTramelo.Width(), pictureTramelo.Height(), tramelo_.Righe(),
-                                  tramelo_.Colonne());
+                                  tramelo_.Colonne(), DoveSiApre());
     ImpostaSpessori();
     pictureTramelo.Left(0);
     pictureTramelo.Top(0);

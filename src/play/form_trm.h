@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "base/griglie.h"
+#include "drawing/geometria.h"
 #include "drawing/spessori.h"
 #include "engine/casuale.h"
 #include "engine/tramelo.h"
@@ -86,6 +87,8 @@ protected:
     virtual void mnuNuovo_Click() = 0;
     /// Chooses start and finish of a new maze and opens them in its walls.
     virtual PartenzaArrivo TrovaPartenzaArrivo();
+    /// In which sides of its mazes that can be.
+    virtual Aperture DoveSiApre() const { return Aperture::OgniLato; }
     /// What the walls are made of just now.
     virtual Pareti AspettoPareti() const { return Pareti::Linee; }
     /// Draws the walls; the surface is not cleared before.

@@ -40,6 +40,7 @@ protected:
     void Disponi() override;
     void mnuNuovo_Click() override;
     PartenzaArrivo TrovaPartenzaArrivo() override;
+    Aperture DoveSiApre() const override { return Aperture::SopraESotto; }
     /// A sun less and back to the start.
     void ColpitoMuro() override;
     /// Whoever prints while looking at a new maze looks on when the print window has closed.

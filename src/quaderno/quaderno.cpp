@@ -28,16 +28,19 @@ constexpr int SoluzioniPerPagina = SoluzioniPerRiga * SoluzioniPerColonna;
 /// A maze, wherever it is going to be drawn.
 struct TrameloPronto {
     Tramelo Muri;
+    Aperture DoveSiApre;
     int Configurazione_;  ///< where start and finish are
     int Arrivo;           ///< which picture
 };
 
 TrameloPronto Prepara(int livello, Casuale& casuale) {
     const auto [righe, colonne] = DimensioniDi(livello);
-    TrameloPronto pronto{Tramelo(righe, colonne, casuale), 0, 0};
+    // In the timed levels the way always leads downwards.
+    const bool inGiu = ATempo(livello);
+    TrameloPronto pronto{Tramelo(righe, colonne, casuale),
+                         inGiu ? Aperture::SopraESotto : Aperture::OgniLato, 0, 0};
     CreaTramelo(pronto.Muri, livello, [&] {
-        // In the timed levels the way always leads downwards.
-        pronto.Configurazione_ = ATempo(livello) ? 0 : casuale.FinoA(NumeroConfigurazioni);
+        pronto.Configurazione_ = inGiu ? 0 : casuale.FinoA(NumeroConfigurazioni);
         const PartenzaArrivo percorso =
             Configurazione(pronto.Configurazione_, righe, colonne, {}, 0);
         pronto.Muri.Apri(percorso.CellaPartenza, percorso.LatoPartenza);
@@ -56,8 +59,8 @@ public:
           impostazioni_(impostazioni),
           tramelo_(tramelo.Muri),
           dove_(dove),
-          geometria_(
-              CalcolaGeometria(dove.Width, dove.Height, tramelo_.Righe(), tramelo_.Colonne())),
+          geometria_(CalcolaGeometria(dove.Width, dove.Height, tramelo_.Righe(), tramelo_.Colonne(),
+                                      tramelo.DoveSiApre)),
           spessori_(CalcolaSpessori(impostazioni.SpessoreLinee, geometria_.DimensioneCella, Pixel,
                                     Pareti::Linee)),
           percorso_(Configurazione(tramelo.Configurazione_, tramelo_.Righe(), tramelo_.Colonne(),

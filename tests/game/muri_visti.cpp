@@ -6,8 +6,9 @@
 
 namespace trameli {
 
-Pianta Pianta::Su(double larghezza, double altezza, int righe, int colonne, double twips) {
-    const int lato = std::min(static_cast<int>(std::nearbyint(larghezza)) / (colonne + 1),
+Pianta Pianta::Su(double larghezza, double altezza, int righe, int colonne, int aiLati,
+                  double twips) {
+    const int lato = std::min(static_cast<int>(std::nearbyint(larghezza)) / (colonne + aiLati),
                               static_cast<int>(std::nearbyint(altezza)) / (righe + 2));
     return {righe,
             colonne,

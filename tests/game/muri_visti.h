@@ -40,9 +40,10 @@ struct Pianta {
     int Alto = 0;
     double TwipsPerPixel = 15;
 
-    /// A grid centred on a box of so many twips, with half a cell free at each side and a whole
-    /// one above and below.
-    static Pianta Su(double larghezza, double altezza, int righe, int colonne, double twips);
+    /// A grid centred on a box of so many twips, with a whole cell free above and below and so
+    /// many in all at its sides.
+    static Pianta Su(double larghezza, double altezza, int righe, int colonne, int aiLati,
+                     double twips);
 
     /// The edges between cells: 0 is the outer edge.
     double BordoX(int colonna) const { return Sinistra + static_cast<double>(colonna) * Lato; }

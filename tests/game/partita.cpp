@@ -165,7 +165,9 @@ Tavolo::Tavolo(Form& form, int livello, const FileUtente& file) : Form_(form), f
                          : form.Name() == "frmTrm1" ? 1455 + barre
                                                     : 2 * 780.0;
     const auto [righe, colonne] = MisuraDi(livello);
-    Pianta_ = Pianta::Su(form.Width(), form.Height() - sotto, righe, colonne, twips);
+    // In timed mazes there is nothing to the left or right of the grid.
+    const int aiLati = form.Name() == "frmTrm1" ? 1 : 2;
+    Pianta_ = Pianta::Su(form.Width(), form.Height() - sotto, righe, colonne, aiLati, twips);
 }
 
 Vista Tavolo::Guarda() const {
