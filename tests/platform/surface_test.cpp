@@ -107,7 +107,7 @@ TEST(SurfaceTest, KeepsItsDrawingWhenItsSizeChangesAndItsPictureWhenItIsCleared)
     Sheet sheet(QSize(100, 80), 1.25);
     QImage picture(1, 1, QImage::Format_RGB32);
     picture.fill(Qt::red);
-    sheet.SurfaceNative().Backdrop(picture);
+    sheet.SurfaceNative().Backdrop([&](const QSize&) { return picture; });
     sheet.FillBox(300, 300, 9000, 9000, Ink);
     const QImage before = sheet.Image();
     sheet.SurfaceNative().Resize(QSize(150, 60), 1.25);

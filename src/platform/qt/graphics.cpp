@@ -107,20 +107,23 @@ QSvgRenderer& ShownPicture::Renderer() {
     return *renderer_;
 }
 
-QImage AtOwnSize(const Picture& picture, double devicePixelRatio) {
-    // Sixty bars of a wall show one picture, which takes as long to draw as one frame.
-    return Kept(QStringLiteral("%1 x %2").arg(PathOf(picture)).arg(devicePixelRatio),
+QImage CornerAtOwnSize(const Picture& picture, const QSize& size, double devicePixelRatio) {
+    // Sixty bars of a wall show one picture, in two shapes. Drawing all of it would take as long as
+    // a frame, and as a rule they show a small part.
+    return Kept(QStringLiteral("%1 %2x%3 x %4")
+                    .arg(PathOf(picture))
+                    .arg(size.width())
+                    .arg(size.height())
+                    .arg(devicePixelRatio),
                 [&] {
-                    ShownPicture shown;
-                    shown.Set(picture);
-                    const QSize size = (QSizeF(shown.OwnSize()) * devicePixelRatio).toSize();
-                    if (size.isEmpty()) {
-                        return QPixmap();
+                    QSvgRenderer renderer(PathOf(picture));
+                    const QSizeF whole = QSizeF(renderer.defaultSize()) * devicePixelRatio;
+                    QPixmap pixmap(size.boundedTo(whole.toSize()));
+                    if (!pixmap.isNull()) {
+                        pixmap.fill(Qt::transparent);
+                        QPainter painter(&pixmap);
+                        renderer.render(&painter, QRectF(QPointF(0, 0), whole));
                     }
-                    QPixmap pixmap(size);
-                    pixmap.fill(Qt::transparent);
-                    QPainter painter(&pixmap);
-                    shown.Paint(painter, QRect(QPoint(0, 0), size), 1);
                     return pixmap;
                 })
         .toImage();

@@ -35,9 +35,10 @@ private:
     QPixmap drawn_;
 };
 
-/// A picture at its own size, for a screen with so many device pixels per logical one; null if it
-/// cannot be loaded. All who show the same one share its pixels.
-QImage AtOwnSize(const Picture& picture, double devicePixelRatio);
+/// What of a picture at its own size, for a screen with so many device pixels per logical one, lies
+/// in the upper left corner of that size in device pixels; null if it cannot be loaded. All who
+/// show the same share its pixels.
+QImage CornerAtOwnSize(const Picture& picture, const QSize& size, double devicePixelRatio);
 
 /// Gives a widget a pointer of its own, or the system's.
 void SetPointer(QWidget& widget, const std::optional<PointerImage>& icon);

@@ -130,7 +130,9 @@ void PictureBox::BackColor(Colour colour) {
 void PictureBox::Picture(const trameli::Picture& picture) {
     picture_ = picture;
     const double ratio = WidgetOf<PictureBoxWidget>(*this).devicePixelRatioF();
-    SurfaceNative().Backdrop(AtOwnSize(picture, ratio));
+    SurfaceNative().Backdrop([picture, ratio](const QSize& size) {
+        return picture.Name.empty() ? QImage() : CornerAtOwnSize(picture, size, ratio);
+    });
 }
 
 void PictureBox::Picture(const Surface& drawing) {

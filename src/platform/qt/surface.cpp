@@ -110,15 +110,25 @@ void Surface::Native::Background(Colour colour) {
     Clear();
 }
 
-void Surface::Native::Backdrop(QImage picture) {
+void Surface::Native::Backdrop(CornerOf picture) {
     backdrop_ = std::move(picture);
+    seenSize_ = QSize();
     Clear();
+}
+
+const QImage& Surface::Native::SeenBackdrop() const {
+    if (seenSize_ != size_) {
+        seenSize_ = size_;
+        seenBackdrop_ = backdrop_ ? backdrop_(size_) : QImage();
+    }
+    return seenBackdrop_;
 }
 
 void Surface::Native::Adopt(const Native& drawing) {
     // Both share the memory until one of them is drawn on.
-    backdrop_ = drawing.Image();
-    image_ = backdrop_;
+    image_ = drawing.Image();
+    backdrop_ = [pixels = image_](const QSize&) { return pixels; };
+    seenSize_ = QSize();
     blank_ = false;
     size_ = drawing.size_;
     ratio_ = drawing.ratio_;
@@ -139,9 +149,9 @@ const QImage& Surface::Native::Image() const {
         image_ = InLargePages(size_);
     }
     image_.fill(background_);
-    if (!backdrop_.isNull() && !image_.isNull()) {
+    if (const QImage& picture = SeenBackdrop(); !picture.isNull() && !image_.isNull()) {
         QPainter painter(&image_);
-        painter.drawImage(0, 0, backdrop_);
+        painter.drawImage(0, 0, picture);
     }
     return image_;
 }
@@ -224,12 +234,13 @@ bool Surface::Native::Stretch(const PixelRectangle& where, const PixelBlock& pic
 void Surface::Native::Paint(QPainter& painter, const QRect& where) {
     announced_ = QRect();
     if (blank_ && ratio_ == 1) {
-        const QRect picture(QPoint(0, 0), backdrop_.size());
-        if (backdrop_.hasAlphaChannel() || !picture.contains(where)) {
+        const QImage& backdrop = SeenBackdrop();
+        const QRect picture(QPoint(0, 0), backdrop.size());
+        if (backdrop.hasAlphaChannel() || !picture.contains(where)) {
             painter.fillRect(where, QColor::fromRgb(background_));
         }
         const QRect seen = where & picture;
-        painter.drawImage(seen.topLeft(), backdrop_, seen);
+        painter.drawImage(seen.topLeft(), backdrop, seen);
         return;
     }
     const QRectF source(QPointF(where.topLeft()) * ratio_, QSizeF(where.size()) * ratio_);

@@ -23,8 +23,10 @@ struct Surface::Native {
     void Resize(const QSize& size, double devicePixelRatio);
     /// Sets the background and clears to it.
     void Background(Colour colour);
-    /// A picture that `Clear` puts on the background, at the upper left corner.
-    void Backdrop(QImage picture);
+    /// A picture: what of it is seen in the upper left corner of a size in device pixels.
+    using CornerOf = std::function<QImage(const QSize& size)>;
+    /// The picture that `Clear` puts on the background, at the upper left corner.
+    void Backdrop(CornerOf picture);
     /// Takes the pixels of another surface, and its size, as the picture under the drawing.
     void Adopt(const Native& drawing);
     /// Back to background and backdrop.
@@ -52,7 +54,7 @@ struct Surface::Native {
     /// Logical size.
     QSize Size() const { return (QSizeF(size_) / ratio_).toSize(); }
     /// What `Clear` puts on the background.
-    const QImage& Backdrop() const { return backdrop_; }
+    const CornerOf& Backdrop() const { return backdrop_; }
 
 private:
     struct Point {
@@ -60,6 +62,8 @@ private:
         int Y;
     };
 
+    /// The part of the backdrop that the surface has room for.
+    const QImage& SeenBackdrop() const;
     int ToDevice(double twips) const;
     Point ToDevice(double x, double y) const { return {ToDevice(x), ToDevice(y)}; }
     int PenOnDevice(int pen) const;
@@ -72,7 +76,9 @@ private:
     // and there are seventy of them.
     mutable QImage image_;
     mutable bool blank_ = true;  // nothing but background and backdrop, whatever `image_` holds
-    QImage backdrop_;
+    CornerOf backdrop_;
+    mutable QImage seenBackdrop_;
+    mutable QSize seenSize_;  // of the surface when that was asked for
     RoundPens pens_;
     std::uint32_t background_ = 0;
     double twipsPerPixel_ = 15;
