@@ -8,7 +8,8 @@
 namespace trameli {
 
 /// A row of text panels at the bottom edge of the form's client area, as wide as the form. Panels
-/// share the width where it is too small for all of them.
+/// share the width where it is too small for all of them, and one whose text needs more takes it
+/// from the others. A large font of the desktop makes the bar higher.
 class StatusBar : public InteractiveControl {
 public:
     /// One panel for each design text; panelWidth in twips.

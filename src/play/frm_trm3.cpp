@@ -1,5 +1,7 @@
 #include "play/frm_trm3.h"
 
+#include <algorithm>
+
 #include "base/rounding.h"
 
 namespace trameli {
@@ -29,8 +31,11 @@ frmTrm3::frmTrm3(trameli::Forms& forms, Servizi& servizi, Casuale& casuale)
                  {6360, 4440, 615, 495}) {}
 
 void frmTrm3::Disponi() {
-    DisponiControlli(Height() - 2 * BottoneAvanti.Height(),
-                     Quotient(Nearest(Image1(0).Height()), 2));
+    const int scartoCoppe = Quotient(Nearest(Image1(0).Height()), 2);
+    // The status bar needs more than what is left below the cups only where its font is very large.
+    DisponiControlli(Height() - std::max(2 * BottoneAvanti.Height(),
+                                         StatusBar1.Height() + scartoCoppe + Image1(0).Height()),
+                     scartoCoppe);
     ImpostaModoInput();
 }
 

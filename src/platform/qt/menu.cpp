@@ -5,17 +5,12 @@
 #include <QMenuBar>
 #include <QPointer>
 
+#include "platform/qt/bar_font.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/form_window.h"
 #include "platform/qt/native.h"
 
 namespace trameli {
-
-namespace {
-
-const trameli::Font MenuFont{"Arial", 9, false};
-
-}  // namespace
 
 /// The window owns menus and actions; the entry's own goes with the entry.
 struct MenuItem::Native {
@@ -49,7 +44,7 @@ namespace {
 QMenuBar* BarOf(Form& form) {
     QMenuBar* bar = form.NativePart().Window.menuBar();
     bar->setNativeMenuBar(false);
-    bar->setFont(ToQt(MenuFont, TwipsPerPixel(form)));
+    bar->setFont(BarFont(TwipsPerPixel(form), "QMenuBar"));
     return bar;
 }
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/rounding.h"
+#include "platform/qt/bar_font.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/native.h"
 
@@ -13,11 +14,14 @@ namespace trameli {
 
 namespace {
 
-constexpr double BarHeight = 375;  // twips
+constexpr double LeastHeight = 375;  // twips
+constexpr int RoundTheLetters = 6;   // pixels of a panel's edges and of the space within, in all
 
 class StatusBarWidget : public QWidget {
 public:
-    explicit StatusBarWidget(QWidget* parent) : QWidget(parent) {
+    StatusBarWidget(double twipsPerPixel, QWidget* parent)
+        : QWidget(parent), twipsPerPixel_(twipsPerPixel) {
+        setFont(BarFont(twipsPerPixel, "QStatusBar"));
         setAutoFillBackground(true);
         parent->installEventFilter(this);
     }
@@ -43,32 +47,63 @@ protected:
         return QWidget::eventFilter(object, event);
     }
 
-    void resizeEvent(QResizeEvent*) override {
-        if (!Owner || Panels.empty()) {
-            return;
-        }
-        const double wanted = PanelWidth / TwipsPerPixel(Owner->OwnerForm());
-        const double width = std::min(wanted, this->width() / static_cast<double>(Panels.size()));
-        for (std::size_t i = 0; i < Panels.size(); ++i) {
-            const int left = Nearest(static_cast<double>(i) * width);
-            const int right = Nearest(static_cast<double>(i + 1) * width);
-            Panels[i]->setGeometry(left, 1, right - left - 1, height() - 2);
-        }
-    }
+    void resizeEvent(QResizeEvent*) override { LayOut(); }
 
 public:
     void Dock() {
         const Form& form = Owner->OwnerForm();
-        Owner->Place({0, form.Height() - BarHeight, form.Width(), BarHeight});
+        const double height =
+            std::max(LeastHeight, (fontMetrics().height() + RoundTheLetters) * twipsPerPixel_);
+        Owner->Place({0, form.Height() - height, form.Width(), height});
     }
+
+    /// Gives every panel its place.
+    void LayOut() {
+        double left = 0;
+        const std::vector<double> widths = Widths();
+        for (std::size_t i = 0; i < Panels.size(); ++i) {
+            const double right = left + widths[i];
+            Panels[i]->setGeometry(Nearest(left), 1, Nearest(right) - Nearest(left) - 1,
+                                   height() - 2);
+            left = right;
+        }
+    }
+
+private:
+    /// How wide the panels are: as wide as is wanted, all alike, or as their text needs.
+    std::vector<double> Widths() const {
+        const double all = width();
+        const double alike =
+            std::min(PanelWidth / twipsPerPixel_, all / static_cast<double>(Panels.size()));
+        std::vector<double> widths;
+        double excess = -all;
+        for (const QLabel* panel : Panels) {
+            widths.push_back(std::max(alike, Needed(*panel)));
+            excess += widths.back();
+        }
+        for (std::size_t i = 0; i < Panels.size() && excess > 0; ++i) {
+            const double given = std::min(excess, widths[i] - Needed(*Panels[i]));
+            widths[i] -= given;
+            excess -= given;
+        }
+        if (excess > 0) {
+            // A name of any length, as a rule: the others can still be read.
+            double& longest = *std::max_element(widths.begin(), widths.end());
+            longest = std::max(0.0, longest - excess);
+        }
+        return widths;
+    }
+    static double Needed(const QLabel& panel) { return panel.sizeHint().width() + 1; }
+
+    double twipsPerPixel_;
 };
 
 }  // namespace
 
 StatusBar::StatusBar(Form& form, ControlName name, double panelWidth,
                      std::initializer_list<const char*> texts)
-    : InteractiveControl(form, std::move(name), {0, 0, 0, BarHeight},
-                         MakeNative<StatusBarWidget>(form)) {
+    : InteractiveControl(form, std::move(name), {0, 0, 0, LeastHeight},
+                         MakeNative<StatusBarWidget>(form, TwipsPerPixel(form))) {
     auto& widget = WidgetOf<StatusBarWidget>(*this);
     widget.Owner = this;
     widget.PanelWidth = panelWidth;
@@ -88,9 +123,9 @@ std::string StatusBar::Panel(int number) const {
 }
 
 void StatusBar::Panel(int number, const std::string& text) {
-    WidgetOf<StatusBarWidget>(*this)
-        .Panels.at(static_cast<std::size_t>(number - 1))
-        ->setText(ToQt(text));
+    auto& widget = WidgetOf<StatusBarWidget>(*this);
+    widget.Panels.at(static_cast<std::size_t>(number - 1))->setText(ToQt(text));
+    widget.LayOut();
 }
 
 }  // namespace trameli
