@@ -21,7 +21,6 @@ class StatusBarWidget : public QWidget {
 public:
     StatusBarWidget(double twipsPerPixel, QWidget* parent)
         : QWidget(parent), twipsPerPixel_(twipsPerPixel) {
-        setFont(BarFont(twipsPerPixel, "QStatusBar"));
         setAutoFillBackground(true);
         parent->installEventFilter(this);
     }
@@ -106,6 +105,8 @@ StatusBar::StatusBar(Form& form, ControlName name, double panelWidth,
                          MakeNative<StatusBarWidget>(form, TwipsPerPixel(form))) {
     auto& widget = WidgetOf<StatusBarWidget>(*this);
     widget.Owner = this;
+    // That of labels: for status bars some desktops have a smaller one than for all else.
+    widget.setFont(BarFont(TwipsPerPixel(form), "QLabel"));
     widget.PanelWidth = panelWidth;
     for (const char* text : texts) {
         widget.AddPanel(QString::fromUtf8(text));
