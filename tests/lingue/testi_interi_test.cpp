@@ -1,6 +1,7 @@
 // No text is cut off and nothing lies on anything else, in any language and on any screen.
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QMenuBar>
 #include <QRegularExpression>
 
@@ -8,6 +9,7 @@
 #include "platform/command_button.h"
 #include "platform/image.h"
 #include "platform/shape.h"
+#include "platform/status_bar.h"
 #include "support/written_text.h"
 
 namespace trameli {
@@ -116,6 +118,24 @@ TEST_P(TestiInteri, AreSeenInEachWindow) {
             EXPECT_TRUE(partita.Stampa(form, ControllaFinestra));
         }
     }
+}
+
+TEST(BarreDelDesktop, FollowItsLargerFont) {
+    const QFont prima = QApplication::font();
+    QFont grande = prima;
+    grande.setPixelSize(24);
+    QApplication::setFont(grande);
+    const Disco disco;
+    Partita partita(disco, {800, 600});
+    Form& form = partita.ApriLivello(15);
+    EXPECT_EQ(WindowOf(form).findChild<QMenuBar*>()->font().pixelSize(), 24);
+    auto& barra = Trova<StatusBar>(form, "StatusBar1");
+    EXPECT_EQ(WidgetOf(barra).font().pixelSize(), 24);
+    barra.Panel(4, "Ripartito da zero 10 volte");
+    Trova<Image>(form, "Image1", 3).Visible(true);
+    ControllaFinestra(form);
+    ControllaPosti(form);
+    QApplication::setFont(prima);
 }
 
 /// A name of a test has plain letters alone, so a language is its place among them.
