@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <set>
 
 #include "game/partita.h"
 #include "platform/image.h"
@@ -100,6 +101,19 @@ TEST(Scene, EveryLevelIsDrawnAsItShould) {
     for (int livello = 0; livello < NumeroLivelliGioco; ++livello) {
         EComeVuoleIlLivello(livello, {1366, 768});
     }
+}
+
+TEST(Scene, MazesStartAtEachOpeningOfEachCorner) {
+    const Disco disco;
+    Partita partita(disco, {800, 600});
+    const Tavolo tavolo(partita.ApriLivello(9), 9);
+    std::set<std::array<int, 3>> partenze;
+    for (int i = 0; i < 48; ++i) {
+        const Posto qui = tavolo.Partenza();
+        partenze.insert({qui.Riga, qui.Colonna, qui.Lato});
+        Tap(tavolo.Form_, Qt::Key_N, Qt::ControlModifier);
+    }
+    EXPECT_EQ(partenze.size(), 8U);
 }
 
 TEST(Scene, SoItIsOnEveryScreen) {

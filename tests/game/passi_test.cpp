@@ -30,6 +30,27 @@ TEST_P(Passi, ReleasesStepWhateverElseIsHeldAndOtherKeysDoNot) {
     EXPECT_EQ(tavolo.Urti(), 1);
 }
 
+TEST_P(Passi, NoWallLetsTheSymbolThrough) {
+    const Tavolo tavolo = Apri(GetParam());
+    const MuriVisti muri = tavolo.Muri();
+    Posto qui = tavolo.Partenza();
+    std::vector<int> passi = tavolo.Soluzione();
+    passi.pop_back();
+    int urti = 0;
+    for (std::size_t i = 0; i < passi.size(); ++i) {
+        tavolo.Passo(passi[i]);
+        qui = i > 0 ? qui.Dopo({passi[i]}) : qui;
+        for (int verso = 0; verso < 4; ++verso) {
+            if (muri.Ha({qui.Riga, qui.Colonna, verso})) {
+                tavolo.Passo(verso);
+                ++urti;
+            }
+        }
+        ASSERT_EQ(tavolo.Urti(), urti);
+        ASSERT_EQ(tavolo.Passi(), static_cast<int>(i) + 1);
+    }
+}
+
 TEST_P(Passi, SolvedMazeWaitsForTheButton) {
     const Tavolo tavolo = Apri(GetParam());
     tavolo.Risolvi();

@@ -95,6 +95,14 @@ TEST_P(CaselleIntere, AreFilledFromWallToWallInTheNextWindowToo) {
                 EXPECT_EQ(vista.Fra(qui.Riga, qui.Colonna, x, y), dietro ? avanti : sfondo);
             }
         }
+        // Up to the faces of the walls and no further.
+        for (std::size_t lato = 0; lato < ColonnaVerso.size(); ++lato) {
+            if (muri.Ha({lasciata.Riga, lasciata.Colonna, static_cast<int>(lato)})) {
+                EXPECT_EQ(vista.Fra(lasciata.Riga, lasciata.Colonna, 0.45 * ColonnaVerso.at(lato),
+                                    0.45 * RigaVerso.at(lato)),
+                          tavolo.Colore(RigaPareti));
+            }
+        }
     }
     EXPECT_TRUE(tavolo.Muri() == muri);
 
