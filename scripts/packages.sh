@@ -18,9 +18,13 @@ packages_wayland=(qt6-wayland)
 # Only where there is no display: a virtual one with its password, and a window manager.
 packages_display=(tigervnc-standalone-server tigervnc-tools openbox)
 # The tests bring their own X servers, with and without a window manager, and look at that display.
-# They also bring their own Wayland session and print service, and look at its pages.
-packages_test=(libgtest-dev xvfb xdotool "${packages_display[@]}" weston "${packages_wayland[@]}"
-    cups ghostscript poppler-utils)
+# They also bring their own Wayland session and print service, and look at its pages, and a sound
+# server to be killed. Screens come and go below the toolkit, by its private headers.
+packages_test=(libgtest-dev xvfb xdotool x11-xserver-utils "${packages_display[@]}" weston
+    "${packages_wayland[@]}" cups ghostscript poppler-utils pulseaudio pulseaudio-utils
+    qt6-base-private-dev)
+# Fuzzers are made by another compiler.
+packages_fuzz=(clang)
 # The package: what makes it and what looks it through. What is needed to build the game inside it
 # stands in debian/control once more, because Debian's tools read nothing else.
 packages_package=(dpkg-dev debhelper lintian desktop-file-utils appstream reuse)

@@ -20,8 +20,9 @@ int Play(int argc, char** argv, const trameli::Comandi& comandi) {
         // For the programs too that open documents.
         setenv("DISPLAY", display->second.c_str(), 1);
     }
-    const trameli::Desktop desktop(argc, argv, trameli::Program::PrimaVista());
+    trameli::Desktop desktop(argc, argv, trameli::Program::PrimaVista());
     trameli::Program program(desktop.Services());
+    desktop.WhenDisplayIsLost([&program] { program.Salva(); });
     if (program.Main()) {
         program.Run();
     }

@@ -56,6 +56,7 @@ bool Program::Main() {
             std::make_unique<CasualeConSeme>(std::bit_cast<std::uint64_t>(forms_.Clock().Now()));
     }
     moduloPerIni_.VerificaCartelle();
+    moduloPerIni_.RiordinaCartelle();
     stato_.FileUtente = ModuloPerIni::PrimoFileUtente;
     stato_.NomeUtente = ModuloPerIni::PrimoUtente;
     moduloPerIni_.LeggiUtente();
@@ -65,6 +66,12 @@ bool Program::Main() {
 
 void Program::Run() {
     forms_.Run();
+}
+
+void Program::Salva() {
+    if (!stato_.FileUtente.empty()) {
+        moduloPerIni_.ScriviInSilenzio();
+    }
 }
 
 void Program::RegistraForm() {

@@ -36,6 +36,9 @@ public:
     /// Serves events until the program ends.
     void Run();
 
+    /// Saves the player's settings as they are now, and says nothing if it cannot.
+    void Salva();
+
     /// The windows of this run.
     trameli::Forms& Forms() { return forms_; }
     /// Its shared variables.

@@ -1,6 +1,7 @@
 // The real services of a desktop machine.
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include "platform/first_sight.h"
@@ -21,9 +22,13 @@ public:
     /// The services; they live as long as this object.
     trameli::Services Services() const;
 
+    /// What is done if the display goes while this object lives, before the process ends with code
+    /// 1. No window and no message can be shown then.
+    void WhenDisplayIsLost(std::function<void()> action);
+
 private:
     struct Native;
-    std::unique_ptr<Native> native_;
+    std::shared_ptr<Native> native_;
 };
 
 }  // namespace trameli

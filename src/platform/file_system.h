@@ -50,6 +50,10 @@ public:
     /// is not there yet is made only in the link's own folder or below.
     virtual bool Replace(const std::string& path, const std::string& bytes) = 0;
 
+    /// Removes what saves that were cut off have left in a folder. No other copy of the program may
+    /// be running.
+    virtual void Tidy(const std::string& folder) = 0;
+
     /// Names in a folder, files and folders, that end in `ending` (without regard to case), in
     /// alphabetical order; of names that differ only in case the first alone.
     virtual std::vector<std::string> List(const std::string& folder,

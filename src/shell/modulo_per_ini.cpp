@@ -31,6 +31,11 @@ void ModuloPerIni::ScriviUtente() {
     }
 }
 
+void ModuloPerIni::ScriviInSilenzio() {
+    avvisato_ = true;
+    ScriviUtente();
+}
+
 void ModuloPerIni::LeggiUtente() {
     const std::string chiave = Capitals(stato_.FileUtente);
     const auto testo =
@@ -76,6 +81,12 @@ void ModuloPerIni::CreaCartella(const std::string& percorso) {
         fileSystem_.Replace(FileLeggimi, lingue_.TestoLingua("0004") + separatore +
                                              lingue_.TestoLingua("0005") + separatore +
                                              lingue_.TestoLingua("0006") + "\r\n");
+    }
+}
+
+void ModuloPerIni::RiordinaCartelle() {
+    for (const char* cartella : {CartellaImpostazioni, CartellaUtenti, Lingue::Cartella}) {
+        fileSystem_.Tidy(cartella);
     }
 }
 

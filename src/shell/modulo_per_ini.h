@@ -41,6 +41,9 @@ public:
     /// afterwards whether the window is still loaded.
     void ScriviUtente();
 
+    /// The same where nothing can be told any more.
+    void ScriviInSilenzio();
+
     /// Fills the settings from `FileUtente`; a missing or damaged file gives the defaults.
     void LeggiUtente();
 
@@ -52,6 +55,9 @@ public:
     void CreaCartella(const std::string& percorso);
     /// Makes the folders that are missing.
     void VerificaCartelle();
+    /// Removes what a copy of the program that was killed while it saved has left. At the start
+    /// only, when no other one runs.
+    void RiordinaCartelle();
 
 private:
     /// True if the current user's file is a link to what is there and no user file.

@@ -96,8 +96,8 @@ bool Partita::Aperta(const std::string& nome) {
 
 std::vector<std::string> Partita::Aperte() {
     std::vector<std::string> nomi;
-    for (const char* nome :
-         {"FormAvvio", "FormMenu", "frmTrm0", "frmTrm1", "frmTrm3", "FormFinale"}) {
+    for (const char* nome : {"FormAvvio", "FormMenu", "FormConfigura", "FormInfo", "frmTrm0",
+                             "frmTrm1", "frmTrm3", "FormFinale"}) {
         if (Aperta(nome)) {
             nomi.emplace_back(nome);
         }

@@ -1,17 +1,23 @@
-// A wild player: keys, clicks and menu entries in random order, through all windows.
+// A wild player: keys, clicks and menu entries in random order, through all windows, settings and
+// languages, while screens come, change and go.
 #include <gtest/gtest.h>
+#include <qpa/qplatformnativeinterface.h>
 
 #include <QAction>
 #include <QApplication>
+#include <QJsonArray>
+#include <QJsonObject>
 #include <QMenu>
 #include <QPixmapCache>
 #include <QTimer>
+#include <fstream>
 #include <random>
 
 #include "game/partita.h"
 #include "platform/combo_box.h"
 #include "platform/command_button.h"
 #include "platform/option_button.h"
+#include "support/amount.h"
 
 #include <malloc.h>
 
@@ -33,6 +39,23 @@ std::int64_t LiveBytes() {
     const struct mallinfo2 info = mallinfo2();
     return static_cast<std::int64_t>(info.uordblks + info.hblkhd);
 #endif
+}
+
+/// What the process has in memory, in pages.
+std::int64_t ResidentPages() {
+    std::int64_t all = 0;
+    std::int64_t resident = 0;
+    std::ifstream("/proc/self/statm") >> all >> resident;
+    return resident;
+}
+
+/// Makes the desktop one of these screens: the windows learn of it as of any other change.
+void Collega(const QJsonArray& schermi) {
+    using Imposta = void (*)(QJsonObject, QPlatformNativeInterface*);
+    QPlatformNativeInterface* const sotto = QGuiApplication::platformNativeInterface();
+    reinterpret_cast<Imposta>(sotto->nativeResourceForIntegration("setConfiguration"))(
+        {{"screens", schermi}}, sotto);
+    Pump();
 }
 
 /// The game's chance, and whether it was asked for anything lately.
@@ -57,9 +80,9 @@ public:
         stampa_.start(0);
     }
 
-    /// Plays until so many mazes more have come up.
-    void Gioca(int labirinti) {
-        for (const int fine = Labirinti + labirinti; Labirinti < fine;) {
+    /// Plays for so long by the games' own clocks.
+    void Gioca(double secondi) {
+        for (const double fine = Ora() + secondi; Ora() < fine;) {
             if (partita_->Gioco.Forms().Ended() || partita_->Aperte().empty()) {
                 Ricomincia();
             }
@@ -79,6 +102,7 @@ public:
         return byte;
     }
 
+    int Gesti = 0;
     int Labirinti = 0;  ///< that came up; two with one gesture count as one
     int Finali = 0;
     int Stampe = 0;
@@ -90,7 +114,10 @@ private:
         return lista[static_cast<std::size_t>(Fino(static_cast<int>(lista.size())))];
     }
 
+    double Ora() const { return prima_ + partita_->Tempo.Now(); }
+
     void Smetti() {
+        prima_ += partita_ ? partita_->Tempo.Now() : 0;
         while (QWidget* aperto = QApplication::activePopupWidget()) {
             aperto->close();
         }
@@ -107,6 +134,8 @@ private:
 
     void UnGesto(Form& form) {
         const int dado = Fino(100);
+        ++Gesti;
+        partita_->Messaggi.Chosen = static_cast<Colour>(Fino(1 << 24));
         if (form.Name() == "FormMenu" && dado < 25) {
             // Wild, but there to play.
             ClickOn(Trova<OptionButton>(form, "Option1", Fino(NumeroLivelliGioco)));
@@ -132,9 +161,32 @@ private:
             });
         } else if (dado == 86 && Fino(5) == 0) {
             Partita::Chiudi(form);
+        } else if (dado == 87 && Fino(5) == 0) {
+            CambiaSchermi();
         } else {
             Risolve(form);
         }
+    }
+
+    /// One to three screens side by side, each with a size and a scale of its own.
+    void CambiaSchermi() {
+        constexpr std::array<PixelSize, 5> misure{
+            {{100, 100}, {800, 600}, {1366, 768}, {600, 1024}, {1920, 1080}}};
+        QJsonArray schermi;
+        int sinistra = 0;
+        for (int quanti = 1 + Fino(3); quanti > 0; --quanti) {
+            const PixelSize misura = Uno(misure);
+            schermi.append(QJsonObject{{"name", QString::number(++schermiVisti_)},
+                                       {"x", sinistra},
+                                       {"y", 0},
+                                       {"width", misura.Width},
+                                       {"height", misura.Height},
+                                       {"logicalBaseDpi", 96},
+                                       {"logicalDpi", 96 + 48 * Fino(3)}});
+            sinistra += misura.Width;
+            partita_->Schermo.Size(misura);
+        }
+        Collega(schermi);
     }
 
     /// The print window keeps whoever opened it waiting: somebody else has to play there.
@@ -198,11 +250,15 @@ private:
             return;
         }
         Tap(form, Qt::Key_R, Qt::ControlModifier);
-        const Tavolo tavolo(form, stato.Livello);
+        const Tavolo tavolo(form, stato.Livello,
+                            FileUtente()
+                                .Con(RigaPareti, Nearest(stato.ColorePareti))
+                                .Con(RigaSfondo, Nearest(stato.ColoreSfondo))
+                                .Con(RigaSimbolo, Nearest(stato.ColoreSimbolo)));
         if (tavolo.Risolto() || tavolo.Muri().Aperture().size() != 2) {
             return;
         }
-        for (const int verso : tavolo.Soluzione()) {
+        for (const int verso : Soluzione(tavolo)) {
             if (partita_->Gioco.Forms().Find(nome) != &form) {
                 return;
             }
@@ -210,33 +266,48 @@ private:
         }
     }
 
+    /// No steps where the player's colours, or a window of another size, let nobody see them.
+    static std::vector<int> Soluzione(const Tavolo& tavolo) {
+        try {
+            return tavolo.Soluzione();
+        } catch (const std::runtime_error&) {
+            return {};
+        }
+    }
+
     const Disco& disco_;
     std::mt19937 caso_;
     std::unique_ptr<Partita> partita_;
     bool chiesto_ = false;
+    double prima_ = 0;  ///< seconds played in games that are over
+    int schermiVisti_ = 0;
     QTimer stampa_;
 };
 
 class GiocatoreSelvaggio : public testing::TestWithParam<unsigned> {};
 
 TEST_P(GiocatoreSelvaggio, BreaksNothingAndLeavesNothing) {
-    constexpr int Labirinti = 450;
+    const int secondi = Amount("TRAMELI_WILD_SECONDS", 120);
     // Fonts and other caches fill, and it takes a while until every window was seen in every state.
-    constexpr int Riscaldamento = 2 * Labirinti / 3;
-    constexpr int Tolleranza = 64 * 1024;  // bytes: less than 450 for a maze
+    const double riscaldamento = 2.0 * secondi / 3;
+    constexpr int Tolleranza = 256 * 1024;  // bytes
     const Disco disco;
     disco.Scrivi("Anna", FileUtente().Con(RigaMaiuscolo, "True").Con(RigaLinee, "False"));
     disco.Scrivi("Bruno", FileUtente().Con(RigaModoInput, 1 + static_cast<int>(GetParam() % 2)));
     disco.Scrivi("_predefinito");
     Selvaggio giocatore(disco, GetParam());
-    giocatore.Gioca(Riscaldamento);
+    giocatore.Gioca(riscaldamento);
     const std::int64_t prima = giocatore.Memoria();
-    giocatore.Gioca(Labirinti - Riscaldamento);
+    const std::int64_t paginePrima = ResidentPages();
+    giocatore.Gioca(secondi - riscaldamento);
     const std::int64_t dopo = giocatore.Memoria();
-    RecordProperty("grown", std::to_string(dopo - prima));
+    Tell(secondi, " s of wild play: ", giocatore.Gesti, " gestures, ", giocatore.Labirinti,
+         " mazes, ", giocatore.Finali, " levels, ", giocatore.Stampe, " prints; heap grown by ",
+         dopo - prima, " bytes, resident memory ",
+         static_cast<double>(ResidentPages()) / static_cast<double>(paginePrima), " times");
     EXPECT_LT(dopo - prima, Tolleranza);
-    EXPECT_GT(giocatore.Finali, Labirinti / 250);
-    EXPECT_GT(giocatore.Stampe, Labirinti / 20);
+    EXPECT_GT(giocatore.Finali, 0);
+    EXPECT_GT(giocatore.Stampe, 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(Semi, GiocatoreSelvaggio, testing::Range(1U, 1U + Giocatori));

@@ -3,9 +3,13 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 
+#include <csignal>
+#include <random>
+
 #include "platform/in_child.h"
 #include "platform/qt/environment.h"
 #include "platform/qt/local_file_system.h"
+#include "support/amount.h"
 #include "support/stage.h"
 
 namespace fs = std::filesystem;
@@ -89,6 +93,33 @@ TEST_F(ReplaceTest, WritesOverWhatACrashLeft) {
         EXPECT_EQ(BytesOf(Root / "victim"), "precious");
         EXPECT_EQ(EntriesLeft(), 2);
     }
+}
+
+TEST_F(ReplaceTest, LosesNothingAndLeavesNothingWhenKilled) {
+    constexpr std::size_t length = 400;
+    const int kills = Amount("TRAMELI_KILLS", 50);
+    std::minstd_rand chance;
+    long left = 0;
+    Files.Replace("C:\\file.ini", std::string(length, 'a'));
+    for (int i = 0; i < kills; ++i) {
+        const pid_t child = StartChild([&] {
+            for (char letter = 'a';; letter ^= 1) {
+                Files.Replace("C:\\file.ini", std::string(length, letter));
+            }
+            return 0;
+        });
+        usleep(static_cast<useconds_t>(chance() % 4000));
+        kill(child, SIGKILL);
+        ExitOf(child);
+        const std::string bytes = BytesOf(Root / "file.ini");
+        ASSERT_EQ(bytes.size(), length);
+        EXPECT_EQ(bytes, std::string(length, bytes[0]));
+        left += EntriesLeft() - 1;
+        Files.Tidy("C:\\");  // the next start
+        EXPECT_EQ(EntriesLeft(), 1);
+    }
+    EXPECT_LE(left, kills / 10) << "between two calls of the system at most";
+    Tell(kills, " kills while saving, none lost, ", left, " left over until the next start");
 }
 
 TEST_F(ReplaceTest, KeepsTheOldFileWhereNothingMayBeWritten) {

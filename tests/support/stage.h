@@ -47,6 +47,7 @@ public:
 
     PixelSize Size() const override { return size_; }
     PixelSize Available() const override { return size_; }
+    void Size(PixelSize size) { size_ = size; }
 
 private:
     PixelSize size_;

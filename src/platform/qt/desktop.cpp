@@ -49,7 +49,22 @@ struct Desktop::Native {
     DesktopDocuments Documents;
     DesktopPrinters Printers;
     std::unique_ptr<FirstPaint> Paint;  // over before the toolkit is
+    std::function<void()> Farewell = [] {};
 };
+
+namespace {
+
+/// The toolkit ends the process by itself where its display has gone; nothing is told or unwound.
+/// What was made for a regular end is still there then.
+template <typename Native>
+void BidFarewell(int /*code*/, void* native) {
+    const std::unique_ptr<std::weak_ptr<Native>> own(static_cast<std::weak_ptr<Native>*>(native));
+    if (const auto left = own->lock()) {
+        left->Farewell();
+    }
+}
+
+}  // namespace
 
 Desktop::Desktop(int& argc, char** argv, const FirstSight& firstSight) {
     OutliveFileSizeLimit();
@@ -58,7 +73,7 @@ Desktop::Desktop(int& argc, char** argv, const FirstSight& firstSight) {
     QApplication::setDesktopFileName(QStringLiteral("trameli"));
     {
         const QuietStart quiet;
-        native_ = std::make_unique<Native>(argc, argv, std::move(paint));
+        native_ = std::make_shared<Native>(argc, argv, std::move(paint));
     }
     PrepareToolkit();
     native_->Paint->ToolkitStarted();
@@ -68,6 +83,11 @@ Desktop::Desktop(int& argc, char** argv, const FirstSight& firstSight) {
 }
 
 Desktop::~Desktop() = default;
+
+void Desktop::WhenDisplayIsLost(std::function<void()> action) {
+    native_->Farewell = std::move(action);
+    on_exit(BidFarewell<Native>, new std::weak_ptr<Native>(native_));
+}
 
 Services Desktop::Services() const {
     return {native_->Clock,     native_->Screen,

@@ -295,6 +295,12 @@ bool LocalFileSystem::Replace(const std::string& path, const std::string& bytes)
     return ReplaceWhole(*place, bytes);
 }
 
+void LocalFileSystem::Tidy(const std::string& folder) {
+    if (const auto place = PlaceToMake(folder)) {
+        RemoveUnfinished(*place);
+    }
+}
+
 std::vector<std::string> LocalFileSystem::List(const std::string& folder,
                                                const std::string& ending) const {
     const QString foldedEnding = Folded(ending);

@@ -22,6 +22,7 @@ public:
     bool CreateFolder(const std::string& path) override;
     std::optional<std::string> Read(const std::string& path, std::size_t limit) const override;
     bool Replace(const std::string& path, const std::string& bytes) override;
+    void Tidy(const std::string& folder) override;
     std::vector<std::string> List(const std::string& folder,
                                   const std::string& ending) const override;
     std::string OnThisMachine(const std::string& path) const override;

@@ -131,8 +131,9 @@ Mix_Chunk* Mixer::Wave(const std::string& path) {
         return known->second.get();
     }
     auto& wave = waves_.try_emplace(path, nullptr, FreeChunk{&sdl_}).first->second;
-    const auto bytes = Read(files_, path, LongestWave);
+    auto bytes = Read(files_, path, LongestWave);
     if (bytes && IsPlainWave(*bytes)) {
+        CorrectLength(*bytes);
         wave.reset(sdl_.Mix_LoadWAV_RW(Stream(*bytes), 1));
     }
     return wave.get();

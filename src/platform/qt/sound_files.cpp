@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 
 namespace trameli {
 
@@ -33,31 +34,46 @@ bool IsPlain(std::string_view format) {
            (bits == 8 || bits == 16) && NumberAt(format, 12, 2) == channels * bits / 8;
 }
 
-}  // namespace
-
-bool IsPlainWave(std::string_view bytes) {
+/// Where the samples of a plain wave begin, behind what the file says of their length.
+std::optional<std::size_t> SamplesOf(std::string_view bytes) {
     if (bytes.size() < RiffHeader || bytes.substr(0, 4) != "RIFF" || bytes.substr(8, 4) != "WAVE") {
-        return false;
+        return std::nullopt;
     }
-    bytes.remove_prefix(RiffHeader);
     bool plain = false;
-    while (bytes.size() >= ChunkHeader) {
-        const std::string_view name = bytes.substr(0, 4);
-        const std::size_t length = NumberAt(bytes, 4, 4);
-        bytes.remove_prefix(ChunkHeader);
+    for (std::size_t place = RiffHeader; bytes.size() - place >= ChunkHeader;) {
+        const std::string_view name = bytes.substr(place, 4);
+        const std::size_t length = NumberAt(bytes, place + 4, 4);
+        place += ChunkHeader;
         if (name == "data") {
-            return plain && !bytes.empty() && length > 0;
+            return plain && place < bytes.size() && length > 0 ? std::optional(place)
+                                                               : std::nullopt;
         }
         if (name == "fmt ") {
-            plain = IsPlain(bytes.substr(0, length));
+            plain = IsPlain(bytes.substr(place, length));
             if (!plain) {
-                return false;
+                return std::nullopt;
             }
         }
         // Chunks of odd length are followed by a byte that counts for nothing.
-        bytes.remove_prefix(std::min(length + length % 2, bytes.size()));
+        place += std::min(length + length % 2, bytes.size() - place);
     }
-    return false;
+    return std::nullopt;
+}
+
+}  // namespace
+
+bool IsPlainWave(std::string_view bytes) {
+    return SamplesOf(bytes).has_value();
+}
+
+void CorrectLength(std::string& wave) {
+    const auto samples = SamplesOf(wave);
+    if (!samples || NumberAt(wave, *samples - 4, 4) <= wave.size() - *samples) {
+        return;
+    }
+    for (std::size_t i = 0; i < 4; ++i) {
+        wave[*samples - 4 + i] = static_cast<char>((wave.size() - *samples) >> (8 * i));
+    }
 }
 
 bool IsMidi(std::string_view bytes) {

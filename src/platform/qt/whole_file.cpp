@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/qt/open_file.h"
 
@@ -20,13 +21,27 @@ constexpr std::size_t LongestName = 255;
 
 constexpr mode_t OfEverybody = 0666;  // what the process does not mask
 
-/// The name under which a file is written before it takes its place.
+/// What the name of an unfinished file ends in; it begins with a dot.
+constexpr std::string_view Unfinished = ".new";
+
+/// The name that a file has before it takes its place.
 fs::path Beside(const fs::path& place) {
-    constexpr std::string_view ending = ".new";
     const std::string name = "." + place.filename().string();
     return place.parent_path() /
-           (name.substr(0, LongestName - ending.size()) + std::string(ending));
+           (name.substr(0, LongestName - Unfinished.size()) + std::string(Unfinished));
 }
+
+/// A file that has no name yet, so that nothing is left of it if the process is killed.
+class NamelessFile : public OpenFile {
+public:
+    NamelessFile(const fs::path& folder, mode_t mode)
+        : OpenFile(folder, O_WRONLY | O_TMPFILE, mode) {}
+
+    bool Name(const fs::path& name) const {
+        const std::string here = "/proc/self/fd/" + std::to_string(Handle());
+        return linkat(AT_FDCWD, here.c_str(), AT_FDCWD, name.c_str(), AT_SYMLINK_FOLLOW) == 0;
+    }
+};
 
 bool WriteAll(int handle, std::string_view bytes) {
     while (!bytes.empty()) {
@@ -58,21 +73,41 @@ void Inherit(int handle, const struct stat& old) {
     fchmod(handle, (old.st_mode & ~S_IFMT & ~S_IRWXG) | group);
 }
 
+/// Writes all bytes to the disk.
+template <typename Prepare>
+bool Fill(const OpenFile& file, std::string_view bytes, Prepare prepare) {
+    if (!file.IsOpen()) {
+        return false;
+    }
+    prepare(file.Handle());
+    return WriteAll(file.Handle(), bytes) && fsync(file.Handle()) == 0;
+}
+
+/// Makes a new file of all bytes with that name.
+template <typename Prepare>
+bool Make(const fs::path& path, std::string_view bytes, mode_t mode, Prepare prepare) {
+    // Always the same name, so that what a crash left there goes, whatever it is.
+    unlink(path.c_str());
+    if (NamelessFile file(path.parent_path(), mode); file.IsOpen()) {
+        if (!Fill(file, bytes, prepare)) {
+            return false;
+        }
+        if (file.Name(path)) {
+            return file.Close();
+        }
+    }
+    // Not every file system knows such files, and there can be a system without /proc.
+    OpenFile file(path, O_WRONLY | O_CREAT | O_EXCL, mode);
+    return Fill(file, bytes, prepare) && file.Close();
+}
+
 /// Writes all bytes into a new file beside `place` and gives it its name by `name`; the answer is
 /// that of `name`. Nothing is left behind if anything fails.
 template <typename Prepare, typename Name>
 bool WriteBeside(const fs::path& place, std::string_view bytes, mode_t mode, Prepare prepare,
                  Name name) {
     const fs::path beside = Beside(place);
-    // Always the same name, so that what a crash left there goes, whatever it is.
-    unlink(beside.c_str());
-    OpenFile file(beside, O_WRONLY | O_CREAT | O_EXCL, mode);
-    if (file.IsOpen()) {
-        prepare(file.Handle());
-    }
-    const bool written = file.IsOpen() && WriteAll(file.Handle(), bytes) &&
-                         fsync(file.Handle()) == 0 && file.Close() && name(beside);
-    if (!written) {
+    if (!Make(beside, bytes, mode, prepare) || !name(beside)) {
         unlink(beside.c_str());
         return false;
     }
@@ -125,6 +160,21 @@ Creation CreateWhole(const fs::path& place, std::string_view bytes) {
             return named;
         });
     return result;
+}
+
+void RemoveUnfinished(const fs::path& folder) {
+    std::error_code error;
+    std::vector<fs::path> unfinished;
+    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error)) {
+        const std::string name = entry->path().filename().string();
+        if (name.starts_with('.') && name.ends_with(Unfinished)) {
+            unfinished.push_back(entry->path());
+        }
+    }
+    for (const fs::path& path : unfinished) {
+        unlink(path.c_str());
+    }
 }
 
 }  // namespace trameli

@@ -17,4 +17,8 @@ enum class Creation { Made, Taken, Failed };
 /// is, and the name counts as taken.
 Creation CreateWhole(const std::filesystem::path& place, std::string_view bytes);
 
+/// Removes what was left of the files of a folder by processes that were killed on the way. Nobody
+/// may be writing there.
+void RemoveUnfinished(const std::filesystem::path& folder);
+
 }  // namespace trameli
