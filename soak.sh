@@ -9,7 +9,8 @@ cd -P -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")"
 . scripts/build.sh
 
 # Its name, how much of it is little and how much is much, and what does it. The fuzzers count
-# inputs, the wild player seconds by the game's own clock; the folder's three cases are done once.
+# inputs, each of the two wild players seconds by the game's own clock; the folder's three cases are
+# done once.
 trials=(
     'kills        50     1000 kills'
     'starts        5       20 losses'
@@ -17,7 +18,7 @@ trials=(
     'screens      10      500 losses'
     'display       1       20 losses'
     'sound         1       20 losses'
-    'wild        120     3600 wild'
+    'wild         60     1800 wild'
     'file_utente 1000 10000000 fuzz'
     'file_lingua 1000 10000000 fuzz'
     'suoni       1000 10000000 fuzz'

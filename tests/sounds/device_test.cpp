@@ -73,21 +73,6 @@ TEST_F(Devices, WithNoneNothingHappens) {
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
-TEST_F(Devices, OneThatWentWrongIsTriedAgainAfterAWhile) {
-    RecordTo("/dev/full");  // opens, and fails when it is written to
-    MixerOptions options;
-    options.Retry = 200ms;
-    Play(options);
-    Sounds->PlayWave("P:\\a.wav");
-    ASSERT_TRUE(Soon([&] { return DeviceIsOpen(); }));
-    RecordTo(PathOf("next"));
-    // As in a maze, with no pause in which the loss would be noticed by itself.
-    EXPECT_TRUE(Soon([&] {
-        Sounds->PlayWave("P:\\a.wav");
-        return std::filesystem::exists(PathOf("next"));
-    }));
-}
-
 TEST_F(Devices, OneThatHangsHoldsNothingUpAndBringsNoOldSounds) {
     // Opening it waits for a reader, and playing for him to read.
     const auto pipe = PathOf("hung");
