@@ -19,10 +19,11 @@ packages_wayland=(qt6-wayland)
 packages_display=(tigervnc-standalone-server tigervnc-tools openbox)
 # The tests bring their own X servers, with and without a window manager, and look at that display.
 # They also bring their own Wayland session and print service, and look at its pages, and a sound
-# server to be killed. Screens come and go below the toolkit, by its private headers.
+# server to be killed. Screens come and go below the toolkit, by its private headers. What screen
+# readers are told is listened to.
 packages_test=(libgtest-dev xvfb xdotool x11-xserver-utils "${packages_display[@]}" weston
     "${packages_wayland[@]}" cups ghostscript poppler-utils pulseaudio pulseaudio-utils
-    qt6-base-private-dev)
+    qt6-base-private-dev at-spi2-core dbus gir1.2-atspi-2.0 python3-gi)
 # Fuzzers are made by another compiler.
 packages_fuzz=(clang)
 # The package: what makes it and what looks it through. What is needed to build the game inside it
@@ -57,7 +58,7 @@ its X11 or Wayland plugin and its translations, libxcb, Fontconfig, CUPS 2.3 or 
 FluidSynth; the fonts Comic Neue and Liberation Sans (or Comic Sans MS and Arial); for the music a General MIDI
 soundfont; without a display also TigerVNC's X server with vncpasswd and the window manager openbox; for tests
 and benchmarks both of these, GoogleTest, Google Benchmark, Xvfb, xdotool and Weston, the whole of CUPS with its filters,
-Ghostscript and Poppler's tools.
+Ghostscript and Poppler's tools, the AT-SPI bus and Python's access to it.
 
 Missing, by Debian's names:
   ${*:2}

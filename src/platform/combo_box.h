@@ -11,6 +11,9 @@ public:
     /// An empty list; the height of `bounds` is that of the closed one.
     ComboBox(Container& container, ControlName name, const Bounds& bounds);
 
+    using ListControl::AccessibleName;
+    void AccessibleName(const std::string& name) override;
+
 private:
     int Chosen() const override;
     void Choose(int index) override;

@@ -143,7 +143,7 @@ public:
     void ToolTipText(const std::string& text);
     /// What assistive technology calls the control where its caption does not say it.
     const std::string& AccessibleName() const { return accessibleName_; }
-    void AccessibleName(const std::string& name);
+    virtual void AccessibleName(const std::string& name);
 
     /// Place in the order of the Tab key; equal ones go by creation.
     int TabIndex() const { return tabIndex_; }

@@ -108,6 +108,10 @@ public:
     /// waited for.
     void Hourglass(bool shown);
 
+    /// Has assistive technology read a text out, if any listens and the form is in front. Only then
+    /// is the text asked for. What is announced afterwards takes its place.
+    void Announce(const std::function<std::string()>& text);
+
     /// True while a key, by its KeyCode, is held down that was pressed in this form. A key that was
     /// down when a menu or another window took the keyboard is not any more.
     bool KeyIsDown(int keyCode) const;

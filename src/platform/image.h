@@ -6,7 +6,7 @@
 namespace trameli {
 
 /// A picture stretched to the control's size, whatever its own proportions. What lies under its
-/// transparent parts shows through.
+/// transparent parts shows through. Without an AccessibleName it is decoration.
 class Image : public InteractiveControl {
 public:
     Image(Container& container, ControlName name, const Bounds& bounds,

@@ -7,7 +7,7 @@
 namespace trameli {
 
 /// A surface on a form that keeps what is drawn on it, can hold other controls above the drawing,
-/// and can have the keyboard.
+/// and can have the keyboard. Without an AccessibleName it is decoration.
 class PictureBox : public InteractiveControl, public Container, public Surface {
 public:
     /// A surface of the control's size, grey like a button's face and empty.
@@ -38,6 +38,9 @@ public:
     /// The left mouse button was pressed and released on it, or Space or Enter if it takes the
     /// keyboard.
     std::function<void()> Click;
+
+    /// What assistive technology is told of what is to be seen, at the moment in which it asks.
+    std::function<std::string()> Description;
 
     using InteractiveControl::Place;
     void Place(const Bounds& bounds) override;

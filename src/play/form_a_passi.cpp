@@ -7,6 +7,7 @@
 #include "base/rounding.h"
 #include "platform/keys.h"
 #include "play/tasti.h"
+#include "play/voce.h"
 
 namespace trameli {
 
@@ -184,6 +185,7 @@ void FormAPassi::OffriDirezione() {
     DirezioneScansione = DirezioneDopo(DirezioneScansione);
     DisegnaPercorsoPerStampa(pictureTramelo, traccia_, Aspetto());
     MostraOfferta();
+    Announce([this] { return NomeDirezione(Offerta(), servizi_.Lingue); });
 }
 
 void FormAPassi::MostraOfferta() {
@@ -216,7 +218,11 @@ void FormAPassi::PrendiOfferta() {
         return;
     }
     offerte_ = stato_.ModoInput == ScansioneManuale ? 1 : 0;  // with two switches it stays on show
-    Muovi(DirezioniScansione.at(static_cast<std::size_t>(DirezioneScansione)));
+    Muovi(Offerta());
+}
+
+Lato FormAPassi::Offerta() const {
+    return DirezioniScansione.at(static_cast<std::size_t>(DirezioneScansione));
 }
 
 }  // namespace trameli

@@ -45,6 +45,8 @@ private:
     void OffriDirezione();
     void MostraOfferta();
     void PrendiOfferta();
+    /// The direction on offer.
+    Lato Offerta() const;
 };
 
 }  // namespace trameli

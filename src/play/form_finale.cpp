@@ -115,6 +115,8 @@ void FormFinale::Form_Activate() {
         offerte.push_back(OffertaDi(Command2));
     }
     giro_.Avvia(std::move(offerte));
+    Announce(
+        [this] { return Label1.Caption() + " " + Label2.Caption() + " " + Command1.Caption(); });
 }
 
 bool FormFinale::Form_KeyDown(int keyCode, int /*shift*/) {

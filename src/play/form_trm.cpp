@@ -5,6 +5,7 @@
 
 #include "base/rounding.h"
 #include "platform/forms.h"
+#include "play/voce.h"
 #include "shell/puntatori.h"
 
 namespace trameli {
@@ -55,7 +56,10 @@ FormTrm::FormTrm(trameli::Forms& forms, Servizi& servizi, Casuale& casuale,
             mnuNuovo_Click();
         }
     };
-    mnuRicomincia.Click = [this] { mnuRicomincia_Click(); };
+    mnuRicomincia.Click = [this] {
+        mnuRicomincia_Click();
+        Announce(pictureTramelo.Description);
+    };
     mnuColora.Click = [this] { mnuColora_Click(); };
     mnuLinee.Click = [this] { mnuLinee_Click(); };
     mnuStampa.Click = [this] { mnuStampa_Click(); };
@@ -65,6 +69,10 @@ FormTrm::FormTrm(trameli::Forms& forms, Servizi& servizi, Casuale& casuale,
 
     pictureTramelo.TabIndex(1);
     pictureTramelo.AccessibleName("Tramelo");
+    pictureTramelo.Description = [this] {
+        return stato_.TrameloDisegnato ? DescriviTramelo(giocatore_, tramelo_, servizi_.Lingue)
+                                       : std::string();
+    };
     pictureStampa.Visible(false);
     pictureStampa.AccessibleName("Stampa");
     Image2.Visible(disegno.Image2Visibile);

@@ -162,6 +162,8 @@ protected:
     bool InGioco() const { return stato_.TrameloDisegnato && !giocatore_.TrameloRisolto(); }
     /// A wish to go somewhere, from keyboard, switch or clock.
     void Muovi(Lato lato);
+    /// Tells those who hear the game where they stand now.
+    void AnnunciaPosto();
     /// Counts a step and draws it, with its sound.
     void DisegnaLinea(Lato lato, int lunghezza, double colore);
     /// A solved maze: a cup and the way to the next one, or after the fifth the congratulations in

@@ -34,9 +34,7 @@ frmTrm0::frmTrm0(trameli::Forms& forms, Servizi& servizi, Casuale& casuale)
                  {6120, 1920, 615, 495}),
       mnuLineeMuri(mnuTrameli, "mnuLineeMuri", "Usa linee", 'M', &mnuLinee) {
     mnuLineeMuri.Click = [this] { mnuLineeMuri_Click(); };
-    PictureBox& muro = PictureMuri.Add(pictureTramelo, Bounds{4080, 480, 900, 900});
-    muro.AccessibleName("Muro");
-    muro.Visible(false);
+    PictureMuri.Add(pictureTramelo, Bounds{4080, 480, 900, 900}).Visible(false);
 }
 
 void frmTrm0::Disponi() {

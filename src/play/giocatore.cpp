@@ -1,5 +1,7 @@
 #include "play/giocatore.h"
 
+#include <utility>
+
 namespace trameli {
 
 namespace {
@@ -22,25 +24,26 @@ void Giocatore::Azzera() {
     cellaCorrente_ = percorso_.CellaIniziale;
 }
 
-Esito Giocatore::Muovi(Lato lato, const Tramelo& tramelo) {
-    const Cella nuova = Vicina(cellaCorrente_, lato);
-    const bool dentro = NellaGriglia(nuova, tramelo);
+bool Giocatore::Aperto(Lato lato, const Tramelo& tramelo) const {
+    const bool dentro = NellaGriglia(Vicina(cellaCorrente_, lato), tramelo);
     if (primaMossa_) {
-        if (!dentro) {
-            return Esito::Urto;
-        }
-        primaMossa_ = false;
-        cellaCorrente_ = nuova;
-        return Esito::Entrata;
+        return dentro;
     }
     // Of the two openings, only the finish cell's is a way out.
-    if (tramelo.Muri(cellaCorrente_.Riga, cellaCorrente_.Colonna, lato) ||
-        (!dentro && cellaCorrente_ != percorso_.CellaArrivo)) {
+    return !tramelo.Muri(cellaCorrente_.Riga, cellaCorrente_.Colonna, lato) &&
+           (dentro || cellaCorrente_ == percorso_.CellaArrivo);
+}
+
+Esito Giocatore::Muovi(Lato lato, const Tramelo& tramelo) {
+    if (!Aperto(lato, tramelo)) {
         return Esito::Urto;
     }
-    cellaCorrente_ = nuova;
-    trameloRisolto_ = !dentro;
-    return dentro ? Esito::Passo : Esito::Arrivo;
+    cellaCorrente_ = Vicina(cellaCorrente_, lato);
+    if (std::exchange(primaMossa_, false)) {
+        return Esito::Entrata;
+    }
+    trameloRisolto_ = !NellaGriglia(cellaCorrente_, tramelo);
+    return trameloRisolto_ ? Esito::Arrivo : Esito::Passo;
 }
 
 }  // namespace trameli

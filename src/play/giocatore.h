@@ -23,9 +23,14 @@ public:
     /// any other.
     Esito Muovi(Lato lato, const Tramelo& tramelo);
 
+    /// Whether the player can leave the own cell over that side.
+    bool Aperto(Lato lato, const Tramelo& tramelo) const;
+
     /// Where the player stands; outside the grid before the first step and after the last.
     Cella CellaCorrente() const { return cellaCorrente_; }
     bool TrameloRisolto() const { return trameloRisolto_; }
+    /// The first step is still to come.
+    bool NonPartito() const { return primaMossa_; }
     /// Start and finish of this maze.
     const PartenzaArrivo& Percorso() const { return percorso_; }
 

@@ -2,6 +2,7 @@
 #include "base/rounding.h"
 #include "platform/forms.h"
 #include "play/form_trm.h"
+#include "play/voce.h"
 
 namespace trameli {
 
@@ -10,15 +11,18 @@ void FormTrm::Muovi(Lato lato) {
     const int cella = geometria_.DimensioneCella;
     switch (giocatore_.Muovi(lato, tramelo_)) {
         case Esito::Urto:
+            Announce([&] { return DescriviUrto(lato, servizi_.Lingue); });
             ColpitoMuro();
             break;
         case Esito::Entrata:
             DisegnaLinea(lato, Quotient(cella, 2), stato_.ColoreAvanti);
+            AnnunciaPosto();
             break;
         case Esito::Passo: {
             // The ways through the openings walk no passage, so that they are always ways forward.
             const bool avanti = !stato_.CambiaColoreRitorno || traccia_.Attraversa(passaggio);
             DisegnaLinea(lato, cella, avanti ? stato_.ColoreAvanti : stato_.ColoreRitorno);
+            AnnunciaPosto();
             break;
         }
         case Esito::Arrivo:
@@ -26,6 +30,10 @@ void FormTrm::Muovi(Lato lato) {
             MostraFrameTrameloRisolto();
             break;
     }
+}
+
+void FormTrm::AnnunciaPosto() {
+    Announce([this] { return DovEIlGiocatore(giocatore_, tramelo_, servizi_.Lingue); });
 }
 
 void FormTrm::ColpitoMuro() {
@@ -66,6 +74,11 @@ void FormTrm::MostraFrameTrameloRisolto() {
             Timer1.Enabled(false);
             OffriAvantiOMenu();
         }
+        // Last, since the button that has just got the keyboard is read out as well.
+        Announce([this] {
+            return DescriviArrivo(servizi_.Lingue) + ". " + StatusBar1.Panel(4) + ", " +
+                   StatusBar1.Panel(3) + ". " + BottoneAvanti.AccessibleName();
+        });
         ++TrameliRisolti;
         return;
     }

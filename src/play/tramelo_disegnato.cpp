@@ -30,6 +30,7 @@ void FormTrm::GeneraTramelo() {
     AzzeraVariabili();
     InserisciArrivo();
     DisegnaTramelo();
+    Announce(pictureTramelo.Description);
 }
 
 PartenzaArrivo FormTrm::TrovaPartenzaArrivo() {

@@ -146,6 +146,13 @@ void FormMenu::DisponiLivelli() {
     Option1(0).MouseIcon(FrecciaGrande());
 }
 
+/// A bare number says too little to those who hear it.
+void FormMenu::NominaLivelli() {
+    Option1.ForEach([this](OptionButton& opzione) {
+        opzione.AccessibleName(servizi_.Lingue.TestoLingua("0022") + opzione.Caption());
+    });
+}
+
 void FormMenu::DisponiBottoni() {
     for (const Bottone& disegno : Bottoni) {
         const int indice = Command1.Count();
@@ -166,6 +173,7 @@ void FormMenu::Form_Load() {
     if (!Loaded()) {
         return;
     }
+    NominaLivelli();
     Command1.ForEach([](CommandButton& bottone) { bottone.BackColor(GrigioChiaro); });
     servizi_.Stato.TrameloDisegnato = false;
 }
@@ -297,6 +305,7 @@ void FormMenu::mnuLanguage_Click(int Index) {
     for (Form* form : Forms().Loaded()) {
         lingue.TraduciForm(*form);
     }
+    NominaLivelli();
     if (!lingue.SalvaScelta()) {
         servizi_.Dialogs.Message(
             lingue.TestoLingua("0034", "Impossibile salvare le impostazioni.") + "\n" +

@@ -76,6 +76,7 @@ private:
     void MLSFillMenuLanguages();
     void SpuntaLingua();
     void DisponiLivelli();
+    void NominaLivelli();
     void DisponiBottoni();
     void EscludiLivelliATempo();
     void ElencaUtenti();
@@ -89,6 +90,7 @@ private:
     template <typename Controllo>
     GiroOfferte::Offerta OffertaDi(Cornice& cornice, const Controllo& controllo,
                                    std::function<void()> prendi);
+    GiroOfferte::Offerta OffertaDiFascia(std::size_t fascia, std::function<void()> prendi);
     void Cedi(const char* form);
 
     // The indices of the two buttons.

@@ -18,13 +18,11 @@ constexpr int PrimaDelGiro = 2;  // paces: whoever has just taken something need
 /// The round of the whole window. It begins with the start, so that going on is one press.
 void FormMenu::AvviaScansione() {
     Command1(Uscita).Caption("");
-    const std::array<const Shape*, Fasce.size()> riquadri{&Shape1, &Shape2, &Shape3};
     std::vector<GiroOfferte::Offerta> giro;
     giro.push_back(OffertaDi(CorniceForm, Command1(Inizio), [this] { Command1_Click(Inizio); }));
     for (std::size_t i = 0; i < Fasce.size(); ++i) {
         if (Option1(Fasce.at(i).Primo).Enabled()) {
-            giro.push_back(
-                OffertaDi(CorniceFrame, *riquadri.at(i), [this, i] { OffriLivelli(i); }));
+            giro.push_back(OffertaDiFascia(i, [this, i] { OffriLivelli(i); }));
         }
     }
     if (Combo1.Visible()) {
@@ -45,8 +43,7 @@ void FormMenu::OffriLivelli(std::size_t fascia) {
             AvviaScansione();
         }));
     }
-    const std::array<const Shape*, Fasce.size()> riquadri{&Shape1, &Shape2, &Shape3};
-    giro.push_back(OffertaDi(CorniceFrame, *riquadri.at(fascia), [this] { AvviaScansione(); }));
+    giro.push_back(OffertaDiFascia(fascia, [this] { AvviaScansione(); }));
     giro.front().Durata = PrimaDelGiro;
     giro_.Avvia(std::move(giro));
 }
@@ -64,13 +61,36 @@ void FormMenu::ChiediUscita() {
         OffertaDi(CorniceForm, Command1(Uscita), [this] { Command1_Click(Uscita); });
     uscita.Durata = durataGiro_;
     giro_.Avvia({std::move(uscita)}, [this] { AvviaScansione(); });
+    Announce([this] { return Command1(Uscita).Caption(); });
 }
 
 template <typename Controllo>
 GiroOfferte::Offerta FormMenu::OffertaDi(Cornice& cornice, const Controllo& controllo,
                                          std::function<void()> prendi) {
-    return {[&cornice, &controllo](bool offerta) {
-                offerta ? cornice.Mostra(controllo.Place()) : cornice.Nascondi();
+    return {[this, &cornice, &controllo](bool offerta) {
+                if (!offerta) {
+                    cornice.Nascondi();
+                    return;
+                }
+                cornice.Mostra(controllo.Place());
+                // The keyboard stays where it is, so that nothing else would be read out.
+                Announce([&controllo] { return controllo.AccessibleName(); });
+            },
+            std::move(prendi)};
+}
+
+GiroOfferte::Offerta FormMenu::OffertaDiFascia(std::size_t fascia, std::function<void()> prendi) {
+    const std::array<const Shape*, Fasce.size()> riquadri{&Shape1, &Shape2, &Shape3};
+    return {[this, fascia, riquadro = riquadri.at(fascia)](bool offerta) {
+                if (!offerta) {
+                    CorniceFrame.Nascondi();
+                    return;
+                }
+                CorniceFrame.Mostra(riquadro->Place());
+                Announce([this, fascia] {
+                    return Option1(Fasce.at(fascia).Primo).AccessibleName() + " - " +
+                           Option1(Fasce.at(fascia).Ultimo).Caption();
+                });
             },
             std::move(prendi)};
 }

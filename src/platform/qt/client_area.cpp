@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include "platform/forms.h"
+#include "platform/qt/accessible_client.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/form_window.h"
 #include "platform/qt/surface_native.h"
@@ -33,6 +34,14 @@ void ClientArea::Resized() {
         canvas->SurfaceNative().Resize(size(), devicePixelRatioF());
     }
     form_.Forms().Dispatch(form_, [this] { Form::Native::Resize(form_); });
+}
+
+void ClientArea::Announce(const QString& text) {
+    static_cast<AccessibleClient*>(QAccessible::queryAccessibleInterface(this))->Announce(text);
+}
+
+QAccessibleInterface* ClientArea::Describe() {
+    return new AccessibleClient(this);
 }
 
 void ClientArea::mouseMoveEvent(QMouseEvent*) {

@@ -1,5 +1,6 @@
 #include "platform/form.h"
 
+#include <QApplication>
 #include <QRect>
 
 #include "base/rounding.h"
@@ -137,6 +138,14 @@ int Form::ReadClientPixels(const PixelBlock& into) const {
 
 void Form::Hourglass(bool shown) {
     native_->Window.Hourglass(shown);
+}
+
+void Form::Announce(const std::function<std::string()>& text) {
+    FormWindow& window = native_->Window;
+    const QWidget* const inFront = QApplication::activeWindow();
+    if (QAccessible::isActive() && (!inFront || inFront == &window)) {
+        window.Client().Announce(ToQt(text()));
+    }
 }
 
 Surface& Form::Canvas() {

@@ -39,7 +39,6 @@ FormWindow::FormWindow(Form& form, QSize clientSize, FormStyle style)
       asked_({0, 0}, clientSize),
       maximised_(style == FormStyle::Maximised) {
     setWindowFlags(FrameWithoutSizeButtons);
-    setAccessibleName(QStringLiteral("Trameli"));
     Title(QString());
     setCentralWidget(&client_);
     client_.resize(clientSize);
@@ -56,6 +55,10 @@ FormWindow::FormWindow(Form& form, QSize clientSize, FormStyle style)
 void FormWindow::Title(const QString& title) {
     // A window with no title at all would get the program's name from the toolkit.
     setWindowTitle(title.isEmpty() ? QStringLiteral(" ") : title);
+    setAccessibleName(title.isEmpty() ? QStringLiteral("Trameli") : title);
+    if (menuWidget()) {
+        menuWidget()->setAccessibleName(accessibleName());
+    }
 }
 
 void FormWindow::Present() {

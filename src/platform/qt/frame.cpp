@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "platform/qt/accessibility.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/drawing.h"
 #include "platform/qt/native.h"
@@ -12,13 +13,28 @@ namespace trameli {
 
 namespace {
 
-class FrameWidget : public QGroupBox {
+class AccessibleFrame final : public AccessibleContainer {
+public:
+    explicit AccessibleFrame(QGroupBox* frame)
+        : AccessibleContainer(frame, QAccessible::Grouping) {}
+
+    QString text(QAccessible::Text kind) const override {
+        const QString told = AccessibleContainer::text(kind);
+        return kind == QAccessible::Name && told.isEmpty()
+                   ? Spoken(static_cast<const QGroupBox*>(widget())->title())
+                   : told;
+    }
+};
+
+class FrameWidget : public QGroupBox, public SelfDescribing {
 public:
     explicit FrameWidget(QWidget* parent) : QGroupBox(parent) {
         setAttribute(Qt::WA_OpaquePaintEvent);
     }
 
     bool Border = true;
+
+    QAccessibleInterface* Describe() override { return new AccessibleFrame(this); }
 
 protected:
     void paintEvent(QPaintEvent*) override {

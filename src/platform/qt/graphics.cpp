@@ -1,6 +1,5 @@
 #include "platform/qt/graphics.h"
 
-#include <QAccessibleWidget>
 #include <QCursor>
 #include <QPainter>
 #include <QPixmapCache>
@@ -37,9 +36,23 @@ QPixmap Rendered(QSvgRenderer& renderer, const QSize& size, double devicePixelRa
     return pixmap;
 }
 
-class AccessibleGraphic final : public QAccessibleWidget {
+class AccessibleGraphic final : public AccessibleContainer {
 public:
-    explicit AccessibleGraphic(GraphicWidget* graphic) : QAccessibleWidget(graphic) {}
+    explicit AccessibleGraphic(GraphicWidget* graphic) : AccessibleContainer(graphic) {}
+
+    QString text(QAccessible::Text kind) const override {
+        const QString told = AccessibleContainer::text(kind);
+        if (kind == QAccessible::Name) {
+            return told.isEmpty() ? widget()->toolTip() : told;
+        }
+        if (kind != QAccessible::Description) {
+            return told;
+        }
+        const auto& seen = static_cast<const GraphicWidget*>(widget())->Seen;
+        const QString description = seen ? seen() : told;
+        // A tool tip often says the same as the name, which is read out first.
+        return description == text(QAccessible::Name) ? QString() : description;
+    }
 
     QAccessible::Role role() const override {
         return Press() ? QAccessible::Button : QAccessible::Graphic;
@@ -160,6 +173,10 @@ QIcon WindowIcon() {
 
 QAccessibleInterface* GraphicWidget::Describe() {
     return new AccessibleGraphic(this);
+}
+
+bool GraphicWidget::IsDecoration() const {
+    return accessibleName().isEmpty() && toolTip().isEmpty();
 }
 
 }  // namespace trameli

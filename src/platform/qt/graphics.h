@@ -47,14 +47,17 @@ void SetPointer(QWidget& widget, const std::optional<PointerImage>& icon);
 QIcon WindowIcon();
 
 /// A widget that shows something drawn: for assistive technology it is a graphic, or a button if it
-/// can be pressed.
+/// can be pressed. One with neither a name nor a tool tip is decoration.
 class GraphicWidget : public QWidget, public SelfDescribing {
 public:
     using QWidget::QWidget;
 
     std::function<void()> Press;
+    /// What is to be seen, for those who ask.
+    std::function<QString()> Seen;
 
     QAccessibleInterface* Describe() override;
+    bool IsDecoration() const override;
 };
 
 }  // namespace trameli

@@ -44,7 +44,9 @@ Image::Image(Container& container, ControlName name, const Bounds& bounds,
 }
 
 void Image::TakesKeyboard(bool takes) {
-    WidgetOf<ImageWidget>(*this).setFocusPolicy(takes ? Qt::TabFocus : Qt::NoFocus);
+    auto& widget = WidgetOf<ImageWidget>(*this);
+    widget.setFocusPolicy(takes ? Qt::TabFocus : Qt::NoFocus);
+    widget.Press = takes ? std::function([this] { Fire(*this, Click); }) : nullptr;
 }
 
 void Image::Picture(const trameli::Picture& picture) {

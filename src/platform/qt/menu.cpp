@@ -5,6 +5,7 @@
 #include <QMenuBar>
 #include <QPointer>
 
+#include "platform/qt/accessibility.h"
 #include "platform/qt/bar_font.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/form_window.h"
@@ -27,6 +28,7 @@ struct MenuItem::Native {
         if (!Action->menu()) {
             auto* menu = new QMenu(Where);
             menu->setFont(Where->font());
+            menu->setAccessibleName(Spoken(Action->text()));
             Action->setMenu(menu);
         }
         return Action->menu();
@@ -44,6 +46,7 @@ namespace {
 QMenuBar* BarOf(Form& form) {
     QMenuBar* bar = form.NativePart().Window.menuBar();
     bar->setNativeMenuBar(false);
+    bar->setAccessibleName(form.NativePart().Window.accessibleName());
     bar->setFont(BarFont(TwipsPerPixel(form), "QMenuBar"));
     return bar;
 }
@@ -108,6 +111,9 @@ void MenuItem::Listen() {
 
 void MenuItem::ShowCaption() {
     native_->Action->setText(ToQt(Caption()));
+    if (native_->Action->menu()) {
+        native_->Action->menu()->setAccessibleName(Spoken(native_->Action->text()));
+    }
 }
 
 void MenuItem::Enabled(bool enabled) {

@@ -92,6 +92,9 @@ PictureBox::PictureBox(Container& container, ControlName name, const Bounds& bou
       container_(container) {
     auto& widget = WidgetOf<PictureBoxWidget>(*this);
     widget.Owner = this;
+    widget.Seen = [this] {
+        return Description && OwnerForm().Loaded() ? ToQt(Description()) : ToQt(ToolTipText());
+    };
     widget.Drawn = &SurfaceNative();
     SurfaceNative().Changed = [&widget](const QRect& where) { widget.update(where); };
     SurfaceNative().Setup(TwipsPerPixel(OwnerForm()), BackColor());

@@ -5,6 +5,7 @@
 #include "platform/line.h"
 #include "platform/property_access.h"
 #include "platform/qt/convert.h"
+#include "platform/qt/graphics.h"
 #include "platform/qt/native.h"
 #include "platform/shape.h"
 
@@ -13,9 +14,9 @@ namespace trameli {
 namespace {
 
 /// Something drawn that the mouse goes through, behind its siblings.
-class DrawnWidget : public QWidget {
+class DrawnWidget : public GraphicWidget {
 public:
-    explicit DrawnWidget(QWidget* parent) : QWidget(parent) {
+    explicit DrawnWidget(QWidget* parent) : GraphicWidget(parent) {
         setAttribute(Qt::WA_TransparentForMouseEvents);
     }
 

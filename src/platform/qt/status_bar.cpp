@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/rounding.h"
+#include "platform/qt/accessibility.h"
 #include "platform/qt/bar_font.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/native.h"
@@ -17,7 +18,7 @@ namespace {
 constexpr double LeastHeight = 375;  // twips
 constexpr int RoundTheLetters = 6;   // pixels of a panel's edges and of the space within, in all
 
-class StatusBarWidget : public QWidget {
+class StatusBarWidget : public QWidget, public SelfDescribing {
 public:
     StatusBarWidget(double twipsPerPixel, QWidget* parent)
         : QWidget(parent), twipsPerPixel_(twipsPerPixel) {
@@ -31,6 +32,10 @@ public:
         panel->setFrameStyle(QFrame::Panel | QFrame::Sunken);
         panel->setIndent(fontMetrics().horizontalAdvance(QLatin1Char(' ')));
         Panels.push_back(panel);
+    }
+
+    QAccessibleInterface* Describe() override {
+        return new AccessibleContainer(this, QAccessible::StatusBar);
     }
 
     StatusBar* Owner = nullptr;

@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "platform/property_access.h"
+#include "platform/qt/accessible_tabs.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/drawing.h"
 #include "platform/qt/native.h"
@@ -24,7 +25,7 @@ constexpr double Corner = 6;
 
 /// The toolkit's row of tabs, as large as tabs and pages together: drawn here so that tabs and the
 /// ground of the pages are one.
-class TabWidget : public QTabBar {
+class TabWidget : public QTabBar, public SelfDescribing {
 public:
     explicit TabWidget(QWidget* parent) : QTabBar(parent) {
         setDrawBase(false);
@@ -33,6 +34,8 @@ public:
         setElideMode(Qt::ElideNone);
         setFocusPolicy(Qt::StrongFocus);
     }
+
+    QAccessibleInterface* Describe() override { return new AccessibleTabs(this); }
 
 protected:
     /// Where all of them together would be too wide, each gives up the same part.

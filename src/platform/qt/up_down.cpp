@@ -24,11 +24,21 @@ constexpr int RepeatsLeftOut = 6;
 
 class UpDownWidget : public QWidget, public SelfDescribing {
 public:
-    UpDownWidget(TextBox& buddy, QWidget* parent)
-        : QWidget(parent), Buddy(&WidgetOf<TextWidget>(buddy)), form_(buddy.OwnerForm()) {}
+    UpDownWidget(UpDown& owner, TextBox& buddy, int min, int max, int increment, QWidget* parent)
+        : QWidget(parent),
+          Buddy(&WidgetOf<TextWidget>(buddy)),
+          Owner(owner),
+          Min(min),
+          Max(max),
+          Increment(increment),
+          form_(buddy.OwnerForm()) {}
 
     QPointer<TextWidget> Buddy;
     std::function<void(int)> Count;
+    UpDown& Owner;
+    const int Min;
+    const int Max;
+    const int Increment;
 
     QAccessibleInterface* Describe() override;
 
@@ -108,7 +118,7 @@ private:
     int ticks_ = 0;
 };
 
-class AccessibleUpDown final : public QAccessibleWidget {
+class AccessibleUpDown final : public QAccessibleWidget, public QAccessibleValueInterface {
 public:
     explicit AccessibleUpDown(UpDownWidget* widget)
         : QAccessibleWidget(widget, QAccessible::SpinBox), widget_(*widget) {}
@@ -117,6 +127,18 @@ public:
         QAccessibleInterface* const box = QAccessible::queryAccessibleInterface(widget_.Buddy);
         return box ? box->text(kind) : QString();
     }
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        return type == QAccessible::ValueInterface ? static_cast<QAccessibleValueInterface*>(this)
+                                                   : QAccessibleWidget::interface_cast(type);
+    }
+    QVariant currentValue() const override { return widget_.Owner.Value(); }
+    void setCurrentValue(const QVariant& value) override {
+        widget_.Count(Nearest((value.toDouble() - widget_.Owner.Value()) / widget_.Increment));
+    }
+    QVariant maximumValue() const override { return widget_.Max; }
+    QVariant minimumValue() const override { return widget_.Min; }
+    QVariant minimumStepSize() const override { return widget_.Increment; }
+
     QStringList actionNames() const override {
         return widget_.isEnabled() ? QStringList{increaseAction(), decreaseAction()}
                                    : QStringList();
@@ -140,7 +162,7 @@ QAccessibleInterface* UpDownWidget::Describe() {
 UpDown::UpDown(Container& container, ControlName name, const Bounds& bounds, TextBox& buddy,
                int min, int max, int increment)
     : InteractiveControl(container, std::move(name), bounds,
-                         MakeNative<UpDownWidget>(container, buddy)),
+                         MakeNative<UpDownWidget>(container, *this, buddy, min, max, increment)),
       buddy_(buddy),
       min_(min),
       max_(max),
