@@ -64,7 +64,8 @@ rm -rf "$taken"
 copy_sources "$taken"
 echo "Building $package" >&2
 make_package build/package "trameli-$version"
-lintian --allow-root --pedantic --fail-on error,warning,pedantic "build/package/$package" >&2
+lintian --allow-root --pedantic --display-info --display-experimental \
+    --fail-on error,warning,info,pedantic,experimental "build/package/$package" >&2
 if [[ ${1:-} == --twice ]]; then
     echo "Building it again" >&2
     CCACHE_DISABLE=1 make_package build/package-again elsewhere

@@ -4,6 +4,7 @@
 
 # Lists the versions that are told in several places.
 told_versions() {
+    sed -n 's/^## \([0-9][^ ]*\) - .*/CHANGELOG.md \1/p' CHANGELOG.md | head -n 1
     sed -n 's/^project(trameli VERSION \([^ ]*\) .*/CMakeLists.txt \1/p' CMakeLists.txt
     sed -n '1s/^trameli (\([^)]*\)).*/debian\/changelog \1/p' debian/changelog
     sed -n 's/.*<release version="\([^"]*\)".*/packaging\/org.example.trameli.metainfo.xml \1/p' \
@@ -24,7 +25,7 @@ ask() {
 check_metadata() {
     local versions
     versions=$(told_versions)
-    if [[ $(wc -l <<<"$versions") -ne 3 || $(sort -u -k 2,2 <<<"$versions" | wc -l) -ne 1 ]]; then
+    if [[ $(wc -l <<<"$versions") -ne 4 || $(sort -u -k 2,2 <<<"$versions" | wc -l) -ne 1 ]]; then
         printf 'These do not tell the same version:\n%s\n' "$versions" >&2
         return 1
     fi
