@@ -30,7 +30,7 @@ packages_fuzz=(clang)
 # stands in debian/control once more, because Debian's tools read nothing else.
 packages_package=(dpkg-dev debhelper lintian desktop-file-utils appstream reuse)
 # Trying it on a bare system.
-packages_try=(mmdebstrap xvfb xauth openbox xdotool)
+packages_try=(mmdebstrap xvfb xauth openbox xdotool imagemagick)
 # The start of the game is measured in a real window; an hour is played by the tests' hands.
 packages_bench=(libbenchmark-dev libgtest-dev xvfb openbox)
 
