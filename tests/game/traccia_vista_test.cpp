@@ -113,6 +113,9 @@ TEST_P(CaselleIntere, AreFilledFromWallToWallInTheNextWindowToo) {
     const auto nuovi = dopo.Soluzione();
     dopo.Cammina({nuovi[0], nuovi[1]});
     EXPECT_EQ(dopo.Guarda().Fra(prima.Riga, prima.Colonna, 0.3, 0.3), avanti);
+    Comando(dopo, Qt::Key_C);
+    dopo.Cammina({nuovi[0], nuovi[1]});
+    EXPECT_EQ(dopo.Guarda().Fra(prima.Riga, prima.Colonna, 0.3, 0.3), sfondo);
 }
 
 class Spessore : public TracciaVista, public testing::WithParamInterface<int> {};
