@@ -1,5 +1,6 @@
 // From the first window to the last with nothing but switches.
 #include "game/interruttori.h"
+#include "platform/combo_box.h"
 #include "platform/command_button.h"
 #include "platform/option_button.h"
 #include "platform/shape.h"
@@ -78,6 +79,7 @@ TEST_P(SoliInterruttori, PlayFromTheSplashThroughTwoLevelsToAnotherOneAndOut) {
     modo_ = GetParam();
     file_ = Utente(modo_).Con(RigaLivello, 0);
     disco_.Scrivi("_predefinito", file_);
+    disco_.Scrivi("Anna", file_);
     partita_.Avvia();
     partita_.Tempo.Advance(DopoUnaNovita);
     Spazio(partita_.Finestra("FormAvvio"));
@@ -97,6 +99,8 @@ TEST_P(SoliInterruttori, PlayFromTheSplashThroughTwoLevelsToAnotherOneAndOut) {
     EXPECT_EQ(partita_.Gioco.Stato().Livello, 1);
 
     Form& menu = Menu();
+    Prendi(Trova<ComboBox>(menu, "Combo1"));
+    EXPECT_EQ(partita_.Gioco.Stato().NomeUtente, "Anna");
     Prendi(Trova<Shape>(menu, "Shape3"));
     Prendi(Trova<OptionButton>(menu, "Option1", 9));
     Prendi(Trova<CommandButton>(menu, "Command1", 0));
@@ -111,6 +115,7 @@ TEST_P(SoliInterruttori, PlayFromTheSplashThroughTwoLevelsToAnotherOneAndOut) {
     Tic(10);  // thought better of it
     EXPECT_FALSE(partita_.Gioco.Forms().Ended());
     Prendi(uscita);
+    EXPECT_FALSE(partita_.Gioco.Forms().Ended());
     partita_.Tempo.Advance(DopoUnaNovita);
     Conferma(partita_.Finestra("FormMenu"));
     EXPECT_TRUE(partita_.Gioco.Forms().Ended());
