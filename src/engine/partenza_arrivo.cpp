@@ -74,6 +74,14 @@ Posizione DavantiA(Cella cella, Lato lato, const Geometria& geometria, double sp
     return {Saturated(y + sesto + mezzoMuro), Saturated(x - intera)};
 }
 
+/// Counted in half cells, so that nothing is lost on smaller cells and back.
+std::int16_t Trasferita(int coordinata, int margine, int cella, int margineNuovo, int cellaNuova) {
+    const int mezze = cella > 0 ? Nearest(2.0 * (coordinata - margine) / cella) : 0;
+    const int intere = Floor(mezze / 2.0);
+    return Saturated(margineNuovo + intere * cellaNuova +
+                     (mezze - 2 * intere) * Floor(cellaNuova / 2.0));
+}
+
 void Apri(Tramelo& tramelo, const PartenzaArrivo& scelta) {
     tramelo.Apri(scelta.CellaPartenza, scelta.LatoPartenza);
     tramelo.Apri(scelta.CellaArrivo, scelta.LatoArrivo);
@@ -116,6 +124,24 @@ PartenzaArrivo TrovaPartenzaArrivoATempo(Tramelo& tramelo, const Geometria& geom
         Saturated(Nearest(ColonneFinoArrivoATempo * geometria.DimensioneCella +
                           geometria.MargineSinistro + spessoreMuri));
     Apri(tramelo, scelta);
+    return scelta;
+}
+
+Punto Trasferito(Punto punto, const Geometria& da, const Geometria& a) {
+    return {Trasferita(punto.X, da.MargineSinistro, da.DimensioneCella, a.MargineSinistro,
+                       a.DimensioneCella),
+            Trasferita(punto.Y, da.MargineSuperiore, da.DimensioneCella, a.MargineSuperiore,
+                       a.DimensioneCella)};
+}
+
+PartenzaArrivo Trasferito(PartenzaArrivo scelta, const Geometria& da, const Geometria& a) {
+    const double scala =
+        da.DimensioneCella > 0 ? 1.0 * a.DimensioneCella / da.DimensioneCella : 0.0;
+    scelta.PuntoIniziale = Trasferito(scelta.PuntoIniziale, da, a);
+    const auto [alto, sinistra] = scelta.PosizioneArrivo;
+    scelta.PosizioneArrivo = {
+        Saturated(a.MargineSuperiore + Nearest((alto - da.MargineSuperiore) * scala)),
+        Saturated(a.MargineSinistro + Nearest((sinistra - da.MargineSinistro) * scala))};
     return scelta;
 }
 

@@ -61,6 +61,12 @@ PartenzaArrivo TrovaPartenzaArrivo(Tramelo& tramelo, Casuale& casuale, const Geo
 PartenzaArrivo TrovaPartenzaArrivoATempo(Tramelo& tramelo, const Geometria& geometria,
                                          double spessoreMuri);
 
+/// The same middle of a cell or of a side on a grid that lies otherwise.
+Punto Trasferito(Punto punto, const Geometria& da, const Geometria& a);
+
+/// The same start and finish there.
+PartenzaArrivo Trasferito(PartenzaArrivo scelta, const Geometria& da, const Geometria& a);
+
 /// Side of the square finish picture, twips, whatever the shape of its source.
 std::int16_t LatoArrivoImmagine(std::int16_t dimensioneCella, double spessoreMuri);
 

@@ -127,10 +127,10 @@ void FormAPassi::DisponiControlli(double altezza, double scartoCoppe) {
     pictureTramelo.Height(altezza);
     BottoneAvanti.Top(pictureTramelo.Height());
     BottoneAvanti.Left(Width() - 2 * BottoneAvanti.Width());
-    Image1.ForEach([&](Image& coppa) {
-        coppa.Visible(false);
-        coppa.Top(BottoneAvanti.Top() + scartoCoppe);
-    });
+    Image1.ForEach([&](Image& coppa) { coppa.Top(BottoneAvanti.Top() + scartoCoppe); });
+    if (BottoneMenu.Visible()) {
+        BottoneMenu.Place(PostoBottoneMenu());
+    }
 }
 
 void FormAPassi::ImpostaModoInput() {

@@ -118,10 +118,9 @@ void FormTrm::Form_Activate() {
     preparato_ = true;
     BackColor(Nearest(stato_.ColoreSfondo));
     TrameliRisolti = 0;
+    Accomoda();
     Disponi();
-    geometria_ = CalcolaGeometria(pictureTramelo.Width(), pictureTramelo.Height(), tramelo_.Righe(),
-                                  tramelo_.Colonne(), DoveSiApre());
-    ImpostaSpessori();
+    ImpostaGeometria();
     pictureTramelo.Left(0);
     pictureTramelo.Top(0);
     pictureTramelo.BackColor(Nearest(stato_.ColoreSfondo));
@@ -132,6 +131,24 @@ void FormTrm::Form_Activate() {
     if (Loaded() && stato_.ModoInput == ScansioneManuale) {
         RidisegnaRotazione();
     }
+}
+
+void FormTrm::Form_Resize() {
+    if (!preparato_) {
+        return;
+    }
+    Accomoda();
+    const Geometria prima = geometria_;
+    ImpostaGeometria();
+    if (!stato_.TrameloDisegnato || geometria_ == prima) {
+        return;
+    }
+    giocatore_.Trasferisci(prima, geometria_);
+    traccia_.Trasferisci(prima, geometria_);
+    CollocaArrivo();
+    pictureTramelo.Cls();
+    RidisegnaSu(pictureTramelo.BackColor());
+    RimettiOfferta();
 }
 
 void FormTrm::Form_QueryClose() {

@@ -81,7 +81,9 @@ protected:
 
     // What differs from form to form.
 
-    /// Places the controls in the window's final size and lets the settings take effect.
+    /// Places the controls in the window's size.
+    virtual void Accomoda() = 0;
+    /// Lets the settings take effect on controls in their places.
     virtual void Disponi() = 0;
     /// A new maze at the same level, with its counters at 0.
     virtual void mnuNuovo_Click() = 0;
@@ -105,6 +107,8 @@ protected:
 
     void Form_Load() override;
     void Form_Activate() override;
+    /// The window goes with its screen: the maze and what was walked of it are fitted anew.
+    void Form_Resize() override;
     /// A thickness changed while playing, or a level reached, is saved before the window goes.
     void Form_QueryClose() override;
     void BottoneAvanti_Click();
@@ -140,6 +144,8 @@ protected:
 
     /// The store of pictures, which no window shows.
     FormArchivio& Archivio() const;
+    /// Fits the grid into its picture box, and works the thicknesses out.
+    void ImpostaGeometria();
     /// Works the thicknesses out from the settings and the cells' size.
     void ImpostaSpessori();
     /// The look of trace and symbol with the settings and thicknesses as they are now.
@@ -152,6 +158,8 @@ protected:
     void RidisegnaSu(Colour sfondo);
     /// Draws the symbol at the start.
     void InserisciPartenza();
+    /// Puts the picture that marks the finish in its place.
+    void CollocaArrivo();
     /// Chooses the picture that marks the finish by a draw, and puts it there.
     void InserisciArrivo();
 

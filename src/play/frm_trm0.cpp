@@ -37,8 +37,11 @@ frmTrm0::frmTrm0(trameli::Forms& forms, Servizi& servizi, Casuale& casuale)
     PictureMuri.Add(pictureTramelo, Bounds{4080, 480, 900, 900}).Visible(false);
 }
 
-void frmTrm0::Disponi() {
+void frmTrm0::Accomoda() {
     DisponiControlli(Height() - BottoneAvanti.Height() - 2 * StatusBar1.Height(), 0);
+}
+
+void frmTrm0::Disponi() {
     LineeMuri = stato_.LineeNeiPrimiLivelli;
     ScriviLineeMuri();
     ImpostaModoInput();

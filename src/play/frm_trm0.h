@@ -20,6 +20,7 @@ protected:
     /// The other kind of walls, and the same maze from the start.
     void mnuLineeMuri_Click();
 
+    void Accomoda() override;
     void Disponi() override;
     void mnuNuovo_Click() override;
     trameli::Pareti AspettoPareti() const override;

@@ -77,15 +77,22 @@ frmTrm1::frmTrm1(trameli::Forms& forms, Servizi& servizi, Casuale& casuale)
     Timer1.Tick = [this] { Timer1_Timer(); };
 }
 
-void frmTrm1::Disponi() {
-    Timer1.Enabled(false);
-    ContaRipartenze = 0;
+void frmTrm1::Accomoda() {
     pictureTramelo.Width(Width());
     pictureTramelo.Height(Height() - 2 * StatusBar1.Height() - FrameSotto.Height());
     FrameSotto.Top(pictureTramelo.Height());
     FrameSotto.Width(Width());
     BottoneAvanti.Left(Width() - 2 * BottoneAvanti.Width());
-    Image1.ForEach([](Image& coppa) { coppa.Visible(false); });
+    if (BottoneContinua.Visible()) {
+        AccomodaScelta();
+    } else if (BottoneMenu.Visible()) {
+        BottoneMenu.Place(PostoBottoneMenu());
+    }
+}
+
+void frmTrm1::Disponi() {
+    Timer1.Enabled(false);
+    ContaRipartenze = 0;
     HScroll1.Value(VelocitaIniziale);
     FrameSotto.BackColor(Nearest(stato_.ColoreSfondo));
 }
@@ -145,17 +152,21 @@ void frmTrm1::ScriviPausa(bool ferma) {
 void frmTrm1::ApriScelta() {
     Timer1.Enabled(false);
     ScriviPausa(true);
-    const double altezza = BottoneContinua.Height();
-    const Bounds continua{(Width() - BottoneContinua.Width()) / 2,
-                          pictureTramelo.Height() / 2 - altezza, BottoneContinua.Width(), altezza};
-    BottoneContinua.Place(continua);
-    BottoneMenu.Place({continua.Left, continua.Top + 5 * altezza / 4, continua.Width, altezza});
+    AccomodaScelta();
     for (CommandButton* bottone : {&BottoneContinua, &BottoneMenu}) {
         bottone->Visible(true);
         bottone->ToFront();
     }
     giro_.Avvia({GiroOfferte::DiBottone(BottoneContinua, [this] { BottoneContinua_Click(); }),
                  GiroOfferte::DiBottone(BottoneMenu, [this] { mnuEsci_Click(); })});
+}
+
+void frmTrm1::AccomodaScelta() {
+    const double altezza = BottoneContinua.Height();
+    const Bounds continua{(Width() - BottoneContinua.Width()) / 2,
+                          pictureTramelo.Height() / 2 - altezza, BottoneContinua.Width(), altezza};
+    BottoneContinua.Place(continua);
+    BottoneMenu.Place({continua.Left, continua.Top + 5 * altezza / 4, continua.Width, altezza});
 }
 
 void frmTrm1::ChiudiScelta() {

@@ -37,6 +37,7 @@ protected:
     void Timer1_Timer();
     void mnuPausa_Click();
 
+    void Accomoda() override;
     void Disponi() override;
     void mnuNuovo_Click() override;
     PartenzaArrivo TrovaPartenzaArrivo() override;
@@ -52,6 +53,8 @@ protected:
 
 private:
     void ApriScelta();
+    /// Puts its two buttons into the middle of the maze.
+    void AccomodaScelta();
     void ChiudiScelta();
     void BottoneContinua_Click();
     void ScriviPausa(bool ferma);

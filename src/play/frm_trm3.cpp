@@ -30,12 +30,15 @@ frmTrm3::frmTrm3(trameli::Forms& forms, Servizi& servizi, Casuale& casuale)
                  {servizi.Stato.RigheGriglia, servizi.Stato.ColonneGriglia}, {7200, 3600, 495, 495},
                  {6360, 4440, 615, 495}) {}
 
-void frmTrm3::Disponi() {
+void frmTrm3::Accomoda() {
     const int scartoCoppe = Quotient(Nearest(Image1(0).Height()), 2);
     // The status bar needs more than what is left below the cups only where its font is very large.
     DisponiControlli(Height() - std::max(2 * BottoneAvanti.Height(),
                                          StatusBar1.Height() + scartoCoppe + Image1(0).Height()),
                      scartoCoppe);
+}
+
+void frmTrm3::Disponi() {
     ImpostaModoInput();
 }
 

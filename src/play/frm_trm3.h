@@ -12,6 +12,7 @@ public:
     frmTrm3(trameli::Forms& forms, Servizi& servizi, Casuale& casuale);
 
 protected:
+    void Accomoda() override;
     void Disponi() override;
     void mnuNuovo_Click() override;
 };

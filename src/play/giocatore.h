@@ -15,6 +15,10 @@ class Giocatore {
 public:
     /// Puts the player before the start of a new maze.
     void Colloca(const PartenzaArrivo& percorso);
+    /// The same start and finish in other places of the picture.
+    void Trasferisci(const Geometria& da, const Geometria& a) {
+        percorso_ = Trasferito(percorso_, da, a);
+    }
     /// Back to where the maze began, with the first step still to come.
     void Azzera();
 

@@ -32,6 +32,13 @@ void Traccia::Aggiungi(Punto punto, Colour colore) {
     colori_[ultimo] = colore;
 }
 
+void Traccia::Trasferisci(const Geometria& da, const Geometria& a) {
+    for (int i = 0; i <= contaPunti_; ++i) {
+        Punto& punto = percorso_[static_cast<std::size_t>(i)];
+        punto = Trasferito(punto, da, a);
+    }
+}
+
 bool Traccia::Attraversa(const Passaggio& passaggio) {
     const std::size_t cella = static_cast<std::size_t>(passaggio.Riga) * passo_ +
                               static_cast<std::size_t>(passaggio.Colonna);

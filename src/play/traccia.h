@@ -39,6 +39,9 @@ public:
     /// The newest point, and the colour of the segment that leads to it.
     void Aggiungi(Punto punto, Colour colore);
 
+    /// The same points on a grid that lies otherwise.
+    void Trasferisci(const Geometria& da, const Geometria& a);
+
     /// Notes a walk through a passage. True after the first, third, fifth: a way forward. Only the
     /// count decides, not the direction.
     bool Attraversa(const Passaggio& passaggio);

@@ -14,6 +14,12 @@ FormArchivio& FormTrm::Archivio() const {
     return static_cast<FormArchivio&>(Forms().Load("FormArchivio"));
 }
 
+void FormTrm::ImpostaGeometria() {
+    geometria_ = CalcolaGeometria(pictureTramelo.Width(), pictureTramelo.Height(), tramelo_.Righe(),
+                                  tramelo_.Colonne(), DoveSiApre());
+    ImpostaSpessori();
+}
+
 void FormTrm::ImpostaSpessori() {
     spessori_ = CalcolaSpessori(stato_.SpessoreLinee, geometria_.DimensioneCella,
                                 Forms().Screen().TwipsPerPixelY(), AspettoPareti());
@@ -55,11 +61,15 @@ void FormTrm::InserisciPartenza() {
 void FormTrm::InserisciArrivo() {
     const FormArchivio& archivio = Archivio();
     const int i = casuale_.FinoA(archivio.Image2.Count());
+    CollocaArrivo();
+    Image2.Picture(archivio.Image2(i).Picture());
+    Image2.Visible(true);
+}
+
+void FormTrm::CollocaArrivo() {
     const double lato = LatoArrivoImmagine(geometria_.DimensioneCella, spessori_.SpessoreMuri);
     const auto [alto, sinistra] = giocatore_.Percorso().PosizioneArrivo;
     Image2.Place({static_cast<double>(sinistra), static_cast<double>(alto), lato, lato});
-    Image2.Picture(archivio.Image2(i).Picture());
-    Image2.Visible(true);
 }
 
 void FormTrm::DisegnaTramelo() {

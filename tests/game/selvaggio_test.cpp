@@ -285,6 +285,28 @@ private:
     QTimer stampa_;
 };
 
+/// A window goes with its screen.
+class AltraMisura : public ConTavolo, public testing::WithParamInterface<int> {};
+
+TEST_P(AltraMisura, FitsTheMazeAndWhatWasWalkedIntoTheWindow) {
+    const Tavolo prima = Apri(GetParam());
+    const std::vector<int> passi = prima.Soluzione();
+    const auto meta = passi.begin() + static_cast<std::ptrdiff_t>(passi.size() / 2);
+    prima.Cammina({passi.begin(), meta});
+    const MuriVisti muri = prima.Muri();
+    for (const QSize misura : {QSize(300, 260), QSize(1200, 900)}) {
+        WindowOf(prima.Form_).resize(misura);
+        Pump();
+        const Tavolo dopo(prima.Form_, GetParam());
+        EXPECT_TRUE(dopo.Muri() == muri);
+    }
+    const Tavolo dopo(prima.Form_, GetParam());
+    dopo.Cammina({meta, passi.end()});
+    EXPECT_TRUE(dopo.Risolto());
+}
+
+INSTANTIATE_TEST_SUITE_P(Finestre, AltraMisura, testing::Values(4, 12));
+
 class GiocatoreSelvaggio : public testing::TestWithParam<unsigned> {};
 
 TEST_P(GiocatoreSelvaggio, BreaksNothingAndLeavesNothing) {
