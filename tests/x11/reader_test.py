@@ -1,10 +1,9 @@
 #!/usr/bin/python3
-"""What a screen reader is told: walks all windows of the game by keyboard, in German, looks at every
-control over AT-SPI, and plays a level by nothing but what is announced. Run on a display of its own:
-on_display.sh.
-
-    reader_test.py GAME
-"""
+# What a screen reader is told: walks all windows of the game by keyboard, in German, looks at every
+# control over AT-SPI, and plays a level by nothing but what is announced. Run on a display of its own:
+# on_display.sh.
+#
+#     reader_test.py GAME
 import math
 import os
 import re
@@ -32,7 +31,7 @@ said = []  # what got the focus of assistive technology, in its order
 
 def note(event):
     try:
-        if event.detail1 and event.source.get_role_name() == "label":
+        if event.detail1 and event.source.get_role_name() == "paragraph":
             said.append(event.source.get_name())
     except GLib.Error:
         pass  # it went meanwhile, with its window
@@ -43,8 +42,8 @@ listener = Atspi.EventListener.new(note)
 listener.register("object:state-changed:focused")
 
 
+# Serves events until `look` finds something, and returns that.
 def await_that(what, look):
-    """Serves events until `look` finds something, and returns that."""
     while True:
         found = look()
         if found:
@@ -54,8 +53,8 @@ def await_that(what, look):
         GLib.MainContext.default().iteration(False) or time.sleep(0.02)
 
 
+# Each thing that can be seen, as (role, name, states, labels, description).
 def walk(accessible):
-    """Each thing that can be seen, as (role, name, states, labels, description)."""
     states = accessible and accessible.get_state_set()
     if not states or not states.contains(Atspi.StateType.SHOWING):
         return
@@ -68,8 +67,8 @@ def walk(accessible):
         yield from walk(accessible.get_child_at_index(i))
 
 
+# The same of all windows of the game that are in front.
 def everything():
-    """The same of all windows of the game that are in front."""
     seen = []
     desktop = Atspi.get_desktop(0)
     for i in range(desktop.get_child_count()):
@@ -85,17 +84,17 @@ def everything():
     return seen
 
 
+# Whether something is told as `role|name|states|label` has it; "-" before a state: not so.
 def holds(seen, line):
-    """Whether something is told as `role|name|states|label` has it; "-" before a state: not so."""
     role, name, states, label = (line + "|||").split("|")[:4]
     return any(told[0] == role and told[1] == name and (not label or label in told[3]) and
                all((state[1:] not in told[2]) if state[0] == "-" else (state in told[2])
                    for state in states.split()) for told in seen)
 
 
+# Waits for a window in front that holds all the lines, and looks at everything on it. `key`
+# opens it; it is pressed again after a while, since a window that comes up can lose it.
 def window(*lines, key=None):
-    """Waits for a window in front that holds all the lines, and looks at everything on it. `key`
-    opens it; it is pressed again after a while, since a window that comes up can lose it."""
     pressed = -math.inf
 
     def look():
@@ -117,8 +116,8 @@ def press(*keys):
     subprocess.run(["xdotool", "key", "--clearmodifiers", *keys], check=True)
 
 
+# What is announced after some keys, as a match; whatever was announced before does not count.
 def announced(pattern, *keys):
-    """What is announced after some keys, as a match; whatever was announced before does not count."""
     before = len(said)
     press(*keys)
     def look():
@@ -127,11 +126,12 @@ def announced(pattern, *keys):
 
 
 KEYS = {"oben": "Up", "rechts": "Right", "unten": "Down", "links": "Left"}
+BACK = {"oben": "Down", "rechts": "Left", "unten": "Up", "links": "Right"}
 PLACE = r"Zeile (\d+), Spalte (\d+)\. Offen: ([^.]*)"
 
 
+# From the start of a maze without inner walls to its finish, blind.
 def play():
-    """From the start of a maze without inner walls to its finish, blind."""
     start = next(told[4] for told in everything() if told[1] == "Labyrinth")
     way, *finish = re.search(r"Vor dem Start\. Offen: (\w+)\. Ziel: Zeile (\d+), Spalte (\d+)$",
                              start).groups()
@@ -151,8 +151,7 @@ def play():
         there = announced(f"{PLACE}|Ziel erreicht. Schritte \\d+, Boing 1. |Toll gemacht!", KEYS[word])
         if not there[0].startswith("Zeile"):
             return
-        announced(PLACE, KEYS[{"oben": "unten", "unten": "oben", "links": "rechts",
-                               "rechts": "links"}[word]])
+        announced(PLACE, BACK[word])
 
 
 MAZE = ("image|Labyrinth", "image|Ziel", "status bar|Statusleiste", "menu item|Trameli")

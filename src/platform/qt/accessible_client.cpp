@@ -6,9 +6,7 @@
 namespace trameli {
 
 QAccessible::State AccessibleMessage::state() const {
-    QAccessible::State state;
-    state.readOnly = true;
-    state.focusable = true;
+    QAccessible::State state;  // not focusable: the keyboard cannot come here
     state.focused = Current;
     state.active = Current;
     state.invisible = !Current;

@@ -9,11 +9,11 @@ namespace trameli {
 
 /// A text that is read out because it gets the focus of assistive technology. The toolkit has no
 /// announcements before 6.8, and what screen readers make of a changed name or description depends
-/// on their version and the toolkit's; all of them read out what gets the focus. The keyboard stays
-/// where it is.
+/// on their version and the toolkit's; all of them read out what gets the focus, and say nothing
+/// more of a paragraph. The keyboard stays where it is.
 class AccessibleMessage final : public AccessiblePart {
 public:
-    explicit AccessibleMessage(QWidget* client) : AccessiblePart(client, QAccessible::StaticText) {}
+    explicit AccessibleMessage(QWidget* client) : AccessiblePart(client, QAccessible::Paragraph) {}
 
     QString Text;
     bool Current = false;
