@@ -179,7 +179,8 @@ try_screens() {
     local modes=(640x480 800x600 1024x768 1280x1024 1366x768 1920x1080) keys=(Right Down ctrl+n ctrl+l ctrl+r) i
     need Xvnc && need xrandr && need openbox
     serve Xvnc -geometry 1366x768 -SecurityTypes None -rfbport "$((40000 + $$ % 20000))" -localhost
-    openbox --config-file "${0%/*}/../../scripts/openbox.xml" &>/dev/null &
+    openbox --config-file "${0%/*}/../../scripts/openbox.xml" --startup "touch $HOME/managed" &>/dev/null &
+    soon test -e "$HOME/managed" || fail "no window manager"
     lay_out_user
     start_maze
     for ((i = 0; i < number; ++i)); do
