@@ -63,8 +63,10 @@ public:
     /// True once the program has ended, by `End` or with its last window.
     bool Ended() const { return ended_; }
 
+    /// Seconds in which nobody reacts to what has just come to be seen.
+    static constexpr double Reaction = 0.5;
     /// Tells how to find out whether the player uses switches. While that is so, a key that went up
-    /// less than 150 ms ago is not pressed, and neither is any key less than 500 ms after the
+    /// less than 150 ms ago is not pressed, and neither is any key less than `Reaction` after the
     /// window or the control with the focus appeared, or could be used again: nobody means that.
     /// Tab and the keys held together with others are let through.
     void SwitchesInUse(std::function<bool()> inUse) { switchesInUse_ = std::move(inUse); }

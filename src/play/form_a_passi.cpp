@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/rounding.h"
+#include "platform/forms.h"
 #include "platform/keys.h"
 #include "play/tasti.h"
 #include "play/voce.h"
@@ -53,15 +54,19 @@ bool FormAPassi::Form_KeyDown(int keyCode, int /*shift*/) {
     if (stato_.ModoInput == Tastiera || (keyCode != KeySpace && keyCode != KeyEnter)) {
         return false;
     }
+    // What is taken is what was on offer when the switch went down.
     if (BottoneAvanti.Visible()) {
         BottoneAvanti.SetFocus();
     } else if (stato_.ModoInput == ScansioneManuale) {
         PictureScansioneManuale.SetFocus();
+        tenuto_ = keyCode == KeyEnter && !UscitaAppenaOfferta();
     } else if (keyCode == KeySpace) {
-        // What is taken is what was on offer when the switch went down, and nothing if nothing was.
+        // Nothing is taken if nothing was on offer.
         tenuto_ = offerto_;
         PictureScansioneAutomatica.SetFocus();
         return !offerto_;
+    } else {
+        return uscitaOfferta_ > 0;  // the button for leaving has the keyboard
     }
     return false;
 }
@@ -101,7 +106,7 @@ void FormAPassi::PictureScansioneManuale_KeyUp(int keyCode) {
         BottoneAvanti_Click();
     } else if (keyCode == KeySpace) {
         OffriProssima();
-    } else if (keyCode == KeyEnter && InGioco()) {
+    } else if (keyCode == KeyEnter && std::exchange(tenuto_, false) && InGioco()) {
         PrendiOfferta();
     }
 }
@@ -172,12 +177,18 @@ void FormAPassi::OffriProssima() {
     } else if (offerte_ >= OfferteFinoAllUscita && InGioco()) {
         TogliLineeRotazione();
         uscitaOfferta_ = stato_.ModoInput == ScansioneAutomatica ? DurataUscita : 1;
+        uscitaDa_ = Forms().Clock().Now();
         MostraBottoneMenu(true);
         offerto_ = true;
         return;
     }
     ++offerte_;
     OffriDirezione();
+}
+
+/// With two switches the keyboard is not on the button, whose newness would be minded there.
+bool FormAPassi::UscitaAppenaOfferta() const {
+    return uscitaOfferta_ > 0 && Forms().Clock().Now() - uscitaDa_ < Forms::Reaction;
 }
 
 void FormAPassi::OffriDirezione() {

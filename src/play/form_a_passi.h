@@ -42,11 +42,14 @@ protected:
 
 private:
     void OffriProssima();
+    bool UscitaAppenaOfferta() const;
     void OffriDirezione();
     void MostraOfferta();
     void PrendiOfferta();
     /// The direction on offer.
     Lato Offerta() const;
+
+    double uscitaDa_ = 0;  ///< since when the way out is on offer, in the clock's seconds
 };
 
 }  // namespace trameli

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <string>
 
 #include "base/griglie.h"
 #include "drawing/geometria.h"
@@ -97,6 +98,8 @@ protected:
     virtual void DisegnaTramelo();
     /// Counts a hit, with its sound.
     virtual void ColpitoMuro();
+    /// What the next hit costs the player, to be said behind what is in the way.
+    virtual std::string CostoDellUrto() const { return {}; }
     /// Puts what is drawn on paper, by the print window. Serves events; false if the form was
     /// unloaded meanwhile.
     virtual bool StampaTramelo();
@@ -203,7 +206,7 @@ protected:
     /// The direction on offer while scanning, a place in DirezioniScansione.
     std::int16_t DirezioneScansione = 0;
     bool offerto_ = false;   ///< something is on offer and to be seen
-    bool tenuto_ = false;    ///< the one switch went down on this offer
+    bool tenuto_ = false;    ///< the switch that takes went down on this offer
     int offerte_ = 0;        ///< directions offered since something was taken, or the way out was
     int uscitaOfferta_ = 0;  ///< offers that the way out, BottoneMenu, still takes the place of
 

@@ -219,6 +219,12 @@ void frmTrm1::ColpitoMuro() {
     }
 }
 
+std::string frmTrm1::CostoDellUrto() const {
+    return SoliRimasti > 0 ? servizi_.Lingue.TestoLingua("0092", ". Soli rimasti: ") +
+                                 std::to_string(SoliRimasti - 1)
+                           : servizi_.Lingue.TestoLingua("0093", ". Si riparte da zero");
+}
+
 bool frmTrm1::StampaTramelo() {
     if (!FormTrm::StampaTramelo()) {
         return false;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 
 #include "platform/frame.h"
 #include "platform/label.h"
@@ -44,6 +45,7 @@ protected:
     Aperture DoveSiApre() const override { return Aperture::SopraESotto; }
     /// A sun less and back to the start.
     void ColpitoMuro() override;
+    std::string CostoDellUrto() const override;
     /// Whoever prints while looking at a new maze looks on when the print window has closed.
     bool StampaTramelo() override;
     /// The suns have run out: the same maze from zero, with all of them.

@@ -11,7 +11,7 @@ void FormTrm::Muovi(Lato lato) {
     const int cella = geometria_.DimensioneCella;
     switch (giocatore_.Muovi(lato, tramelo_)) {
         case Esito::Urto:
-            Announce([&] { return DescriviUrto(lato, servizi_.Lingue); });
+            Announce([&] { return DescriviUrto(lato, servizi_.Lingue) + CostoDellUrto(); });
             ColpitoMuro();
             break;
         case Esito::Entrata:

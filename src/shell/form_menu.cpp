@@ -255,11 +255,8 @@ void FormMenu::Combo1_Click() {
     stato.FileUtente = ModuloPerIni::CartellaUtenti + stato.NomeUtente + ".ini";
     servizi_.ModuloPerIni.LeggiUtente();
     ImpostaUtente();
-    // Each user has a way of playing and a pace of his own.
-    if (stato.ModoInput == Tastiera) {
-        giro_.Ferma();
-    } else if (preparato_ && !giro_.InCorso()) {
-        AvviaScansione();
+    if (!scorre_) {
+        SeguiUtente();
     }
 }
 

@@ -85,12 +85,14 @@ private:
     void AvviaGioco();
     void AvviaScansione();
     void OffriLivelli(std::size_t fascia);
+    void SeguiUtente();
     void ProssimoUtente();
     void ChiediUscita();
     template <typename Controllo>
     GiroOfferte::Offerta OffertaDi(Cornice& cornice, const Controllo& controllo,
                                    std::function<void()> prendi);
-    GiroOfferte::Offerta OffertaDiFascia(std::size_t fascia, std::function<void()> prendi);
+    GiroOfferte::Offerta OffertaDiFascia(std::size_t fascia, std::function<std::string()> nome,
+                                         std::function<void()> prendi);
     void Cedi(const char* form);
 
     // The indices of the two buttons.
@@ -101,6 +103,7 @@ private:
     GiroOfferte giro_;
     int durataGiro_ = 0;      ///< paces that the round of the whole window takes
     bool preparato_ = false;  ///< the timer has run; it does so once per loading
+    bool scorre_ = false;     ///< a switch goes through the users
 };
 
 }  // namespace trameli

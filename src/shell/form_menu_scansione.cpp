@@ -13,6 +13,14 @@ namespace {
 
 constexpr int PrimaDelGiro = 2;  // paces: whoever has just taken something needs a moment to look
 
+/// What an offer is called where it is not seen.
+std::string NomeDi(const InteractiveControl& controllo) {
+    return controllo.AccessibleName();
+}
+std::string NomeDi(const ComboBox& utenti) {
+    return utenti.AccessibleName() + ": " + utenti.Text();
+}
+
 }  // namespace
 
 /// The round of the whole window. It begins with the start, so that going on is one press.
@@ -22,7 +30,13 @@ void FormMenu::AvviaScansione() {
     giro.push_back(OffertaDi(CorniceForm, Command1(Inizio), [this] { Command1_Click(Inizio); }));
     for (std::size_t i = 0; i < Fasce.size(); ++i) {
         if (Option1(Fasce.at(i).Primo).Enabled()) {
-            giro.push_back(OffertaDiFascia(i, [this, i] { OffriLivelli(i); }));
+            giro.push_back(OffertaDiFascia(
+                i,
+                [this, i] {
+                    return Option1(Fasce.at(i).Primo).AccessibleName() + " - " +
+                           Option1(Fasce.at(i).Ultimo).Caption();
+                },
+                [this, i] { OffriLivelli(i); }));
         }
     }
     if (Combo1.Visible()) {
@@ -43,13 +57,37 @@ void FormMenu::OffriLivelli(std::size_t fascia) {
             AvviaScansione();
         }));
     }
-    giro.push_back(OffertaDiFascia(fascia, [this] { AvviaScansione(); }));
+    giro.push_back(OffertaDiFascia(
+        fascia, [this] { return servizi_.Lingue.TestoLingua("0091", "Indietro"); },
+        [this] { AvviaScansione(); }));
     giro.front().Durata = PrimaDelGiro;
     giro_.Avvia(std::move(giro));
 }
 
+/// Each user has a way of playing and a pace of his own.
+void FormMenu::SeguiUtente() {
+    if (servizi_.Stato.ModoInput == Tastiera) {
+        giro_.Ferma();
+    } else if (giro_.InCorso()) {
+        giro_.Aggiorna();
+    } else if (preparato_) {
+        AvviaScansione();
+    }
+}
+
+/// Those who play with the arrow keys are passed over: no switch would lead back from them.
 void FormMenu::ProssimoUtente() {
-    Combo1.ListIndex((Combo1.ListIndex() + 1) % Combo1.ListCount());
+    scorre_ = true;
+    for (int i = 0; i < Combo1.ListCount() && Loaded(); ++i) {
+        Combo1.ListIndex((Combo1.ListIndex() + 1) % Combo1.ListCount());
+        if (servizi_.Stato.ModoInput != Tastiera) {
+            break;
+        }
+    }
+    scorre_ = false;
+    if (Loaded()) {
+        SeguiUtente();
+    }
 }
 
 /// A press that was not meant must not end the program: it takes a second one, for which there is
@@ -74,23 +112,22 @@ GiroOfferte::Offerta FormMenu::OffertaDi(Cornice& cornice, const Controllo& cont
                 }
                 cornice.Mostra(controllo.Place());
                 // The keyboard stays where it is, so that nothing else would be read out.
-                Announce([&controllo] { return controllo.AccessibleName(); });
+                Announce([&controllo] { return NomeDi(controllo); });
             },
             std::move(prendi)};
 }
 
-GiroOfferte::Offerta FormMenu::OffertaDiFascia(std::size_t fascia, std::function<void()> prendi) {
+GiroOfferte::Offerta FormMenu::OffertaDiFascia(std::size_t fascia,
+                                               std::function<std::string()> nome,
+                                               std::function<void()> prendi) {
     const std::array<const Shape*, Fasce.size()> riquadri{&Shape1, &Shape2, &Shape3};
-    return {[this, fascia, riquadro = riquadri.at(fascia)](bool offerta) {
+    return {[this, riquadro = riquadri.at(fascia), nome = std::move(nome)](bool offerta) {
                 if (!offerta) {
                     CorniceFrame.Nascondi();
                     return;
                 }
                 CorniceFrame.Mostra(riquadro->Place());
-                Announce([this, fascia] {
-                    return Option1(Fasce.at(fascia).Primo).AccessibleName() + " - " +
-                           Option1(Fasce.at(fascia).Ultimo).Caption();
-                });
+                Announce(nome);
             },
             std::move(prendi)};
 }

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "platform/form.h"
+#include "platform/forms.h"
 #include "platform/keys.h"
 
 namespace trameli {
@@ -30,6 +30,7 @@ void GiroOfferte::Avvia(std::vector<Offerta> offerte, std::function<void()> fini
     }
     offerte_ = std::move(offerte);
     finito_ = std::move(finito);
+    avviato_ = form_.Forms().Clock().Now();
     Offri(0);
 }
 
@@ -48,6 +49,12 @@ void GiroOfferte::Mostra() {
     }
 }
 
+void GiroOfferte::Aggiorna() {
+    if (InCorso()) {
+        Offri(corrente_);
+    }
+}
+
 void GiroOfferte::Corrente(std::size_t quale) {
     if (quale < offerte_.size() && quale != corrente_) {
         offerte_[corrente_].Mostra(false);
@@ -59,7 +66,7 @@ bool GiroOfferte::KeyDown(int keyCode) {
     const bool interruttore =
         InCorso() &&
         (keyCode == KeySpace || (keyCode == KeyEnter && stato_.ModoInput == ScansioneManuale));
-    if (interruttore) {
+    if (interruttore && form_.Forms().Clock().Now() - avviato_ >= Forms::Reaction) {
         premuto_ = keyCode;
     }
     return interruttore;
@@ -75,7 +82,7 @@ void GiroOfferte::KeyUp(int keyCode) {
         Prossima();
         return;
     }
-    Offri(corrente_);  // whoever takes it again has all the time for that
+    DaCapo();  // whoever takes it again has all the time for that
     const auto prendi = offerte_[corrente_].Prendi;
     prendi();
 }
@@ -102,12 +109,16 @@ void GiroOfferte::Prossima() {
 
 void GiroOfferte::Offri(std::size_t quale) {
     corrente_ = quale;
-    resta_ = offerte_[quale].Durata;
-    // Another user may have come, with another pace.
+    DaCapo();
+    offerte_[quale].Mostra(true);
+}
+
+/// The offer's time begins.
+void GiroOfferte::DaCapo() {
+    resta_ = offerte_[corrente_].Durata;
     timer_.Interval(stato_.VelocitaScansione * QuartoDiSecondo);
     timer_.Enabled(false);
     timer_.Enabled(stato_.ModoInput == ScansioneAutomatica);
-    offerte_[quale].Mostra(true);
 }
 
 }  // namespace trameli

@@ -44,8 +44,11 @@ public:
     void Corrente(std::size_t quale);
     /// Shows the offer again, for a form whose controls have moved.
     void Mostra();
+    /// The same for another player, whose way and pace hold from now on.
+    void Aggiorna();
 
-    /// To be called by the form for each key. True for a key that is a switch of the round.
+    /// To be called by the form for each key. True for a key that is a switch of the round. In the
+    /// first moment of a round it does nothing, since nobody can have seen what is on offer.
     bool KeyDown(int keyCode);
     void KeyUp(int keyCode);
 
@@ -53,6 +56,7 @@ private:
     void Tick();
     void Prossima();
     void Offri(std::size_t quale);
+    void DaCapo();
 
     Form& form_;
     const Stato& stato_;
@@ -61,6 +65,7 @@ private:
     std::function<void()> finito_;
     std::size_t corrente_ = 0;
     int resta_ = 0;               ///< paces that the offer stays
+    double avviato_ = 0;          ///< when the round began
     std::optional<int> premuto_;  ///< the switch that is down
 };
 

@@ -51,6 +51,13 @@ TEST_F(ConInterruttori, WithTwoKeysTheOfferStaysOnAStepAndARestartShowsNone) {
     Partita::Scegli(tavolo.Form_, "mnuNuovo");
     partenza_ = tavolo.Partenza();
     EXPECT_EQ(TrattiAllInizio(tavolo), std::vector{dopo});
+
+    // What comes on offer while Enter is down is not what it was meant for.
+    partita_.Tempo.Advance(DopoUnTasto);
+    Press(tavolo.Form_, Qt::Key_Return);
+    Spazio(tavolo.Form_);
+    Release(tavolo.Form_, Qt::Key_Return);
+    EXPECT_EQ(tavolo.Passi() + tavolo.Urti(), 0);
 }
 
 /// Whether so many pixels within `dove` have changed that no eye overlooks it.

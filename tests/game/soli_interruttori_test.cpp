@@ -13,6 +13,7 @@ protected:
     /// Goes on until the frame of the menu's offers stands round a control, and takes it.
     void Prendi(const PlacedControl& controllo) {
         Form& menu = partita_.Finestra("FormMenu");
+        partita_.Tempo.Advance(DopoUnaNovita);
         for (int i = 0; i < 20 && !Offerto(menu, controllo); ++i) {
             Prossima(menu);
         }
@@ -79,7 +80,10 @@ TEST_P(SoliInterruttori, PlayFromTheSplashThroughTwoLevelsToAnotherOneAndOut) {
     modo_ = GetParam();
     file_ = Utente(modo_).Con(RigaLivello, 0);
     disco_.Scrivi("_predefinito", file_);
-    disco_.Scrivi("Anna", file_);
+    // Between two who play with switches, each in another way, one who does not.
+    const int altroModo = modo_ == Manuale ? Automatica : Manuale;
+    disco_.Scrivi("Anna", Utente(Tastiera));
+    disco_.Scrivi("Bea", Utente(altroModo));
     partita_.Avvia();
     partita_.Tempo.Advance(DopoUnaNovita);
     Spazio(partita_.Finestra("FormAvvio"));
@@ -100,7 +104,8 @@ TEST_P(SoliInterruttori, PlayFromTheSplashThroughTwoLevelsToAnotherOneAndOut) {
 
     Form& menu = Menu();
     Prendi(Trova<ComboBox>(menu, "Combo1"));
-    EXPECT_EQ(partita_.Gioco.Stato().NomeUtente, "Anna");
+    EXPECT_EQ(partita_.Gioco.Stato().NomeUtente, "Bea");
+    modo_ = altroModo;
     Prendi(Trova<Shape>(menu, "Shape3"));
     Prendi(Trova<OptionButton>(menu, "Option1", 9));
     Prendi(Trova<CommandButton>(menu, "Command1", 0));
@@ -111,10 +116,13 @@ TEST_P(SoliInterruttori, PlayFromTheSplashThroughTwoLevelsToAnotherOneAndOut) {
     const auto& uscita = Trova<CommandButton>(Menu(), "Command1", 1);
     Prendi(uscita);
     EXPECT_NE(uscita.Caption(), "");
+    partita_.Tempo.Advance(DopoUnaNovita);
     Prossima(partita_.Finestra("FormMenu"));
     Tic(10);  // thought better of it
     EXPECT_FALSE(partita_.Gioco.Forms().Ended());
     Prendi(uscita);
+    partita_.Tempo.Advance(DopoUnTasto);
+    Conferma(partita_.Finestra("FormMenu"));  // too quick to be meant
     EXPECT_FALSE(partita_.Gioco.Forms().Ended());
     partita_.Tempo.Advance(DopoUnaNovita);
     Conferma(partita_.Finestra("FormMenu"));

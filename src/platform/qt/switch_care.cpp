@@ -8,8 +8,6 @@ namespace {
 
 /// Seconds after a key went up in which it only bounces.
 constexpr double Bounce = 0.15;
-/// Seconds in which nobody reacts to what has just come to be seen.
-constexpr double Reaction = 0.5;
 
 /// Keys that do nothing by themselves but move the keyboard to and fro.
 bool IsHarmless(int key) {
@@ -42,7 +40,7 @@ bool SwitchCare::Refuses(const QKeyEvent& press, const QWidget* window) {
         return refused_.contains(key);
     }
     const double now = forms_.Clock().Now();
-    appeared_.removeIf([now](auto one) { return now - one.value() >= Reaction; });
+    appeared_.removeIf([now](auto one) { return now - one.value() >= Forms::Reaction; });
     const bool refused =
         IsMinded(press, window) && (Bounces(press) || (window && IsTooSoon(press, *window)));
     if (refused) {
