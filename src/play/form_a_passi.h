@@ -29,8 +29,8 @@ protected:
     void PictureScansioneAutomatica_KeyUp(int keyCode);
 
     Bounds PostoBottoneMenu() const override;
-    /// Gives `pictureTramelo` the whole width and `altezza` twips, puts the button under it and
-    /// hides the cups, their tops `scartoCoppe` twips below the button's.
+    /// Gives `pictureTramelo` the whole width and `altezza` twips, and puts the button under it and
+    /// the cups beside that, their tops `scartoCoppe` twips below the button's.
     void DisponiControlli(double altezza, double scartoCoppe);
     /// Readies timer and pictures for the player's way to move.
     void ImpostaModoInput();
