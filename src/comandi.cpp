@@ -4,6 +4,8 @@
 #include <array>
 #include <optional>
 
+#include "base/quoted.h"
+
 namespace trameli {
 
 namespace {
@@ -25,6 +27,7 @@ constexpr std::array Opzioni{
     Opzione{"--numero", "N", "so many mazes, 1 to 1000", Compito::Quaderno},
     Opzione{"--seme", "N", "the same number gives the same mazes", Compito::Quaderno},
     Opzione{"--soluzioni", "", "with all solutions at the end", Compito::Quaderno},
+    Opzione{"--utente", "NAME", "with the thickness and colours of that player", Compito::Quaderno},
     Opzione{"-display", "NAME", "the X server to play on, instead of $DISPLAY", {}},
     Opzione{"-platform", "NAME", "another kind of display: xcb, wayland, offscreen", {}},
     Opzione{"-session", "ID", "set by the desktop that brings back its last session", {}},
@@ -32,16 +35,6 @@ constexpr std::array Opzioni{
 
 constexpr bool BastaCosi(Compito compito) {
     return compito == Compito::Aiuto || compito == Compito::Versione;
-}
-
-/// A word of the command line between quotes, fit for one line whatever is in it.
-std::string Citata(std::string_view parola) {
-    std::string testo = "'" + std::string(parola) + "'";
-    constexpr char cancella = 127;
-    std::replace_if(
-        testo.begin(), testo.end(), [](char c) { return (c >= 0 && c < ' ') || c == cancella; },
-        '?');
-    return testo;
 }
 
 Comandi Sbagliati(const std::string& perche) {
@@ -60,17 +53,17 @@ Comandi LeggiComandi(const std::vector<std::string_view>& parole) {
             Opzioni.begin(), Opzioni.end(), [&](const Opzione& una) { return una.Nome == nome; });
         if (opzione == Opzioni.end()) {
             return Sbagliati((nome.starts_with('-') ? "unknown option " : "unexpected word ") +
-                             Citata(nome));
+                             Quoted(nome));
         }
         if (opzione->Valore.empty() && fine != parola->npos) {
-            return Sbagliati("option " + Citata(nome) + " takes no value");
+            return Sbagliati("option " + Quoted(nome) + " takes no value");
         }
         std::string& valore = comandi.Opzioni[std::string(nome)];
         if (fine != parola->npos) {
             valore = parola->substr(fine + 1);
         } else if (!opzione->Valore.empty()) {
             if (++parola == parole.end()) {
-                return Sbagliati("option " + Citata(nome) + " needs a value");
+                return Sbagliati("option " + Quoted(nome) + " needs a value");
             }
             valore = *parola;
         }
@@ -83,7 +76,7 @@ Comandi LeggiComandi(const std::vector<std::string_view>& parole) {
 }
 
 std::string TestoAiuto() {
-    constexpr std::size_t colonna = 20;
+    constexpr std::size_t colonna = 24;
     std::string testo =
         "Usage: trameli [OPTION]...\n"
         "Trameli is a maze game for one or two keys. Without an option it is played.\n\n";

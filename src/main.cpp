@@ -43,8 +43,7 @@ int main(int argc, char** argv) {
         case trameli::Compito::Versione:
             return Tell(stdout, trameli::TestoVersione(), 0);
         case trameli::Compito::Quaderno: {
-            const trameli::EsitoQuaderno esito =
-                trameli::StampaQuaderno(argc, argv, comandi.Opzioni);
+            const trameli::EsitoQuaderno esito = trameli::StampaQuaderno(comandi.Opzioni);
             return esito.Errore.empty() ? 0 : Tell(stderr, esito.Errore + "\n", esito.Codice);
         }
         case trameli::Compito::Gioco:

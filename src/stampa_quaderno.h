@@ -12,9 +12,8 @@ struct EsitoQuaderno {
     std::string Errore;  ///< one line for the terminal; empty if the book was written
 };
 
-/// Writes the book that the options ask for, with the thickness and the colours of the first user,
-/// without a display.
-EsitoQuaderno StampaQuaderno(int& argc, char** argv,
-                             const std::map<std::string, std::string, std::less<>>& opzioni);
+/// Writes the book that the options ask for, with the thickness and the colours of a user, without
+/// a display.
+EsitoQuaderno StampaQuaderno(const std::map<std::string, std::string, std::less<>>& opzioni);
 
 }  // namespace trameli

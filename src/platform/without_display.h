@@ -12,7 +12,7 @@ namespace trameli {
 /// needs. Made in place of a `Desktop`.
 class WithoutDisplay {
 public:
-    WithoutDisplay(int& argc, char** argv);
+    WithoutDisplay();
     ~WithoutDisplay();
     WithoutDisplay(const WithoutDisplay&) = delete;
     WithoutDisplay& operator=(const WithoutDisplay&) = delete;
@@ -20,7 +20,9 @@ public:
     FileSystem& Files() const;
     /// What the desktop says of its language.
     std::string Locale() const;
-    /// Makes `bytes` the content of a file anywhere on this machine, whole or not at all.
+    /// Makes `bytes` the content of a file anywhere on this machine, whole or not at all. Of a link
+    /// the file that it leads to is made or replaced; what is there and no ordinary file that may
+    /// be written stays as it is.
     bool Write(const std::string& path, const std::string& bytes) const;
 
 private:

@@ -11,6 +11,7 @@
 #include "drawing/spessori.h"
 #include "engine/casuale.h"
 #include "engine/ricette.h"
+#include "platform/contrast.h"
 #include "quaderno/soluzione.h"
 
 namespace trameli {
@@ -24,6 +25,28 @@ constexpr double Pixel = 15;  // twips; thicknesses are worked out in pixels
 constexpr int SoluzioniPerRiga = 4;
 constexpr int SoluzioniPerColonna = 3;
 constexpr int SoluzioniPerPagina = SoluzioniPerRiga * SoluzioniPerColonna;
+
+/// The least contrast to the paper. That of the trace is a little larger at first, while yellow,
+/// say, has hardly any: good on a dark window and nothing on a sheet.
+constexpr double MinimoContrasto = 2;
+
+bool SiVede(Colour colore) {
+    return Contrast(colore, White) >= MinimoContrasto;
+}
+
+/// A player's colour, or a darker one like it that can be seen on the paper.
+Colour SullaCarta(Colour colore) {
+    const auto scuro = [](int parte) { return Quotient(parte * 3, 4); };
+    while (!SiVede(colore)) {
+        colore = Rgb(scuro(RedOf(colore)), scuro(GreenOf(colore)), scuro(BlueOf(colore)));
+    }
+    return colore;
+}
+
+/// Walls that cannot be seen become black, so that they differ from a trace that could not either.
+Colour MuriSullaCarta(Colour colore) {
+    return SiVede(colore) ? colore : Black;
+}
 
 /// A maze, wherever it is going to be drawn.
 struct TrameloPronto {
@@ -69,12 +92,12 @@ public:
     void Muri() const {
         PerOgniMuro(tramelo_, geometria_, [this](const Segmento& muro) {
             Linea(muro.Da, muro.A, std::max(1.0, spessori_.SpessoreMuri),
-                  impostazioni_.ColorePareti);
+                  MuriSullaCarta(Nearest(impostazioni_.ColorePareti)));
         });
     }
     void Partenza() const {
         Linea(percorso_.PuntoIniziale, percorso_.PuntoIniziale, PennaTraccia(),
-              impostazioni_.ColoreSimbolo);
+              SullaCarta(Nearest(impostazioni_.ColoreSimbolo)));
     }
     void Arrivo(int immagine) const {
         const double lato = LatoArrivoImmagine(geometria_.DimensioneCella, spessori_.SpessoreMuri);
@@ -83,15 +106,16 @@ public:
                             dove_.Top + percorso_.PosizioneArrivo.Alto, lato, lato});
     }
     void Via() const {
+        const Colour colore = SullaCarta(Nearest(impostazioni_.ColoreAvanti));
         Punto qui = percorso_.PuntoIniziale;
         for (const Cella cella : Soluzione(tramelo_, percorso_)) {
             const Punto poi = Mezzo(cella);
-            Linea(qui, poi, PennaTraccia(), impostazioni_.ColoreAvanti);
+            Linea(qui, poi, PennaTraccia(), colore);
             qui = poi;
         }
         const Punto fuori =
             Sposta(qui, percorso_.LatoArrivo, Quotient(geometria_.DimensioneCella, 2));
-        Linea(qui, fuori, PennaTraccia(), impostazioni_.ColoreAvanti);
+        Linea(qui, fuori, PennaTraccia(), colore);
     }
 
 private:
@@ -103,9 +127,9 @@ private:
         return {Saturated(geometria_.MargineSinistro + (cella.Colonna - 1) * lato + mezzo),
                 Saturated(geometria_.MargineSuperiore + (cella.Riga - 1) * lato + mezzo)};
     }
-    void Linea(Punto da, Punto a, double pixel, double colore) const {
+    void Linea(Punto da, Punto a, double pixel, Colour colore) const {
         libro_.DrawLine(dove_.Left + da.X, dove_.Top + da.Y, dove_.Left + a.X, dove_.Top + a.Y,
-                        pixel * Pixel, Nearest(colore));
+                        pixel * Pixel, colore);
     }
 
     PageBook& libro_;

@@ -22,7 +22,8 @@ inline constexpr double LarghezzaPagina = 16838;
 inline constexpr double AltezzaPagina = 11906;
 
 /// Draws the mazes into a book of pages of that size that has only its first page yet. Thickness
-/// and colours are the player's, on white. `parolaLivello` stands before the level's number.
+/// and colours are the player's, on white, though darker where white would swallow them.
+/// `parolaLivello` stands before the level's number.
 void Scrivi(const Quaderno& quaderno, const Impostazioni& impostazioni,
             const std::string& parolaLivello, PageBook& libro);
 

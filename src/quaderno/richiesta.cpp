@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "base/griglie.h"
+#include "shell/nome_utente.h"
 
 namespace trameli {
 
@@ -51,7 +52,11 @@ std::variant<Richiesta, std::string> LeggiRichiesta(
     const auto seme = NumeroFra<std::uint64_t>(
         valore("--seme").value_or(std::to_string(semeDelMomento)), 0, UINT64_MAX);
     if (!seme) {
-        return Attesi("--seme", "a whole number");
+        return Attesi("--seme", "a whole number from 0 to " + std::to_string(UINT64_MAX));
+    }
+    richiesta.Utente = valore("--utente");
+    if (richiesta.Utente && !NomeUtenteAmmesso(*richiesta.Utente)) {
+        return Attesi("--utente", "a player's name");
     }
     richiesta.Quaderno = {*livello - 1, *numero, *seme, valore("--soluzioni").has_value()};
     return richiesta;

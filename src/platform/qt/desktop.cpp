@@ -28,6 +28,17 @@ namespace {
 /// By then the first window is on the screen of most machines.
 constexpr std::chrono::milliseconds FirstPicture{100};
 
+/// The value of the toolkit's option for a kind of display. The last one counts.
+const char* AskedPlatform(const std::vector<const char*>& words) {
+    const char* platform = nullptr;
+    for (std::size_t i = 1; i + 1 < words.size(); ++i) {
+        if (words[i] == std::string_view("-platform")) {
+            platform = words[i + 1];
+        }
+    }
+    return platform;
+}
+
 }  // namespace
 
 struct Desktop::Native {
@@ -72,7 +83,7 @@ Desktop::Desktop(int& argc, char** argv, const FirstSight& firstSight) {
     QApplication::setApplicationName(QStringLiteral("trameli"));
     QApplication::setDesktopFileName(QStringLiteral("trameli"));
     {
-        const QuietStart quiet;
+        const QuietStart quiet(AskedPlatform({argv, argv + argc}));
         native_ = std::make_shared<Native>(argc, argv, std::move(paint));
     }
     PrepareToolkit();

@@ -1,9 +1,7 @@
 #include "platform/qt/drawing.h"
 
-#include <algorithm>
-#include <cmath>
-
 #include "base/rounding.h"
+#include "platform/contrast.h"
 
 namespace trameli {
 
@@ -13,18 +11,11 @@ namespace {
 /// for large letters. Asking for more would take a form's own colours away.
 constexpr double LeastContrast = 3;
 
-/// How bright a colour seems, from 0 to 1.
-double Luminance(const QColor& colour) {
-    const auto linear = [](double part) {
-        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-           0.0722 * linear(colour.blueF());
-}
-
 double Contrast(const QColor& a, const QColor& b) {
-    const auto [dark, bright] = std::minmax({Luminance(a), Luminance(b)});
-    return (bright + 0.05) / (dark + 0.05);
+    const auto plain = [](const QColor& colour) {
+        return Rgb(colour.red(), colour.green(), colour.blue());
+    };
+    return trameli::Contrast(plain(a), plain(b));
 }
 
 }  // namespace

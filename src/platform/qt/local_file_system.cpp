@@ -145,19 +145,6 @@ std::optional<fs::path> Below(const fs::path& folder, std::string_view path) {
     return parts ? place : std::nullopt;
 }
 
-/// Where a chain of links ends, be there a file or not; nothing if it never does.
-std::optional<fs::path> EndOfLinks(fs::path place) {
-    constexpr int longestChain = 40;  // as long as the system itself goes along
-    std::error_code error;
-    for (int i = 0; i < longestChain; ++i) {
-        if (!fs::is_symlink(place, error)) {
-            return place;
-        }
-        place = place.parent_path() / fs::read_symlink(place, error);
-    }
-    return std::nullopt;
-}
-
 /// True if a file would lie in that folder or below, whichever way its path goes.
 bool IsBelow(const fs::path& place, const fs::path& folder) {
     std::error_code error;
@@ -287,12 +274,7 @@ bool LocalFileSystem::Replace(const std::string& path, const std::string& bytes)
         (*place != named && !fs::exists(*place, error) && !IsBelow(*place, named.parent_path()))) {
         return false;
     }
-    // A file that somebody made read-only stays as it is.
-    if (fs::exists(*place, error) &&
-        (!fs::is_regular_file(*place, error) || access(place->c_str(), W_OK) != 0)) {
-        return false;
-    }
-    return ReplaceWhole(*place, bytes);
+    return MayBeReplaced(*place) && ReplaceWhole(*place, bytes);
 }
 
 void LocalFileSystem::Tidy(const std::string& folder) {

@@ -10,6 +10,8 @@
 #include <cstdlib>
 #include <string>
 
+#include "base/quoted.h"
+
 namespace trameli {
 
 namespace {
@@ -19,16 +21,27 @@ constexpr int NoDisplay = 2;
 /// Where standard error leads while it is held. Shared by all, as standard error is, because the
 /// toolkit calls its handler without anything to know it by.
 int terminal = STDERR_FILENO;
+/// The kind of display that the command line asks for; shared for the same reason.
+const char* asked = nullptr;
 
 /// What the display was looked for by.
 std::string Surroundings() {
     std::string text;
-    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
-        if (const char* const value = std::getenv(name)) {
-            text += (text.empty() ? "" : ", ") + std::string(name) + " is '" + value + "'";
+    const auto tell = [&text](const char* name, const char* value) {
+        if (value) {
+            text += (text.empty() ? "" : ", ") + std::string(name) + " is " + Quoted(value);
         }
+    };
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY"}) {
+        tell(name, std::getenv(name));
     }
-    return text.empty() ? "neither DISPLAY nor WAYLAND_DISPLAY is set" : text;
+    if (text.empty()) {
+        text = "neither DISPLAY nor WAYLAND_DISPLAY is set";
+    }
+    // The option counts, where both are there.
+    constexpr const char* variable = "QT_QPA_PLATFORM";
+    tell(asked ? "-platform" : variable, asked ? asked : std::getenv(variable));
+    return text;
 }
 
 void Hear(QtMsgType type, const QMessageLogContext& context, const QString& text) {
@@ -42,8 +55,9 @@ void Hear(QtMsgType type, const QMessageLogContext& context, const QString& text
 
 }  // namespace
 
-QuietStart::QuietStart()
+QuietStart::QuietStart(const char* platform)
     : held_(memfd_create("trameli", MFD_CLOEXEC)), before_(qInstallMessageHandler(Hear)) {
+    asked = platform;
     constexpr int behindStandard = 3;
     const int kept = fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, behindStandard);
     if (kept >= 0 && held_ >= 0) {

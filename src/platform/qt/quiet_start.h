@@ -11,7 +11,8 @@ namespace trameli {
 /// core dump.
 class QuietStart {
 public:
-    QuietStart();
+    /// `platform` is the kind of display that the command line asks for, or nothing.
+    explicit QuietStart(const char* platform);
     ~QuietStart();
     QuietStart(const QuietStart&) = delete;
     QuietStart& operator=(const QuietStart&) = delete;

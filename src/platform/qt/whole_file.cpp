@@ -24,10 +24,15 @@ constexpr mode_t OfEverybody = 0666;  // what the process does not mask
 /// What the name of an unfinished file ends in; it begins with a dot.
 constexpr std::string_view Unfinished = ".new";
 
+/// The folder of a file whose path can be a bare name.
+fs::path FolderOf(const fs::path& path) {
+    return path.has_parent_path() ? path.parent_path() : ".";
+}
+
 /// The name that a file has before it takes its place.
 fs::path Beside(const fs::path& place) {
     const std::string name = "." + place.filename().string();
-    return place.parent_path() /
+    return FolderOf(place) /
            (name.substr(0, LongestName - Unfinished.size()) + std::string(Unfinished));
 }
 
@@ -88,7 +93,7 @@ template <typename Prepare>
 bool Make(const fs::path& path, std::string_view bytes, mode_t mode, Prepare prepare) {
     // Always the same name, so that what a crash left there goes, whatever it is.
     unlink(path.c_str());
-    if (NamelessFile file(path.parent_path(), mode); file.IsOpen()) {
+    if (NamelessFile file(FolderOf(path), mode); file.IsOpen()) {
         if (!Fill(file, bytes, prepare)) {
             return false;
         }
@@ -112,7 +117,7 @@ bool WriteBeside(const fs::path& place, std::string_view bytes, mode_t mode, Pre
         return false;
     }
     // The new name itself has to reach the disk too; not every file system can be asked for that.
-    const OpenFile folder(place.parent_path(), O_RDONLY | O_DIRECTORY);
+    const OpenFile folder(FolderOf(place), O_RDONLY | O_DIRECTORY);
     if (folder.IsOpen()) {
         fsync(folder.Handle());
     }
@@ -133,6 +138,24 @@ bool RenameToNew(const fs::path& from, const fs::path& to) {
 }
 
 }  // namespace
+
+std::optional<fs::path> EndOfLinks(fs::path place) {
+    constexpr int longestChain = 40;  // as long as the system itself goes along
+    std::error_code error;
+    for (int i = 0; i < longestChain; ++i) {
+        if (!fs::is_symlink(place, error)) {
+            return place;
+        }
+        place = place.parent_path() / fs::read_symlink(place, error);
+    }
+    return std::nullopt;
+}
+
+bool MayBeReplaced(const fs::path& place) {
+    std::error_code error;
+    return !fs::exists(place, error) ||
+           (fs::is_regular_file(place, error) && access(place.c_str(), W_OK) == 0);
+}
 
 bool ReplaceWhole(const fs::path& place, std::string_view bytes) {
     const auto old = StateOf(place);

@@ -2,9 +2,15 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string_view>
 
 namespace trameli {
+
+/// Where a chain of links ends, be there a file or not; nothing if it never does.
+std::optional<std::filesystem::path> EndOfLinks(std::filesystem::path place);
+/// True if nothing is there, or an ordinary file that nobody made read-only.
+bool MayBeReplaced(const std::filesystem::path& place);
 
 /// Makes `bytes` the content of a file, whole or not at all, whatever happens in between. A file
 /// that is there already keeps its mode, owner and group as far as the system allows it. False if

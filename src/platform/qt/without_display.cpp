@@ -1,6 +1,7 @@
 #include "platform/without_display.h"
 
 #include <QGuiApplication>
+#include <array>
 
 #include "platform/qt/environment.h"
 #include "platform/qt/local_file_system.h"
@@ -10,19 +11,23 @@
 namespace trameli {
 
 struct WithoutDisplay::Native {
-    Native(int& argc, char** argv)
-        : Application(argc, argv), Files(UserDataFolder(), FindProgramFolder(ThisExecutable())) {}
+    Native() : Files(UserDataFolder(), FindProgramFolder(ThisExecutable())) {}
 
-    QGuiApplication Application;
+    // The toolkit gets no word of the command line: one of them could ask for a display.
+    std::string Name = "trameli";
+    std::array<char*, 2> Words{Name.data(), nullptr};
+    int Count = 1;
+    QGuiApplication Application{Count, Words.data()};
     LocalFileSystem Files;
 };
 
-WithoutDisplay::WithoutDisplay(int& argc, char** argv) {
+WithoutDisplay::WithoutDisplay() {
+    OutliveFileSizeLimit();
     qputenv("QT_QPA_PLATFORM", "offscreen");
     // It is about desktops, which nobody at this terminal has to have.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     QGuiApplication::setApplicationName(QStringLiteral("trameli"));
-    native_ = std::make_unique<Native>(argc, argv);
+    native_ = std::make_unique<Native>();
     LoadPictures();
 }
 
@@ -37,7 +42,8 @@ std::string WithoutDisplay::Locale() const {
 }
 
 bool WithoutDisplay::Write(const std::string& path, const std::string& bytes) const {
-    return ReplaceWhole(path, bytes);
+    const auto place = EndOfLinks(path);
+    return place && MayBeReplaced(*place) && ReplaceWhole(*place, bytes);
 }
 
 }  // namespace trameli
