@@ -130,7 +130,9 @@ private:
     }
     void Ricomincia() {
         Smetti();
-        partita_ = std::make_unique<Partita>(disco_, PixelSize{800, 600},
+        constexpr PixelSize misura{800, 600};
+        Collega({Schermo(0, 0, misura, 96)});
+        partita_ = std::make_unique<Partita>(disco_, misura,
                                              std::make_unique<CasualeSpiato>(caso_(), chiesto_));
         partita_->ApriMenu(Fino(2) == 0);
     }
@@ -171,7 +173,18 @@ private:
         }
     }
 
-    /// One to three screens side by side, each with a size and a scale of its own.
+    static QJsonObject Schermo(int quale, int sinistra, PixelSize misura, int punti) {
+        return {{"name", QString::number(quale)},
+                {"x", sinistra},
+                {"y", 0},
+                {"width", misura.Width},
+                {"height", misura.Height},
+                {"logicalBaseDpi", 96},
+                {"logicalDpi", punti}};
+    }
+
+    /// One to three screens side by side, each with a size and a scale of its own. The first one
+    /// only changes: real desktops never are without any.
     void CambiaSchermi() {
         constexpr std::array<PixelSize, 5> misure{
             {{100, 100}, {800, 600}, {1366, 768}, {600, 1024}, {1920, 1080}}};
@@ -179,13 +192,8 @@ private:
         int sinistra = 0;
         for (int quanti = 1 + Fino(3); quanti > 0; --quanti) {
             const PixelSize misura = Uno(misure);
-            schermi.append(QJsonObject{{"name", QString::number(++schermiVisti_)},
-                                       {"x", sinistra},
-                                       {"y", 0},
-                                       {"width", misura.Width},
-                                       {"height", misura.Height},
-                                       {"logicalBaseDpi", 96},
-                                       {"logicalDpi", 96 + 48 * Fino(3)}});
+            schermi.append(
+                Schermo(static_cast<int>(schermi.size()), sinistra, misura, 96 + 48 * Fino(3)));
             sinistra += misura.Width;
             partita_->Schermo.Size(misura);
         }
@@ -283,7 +291,6 @@ private:
     std::unique_ptr<Partita> partita_;
     bool chiesto_ = false;
     double prima_ = 0;  ///< seconds played in games that are over
-    int schermiVisti_ = 0;
     QTimer stampa_;
 };
 

@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QScreen>
+#include <QTimer>
 #include <QWindow>
 #include <algorithm>
 #include <utility>
@@ -12,6 +13,7 @@
 #include "platform/label.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/native.h"
+#include "platform/qt/x11_server.h"
 
 namespace trameli {
 
@@ -20,6 +22,8 @@ namespace {
 /// How long a window's size must stay the same to count as final where nothing else tells, in
 /// milliseconds. Only a desktop without window frames needs it.
 constexpr int SettlingTime = 100;
+/// After how many milliseconds without a trace of it a window is asked for once more.
+constexpr int Overlooked = 500;
 
 constexpr Qt::WindowFlags FrameWithoutSizeButtons = Qt::Window | Qt::CustomizeWindowHint |
                                                     Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
@@ -102,12 +106,21 @@ void FormWindow::ComeUp() {
         HoldPainting();
     }
     show();
+    QTimer::singleShot(Overlooked, this, [this] { AskAgain(); });
     LookUpFonts();
     if (settled_) {
         keys_.Appeared(*this);
         activateWindow();
     } else {
         Settle();
+    }
+}
+
+/// A window manager that starts in the same moment can miss that a window wants to be shown. It
+/// would stay unseen, and keep every other copy of the program from starting.
+void FormWindow::AskAgain() {
+    if (presented_ && isVisible() && !isMinimized() && !windowHandle()->isExposed()) {
+        MapAgain(*windowHandle());
     }
 }
 

@@ -61,6 +61,7 @@ protected:
 
 private:
     bool CoversScreen() const;
+    void AskAgain();
     void Arrange();
     void ReleaseFirstPicture();
     void Settle();

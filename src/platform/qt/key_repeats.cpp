@@ -3,21 +3,16 @@
 #include <xcb/xcb.h>
 
 #include <QCoreApplication>
-#include <QGuiApplication>
 #include <QMetaObject>
 #include <cstdlib>
 #include <string_view>
 #include <utility>
 
+#include "platform/qt/x11_server.h"
+
 namespace trameli {
 
 namespace {
-
-/// Nothing where the desktop is not an X server.
-xcb_connection_t* Server() {
-    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    return x11 ? x11->connection() : nullptr;
-}
 
 std::unique_ptr<QKeyEvent> Copy(const QKeyEvent& event, bool autoRepeat) {
     auto copy = std::make_unique<QKeyEvent>(event.type(), event.key(), event.modifiers(),
@@ -38,7 +33,7 @@ bool ArePair(const QKeyEvent& release, const QKeyEvent& press) {
 }  // namespace
 
 KeyRepeats::KeyRepeats() {
-    if (Server()) {
+    if (X11Server()) {
         qApp->installNativeEventFilter(this);
     }
 }
@@ -46,7 +41,7 @@ KeyRepeats::KeyRepeats() {
 KeyRepeats::~KeyRepeats() = default;
 
 bool KeyRepeats::Withholds(QWindow& window, const QKeyEvent& event) {
-    if (&event == passing_ || !Server()) {
+    if (&event == passing_ || !X11Server()) {
         return false;
     }
     window_ = &window;
@@ -68,7 +63,7 @@ bool KeyRepeats::Withholds(QWindow& window, const QKeyEvent& event) {
 /// Sends a message to our own window, which comes back behind everything that the server has sent
 /// up to then.
 void KeyRepeats::AskServer(const QWindow& window) {
-    xcb_connection_t* const server = Server();
+    xcb_connection_t* const server = X11Server();
     if (question_ == XCB_ATOM_NONE) {
         constexpr std::string_view name = "_TRAMELI_KEYS";
         xcb_intern_atom_reply_t* const reply = xcb_intern_atom_reply(
