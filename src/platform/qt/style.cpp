@@ -1,6 +1,7 @@
 #include "platform/qt/style.h"
 
 #include <QStyleOption>
+#include <QWidget>
 #include <algorithm>
 
 namespace trameli {
@@ -26,6 +27,14 @@ void SharedPicturesStyle::drawComplexControl(ComplexControl control,
     } else {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
     }
+}
+
+int SharedPicturesStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                                     const QWidget* widget) const {
+    const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+    return metric == PM_MenuBarItemSpacing && widget
+               ? std::max(usual, 2 * widget->fontMetrics().height() / 5)
+               : usual;
 }
 
 QPalette SharedPicturesStyle::Shared(const QPalette& palette) const {

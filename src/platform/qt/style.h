@@ -18,6 +18,9 @@ public:
 
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                             QPainter* painter, const QWidget* widget) const override;
+    /// Keeps the entries of a menu bar apart by more than their words are, however large its font.
+    int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                    const QWidget* widget) const override;
 
 private:
     /// The first palette of these colours that was drawn with, for the same group of them.
