@@ -120,6 +120,7 @@ void FormWindow::ComeUp() {
 /// would stay unseen, and keep every other copy of the program from starting.
 void FormWindow::AskAgain() {
     if (presented_ && isVisible() && !isMinimized() && !windowHandle()->isExposed()) {
+        askedAgain_ = true;
         MapAgain(*windowHandle());
     }
 }
@@ -348,6 +349,9 @@ void FormWindow::Settled() {
     settled_ = true;
     settling_.stop();
     ReleaseFirstPicture();
+    if (askedAgain_) {
+        activateWindow();  // it no longer counts as one that has just been opened
+    }
     keys_.Appeared(*this);
     Activate();
 }

@@ -88,6 +88,7 @@ private:
     bool hourglassShown_ = false;
     QTimer settling_;
     bool settled_ = false;         // the desktop has given the window its size
+    bool askedAgain_ = false;      // for the window to be shown at all
     bool activated_ = false;       // Form_Activate has come once
     bool frontAnnounced_ = false;  // the desktop has said once that the window is in front
 };
