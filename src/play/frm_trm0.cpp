@@ -72,29 +72,34 @@ void frmTrm0::DisegnaTramelo() {
 }
 
 void frmTrm0::DisegnaConLinee() {
-    TogliMuri();
+    TogliMuri(0);
     FormAPassi::DisegnaTramelo();
 }
 
 void frmTrm0::SistemaMuri() {
-    TogliMuri();
+    const Picture& disegno = Archivio().PictureMuro(IndiceMuro).Picture();
     PictureMuri(0).Width(geometria_.DimensioneCella);
     PictureMuri(0).Height(geometria_.DimensioneCella);
-    PictureMuri(0).Picture(Archivio().PictureMuro(IndiceMuro).Picture());
+    PictureMuri(0).Picture(disegno);
+    // The bars of the last maze are taken again where they are needed: to destroy seventy controls
+    // and make them anew takes longer than drawing them.
+    std::int16_t pezzi = 0;
     for (const Bounds& posto : PostiBarre(tramelo_, geometria_)) {
-        PictureBox& muro = PictureMuri.Load(++ContaPezziMuro);
+        PictureBox& muro = PictureMuri.Load(++pezzi);
         muro.Enabled(false);  // a click on a wall takes the keyboard from nobody
+        muro.Picture(disegno);
         muro.Place(posto);
         muro.Visible(true);
     }
+    TogliMuri(pezzi);
     stato_.TrameloDisegnato = true;
 }
 
-/// The bars of an earlier drawing go, whatever the next one is made of.
-void frmTrm0::TogliMuri() {
-    for (; ContaPezziMuro > 0; --ContaPezziMuro) {
+void frmTrm0::TogliMuri(std::int16_t restano) {
+    for (; ContaPezziMuro > restano; --ContaPezziMuro) {
         PictureMuri.Unload(ContaPezziMuro);
     }
+    ContaPezziMuro = restano;
 }
 
 bool frmTrm0::StampaTramelo() {

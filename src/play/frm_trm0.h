@@ -32,7 +32,8 @@ private:
     void ScriviLineeMuri();
     void DisegnaConLinee();
     void SistemaMuri();
-    void TogliMuri();
+    /// Unloads the bars of an earlier drawing but for the first ones, which the new one has taken.
+    void TogliMuri(std::int16_t restano);
 
     bool LineeMuri = false;           ///< walls are lines; the form's own copy of the setting
     std::int16_t IndiceMuro = 0;      ///< which picture of the archive the bars show

@@ -74,6 +74,7 @@ TEST_F(Barre, MazesComeWithOneOfFourPictures) {
         visti.insert(nome);
         Partita::Scegli(tavolo.Form_, "mnuRicomincia");
         EXPECT_EQ(Barra(tavolo, 1).Picture().Name, nome);
+        Posti(tavolo);  // none of an earlier picture is left
         Partita::Scegli(tavolo.Form_, "mnuNuovo");
     }
     EXPECT_EQ(visti,
