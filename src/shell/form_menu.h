@@ -88,11 +88,10 @@ private:
     void SeguiUtente();
     void ProssimoUtente();
     void ChiediUscita();
-    template <typename Controllo>
-    GiroOfferte::Offerta OffertaDi(Cornice& cornice, const Controllo& controllo,
-                                   std::function<void()> prendi);
-    GiroOfferte::Offerta OffertaDiFascia(std::size_t fascia, std::function<std::string()> nome,
-                                         std::function<void()> prendi);
+    /// The offer of what lies under `dove`, framed by `cornice` and announced as `nome`.
+    GiroOfferte::Offerta OffertaDi(Cornice& cornice, const PlacedControl& dove,
+                                   std::function<std::string()> nome, std::function<void()> prendi);
+    const Shape& Riquadro(std::size_t fascia) const;
     void Cedi(const char* form);
 
     // The indices of the two buttons.

@@ -13,12 +13,9 @@ namespace {
 
 constexpr int PrimaDelGiro = 2;  // paces: whoever has just taken something needs a moment to look
 
-/// What an offer is called where it is not seen.
-std::string NomeDi(const InteractiveControl& controllo) {
-    return controllo.AccessibleName();
-}
-std::string NomeDi(const ComboBox& utenti) {
-    return utenti.AccessibleName() + ": " + utenti.Text();
+/// What an offer is called where it is not seen; asked for when it comes.
+std::function<std::string()> NomeDi(const InteractiveControl& controllo) {
+    return [&controllo] { return controllo.AccessibleName(); };
 }
 
 }  // namespace
@@ -27,11 +24,12 @@ std::string NomeDi(const ComboBox& utenti) {
 void FormMenu::AvviaScansione() {
     Command1(Uscita).Caption("");
     std::vector<GiroOfferte::Offerta> giro;
-    giro.push_back(OffertaDi(CorniceForm, Command1(Inizio), [this] { Command1_Click(Inizio); }));
+    giro.push_back(OffertaDi(CorniceForm, Command1(Inizio), NomeDi(Command1(Inizio)),
+                             [this] { Command1_Click(Inizio); }));
     for (std::size_t i = 0; i < Fasce.size(); ++i) {
         if (Option1(Fasce.at(i).Primo).Enabled()) {
-            giro.push_back(OffertaDiFascia(
-                i,
+            giro.push_back(OffertaDi(
+                CorniceFrame, Riquadro(i),
                 [this, i] {
                     return Option1(Fasce.at(i).Primo).AccessibleName() + " - " +
                            Option1(Fasce.at(i).Ultimo).Caption();
@@ -40,9 +38,12 @@ void FormMenu::AvviaScansione() {
         }
     }
     if (Combo1.Visible()) {
-        giro.push_back(OffertaDi(CorniceForm, Combo1, [this] { ProssimoUtente(); }));
+        giro.push_back(OffertaDi(
+            CorniceForm, Combo1, [this] { return Combo1.AccessibleName() + ": " + Combo1.Text(); },
+            [this] { ProssimoUtente(); }));
     }
-    giro.push_back(OffertaDi(CorniceForm, Command1(Uscita), [this] { ChiediUscita(); }));
+    giro.push_back(OffertaDi(CorniceForm, Command1(Uscita), NomeDi(Command1(Uscita)),
+                             [this] { ChiediUscita(); }));
     giro.front().Durata = PrimaDelGiro;
     durataGiro_ = static_cast<int>(giro.size()) + 1;
     giro_.Avvia(std::move(giro));
@@ -52,13 +53,15 @@ void FormMenu::AvviaScansione() {
 void FormMenu::OffriLivelli(std::size_t fascia) {
     std::vector<GiroOfferte::Offerta> giro;
     for (int livello = Fasce.at(fascia).Primo; livello <= Fasce.at(fascia).Ultimo; ++livello) {
-        giro.push_back(OffertaDi(CorniceFrame, Option1(livello), [this, livello] {
-            Option1(livello).Value(true);
-            AvviaScansione();
-        }));
+        giro.push_back(
+            OffertaDi(CorniceFrame, Option1(livello), NomeDi(Option1(livello)), [this, livello] {
+                Option1(livello).Value(true);
+                AvviaScansione();
+            }));
     }
-    giro.push_back(OffertaDiFascia(
-        fascia, [this] { return servizi_.Lingue.TestoLingua("0091", "Indietro"); },
+    giro.push_back(OffertaDi(
+        CorniceFrame, Riquadro(fascia),
+        [this] { return servizi_.Lingue.TestoLingua("0091", "Indietro"); },
         [this] { AvviaScansione(); }));
     giro.front().Durata = PrimaDelGiro;
     giro_.Avvia(std::move(giro));
@@ -95,41 +98,31 @@ void FormMenu::ProssimoUtente() {
 void FormMenu::ChiediUscita() {
     Command1(Uscita).Caption(
         servizi_.Lingue.TestoLingua("0052", "Premi ancora una volta per uscire"));
-    GiroOfferte::Offerta uscita =
-        OffertaDi(CorniceForm, Command1(Uscita), [this] { Command1_Click(Uscita); });
+    GiroOfferte::Offerta uscita = OffertaDi(CorniceForm, Command1(Uscita), NomeDi(Command1(Uscita)),
+                                            [this] { Command1_Click(Uscita); });
     uscita.Durata = durataGiro_;
     giro_.Avvia({std::move(uscita)}, [this] { AvviaScansione(); });
     Announce([this] { return Command1(Uscita).Caption(); });
 }
 
-template <typename Controllo>
-GiroOfferte::Offerta FormMenu::OffertaDi(Cornice& cornice, const Controllo& controllo,
+GiroOfferte::Offerta FormMenu::OffertaDi(Cornice& cornice, const PlacedControl& dove,
+                                         std::function<std::string()> nome,
                                          std::function<void()> prendi) {
-    return {[this, &cornice, &controllo](bool offerta) {
+    return {[this, &cornice, &dove, nome = std::move(nome)](bool offerta) {
                 if (!offerta) {
                     cornice.Nascondi();
                     return;
                 }
-                cornice.Mostra(controllo.Place());
+                cornice.Mostra(dove.Place());
                 // The keyboard stays where it is, so that nothing else would be read out.
-                Announce([&controllo] { return NomeDi(controllo); });
+                Announce(nome);
             },
             std::move(prendi)};
 }
 
-GiroOfferte::Offerta FormMenu::OffertaDiFascia(std::size_t fascia,
-                                               std::function<std::string()> nome,
-                                               std::function<void()> prendi) {
+const Shape& FormMenu::Riquadro(std::size_t fascia) const {
     const std::array<const Shape*, Fasce.size()> riquadri{&Shape1, &Shape2, &Shape3};
-    return {[this, riquadro = riquadri.at(fascia), nome = std::move(nome)](bool offerta) {
-                if (!offerta) {
-                    CorniceFrame.Nascondi();
-                    return;
-                }
-                CorniceFrame.Mostra(riquadro->Place());
-                Announce(nome);
-            },
-            std::move(prendi)};
+    return *riquadri.at(fascia);
 }
 
 }  // namespace trameli
