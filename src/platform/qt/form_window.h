@@ -61,17 +61,20 @@ protected:
 
 private:
     bool CoversScreen() const;
-    void AskAgain();
     void Arrange();
-    void ReleaseFirstPicture();
-    void Settle();
-    void Settled();
-    bool HasFinalSize() const;
-    void Activate();
     std::vector<const InteractiveControl*> OrderTabs();
     void FocusFirst();
-    void LookUpFonts();
     void ShowHourglass();
+
+    // In form_window_coming_up.cpp.
+    void SetUpSettling();
+    void AskAgain();
+    void LookUpFonts();
+    void ReleaseFirstPicture();
+    void Settle();
+    bool HasFinalSize() const;
+    void Settled();
+    void Activate();
 
     Form& form_;
     ClientArea& client_;
