@@ -27,12 +27,17 @@ run_tests() {
 
 echo "== check" >&2
 build_preset check
-# Most of these wait for windows and sounds, so they go on beside the next build.
+# Most of these wait for windows and sounds, so they go on beside the next build. They are a group
+# of their own, which a build that fails takes with it.
+set -m
 run_tests check >build/check/tests.log 2>&1 &
 checked=$!
+set +m
+trap 'kill -- "-$checked" 2>/dev/null || true' EXIT
 build_preset asan
 code=0
 wait "$checked" || code=$?
+trap - EXIT
 cat build/check/tests.log
 ((code == 0)) || exit "$code"
 # The first failure ends the script, so that the summary at the end is the one that matters.
