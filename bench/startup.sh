@@ -3,6 +3,11 @@
 # window, memory then, and processor time while nothing happens. Runs on the display that is there,
 # else on a virtual one with a window manager.
 set -euo pipefail
+# As on every desktop there is a bus for the session. Without one the toolkit would look for a program
+# that starts it, the empty window while it waits for its frame, the game before.
+if [[ -z ${DBUS_SESSION_BUS_ADDRESS:-} ]]; then
+    exec dbus-run-session -- "${BASH_SOURCE[0]}" "$@"
+fi
 cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.."
 
 probe=build/bench/probes/startup_probe

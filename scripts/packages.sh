@@ -32,7 +32,7 @@ packages_package=(dpkg-dev debhelper lintian desktop-file-utils appstream reuse)
 # Trying it on a bare system.
 packages_try=(mmdebstrap xvfb xauth openbox xdotool imagemagick)
 # The start of the game is measured in a real window; an hour is played by the tests' hands.
-packages_bench=(libbenchmark-dev libgtest-dev xvfb openbox)
+packages_bench=(libbenchmark-dev libgtest-dev xvfb openbox dbus)
 
 # Sets `missing` to those of the named packages that are not installed.
 find_missing() {

@@ -161,6 +161,8 @@ try_display() {
             esac
             kill -9 "$server"
             wait "$server" 2>/dev/null || true
+            # Two servers that start at once can both take a number that a dead one has left.
+            rm -f "/tmp/.X${DISPLAY#:}-lock" "/tmp/.X11-unix/X${DISPLAY#:}"
             soon has_ended || fail "it outlives its display in $place"
             code=0 saved=1
             [[ $place != maze ]] || saved=2
