@@ -31,7 +31,12 @@ bool Giocatore::Aperto(Lato lato, const Tramelo& tramelo) const {
     }
     // Of the two openings, only the finish cell's is a way out.
     return !tramelo.Muri(cellaCorrente_.Riga, cellaCorrente_.Colonna, lato) &&
-           (dentro || cellaCorrente_ == percorso_.CellaArrivo);
+           (dentro || AllArrivo());
+}
+
+bool Giocatore::Esce(Lato lato, const Tramelo& tramelo) const {
+    return AllArrivo() && Aperto(lato, tramelo) &&
+           !NellaGriglia(Vicina(cellaCorrente_, lato), tramelo);
 }
 
 Esito Giocatore::Muovi(Lato lato, const Tramelo& tramelo) {

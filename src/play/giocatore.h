@@ -29,6 +29,10 @@ public:
 
     /// Whether the player can leave the own cell over that side.
     bool Aperto(Lato lato, const Tramelo& tramelo) const;
+    /// The player stands in the last cell, from which the finish opening leads out.
+    bool AllArrivo() const { return !primaMossa_ && cellaCorrente_ == percorso_.CellaArrivo; }
+    /// Whether the finish opening is on that side.
+    bool Esce(Lato lato, const Tramelo& tramelo) const;
 
     /// Where the player stands; outside the grid before the first step and after the last.
     Cella CellaCorrente() const { return cellaCorrente_; }

@@ -20,6 +20,10 @@ std::string RigaEColonna(Cella cella, Lingue& lingue) {
            lingue.TestoLingua("0081", ", colonna ") + std::to_string(cella.Colonna);
 }
 
+std::string Arrivo(Lingue& lingue) {
+    return lingue.TestoLingua("0090", ". Arrivo: ");
+}
+
 }  // namespace
 
 std::string NomeDirezione(Lato lato, Lingue& lingue) {
@@ -31,21 +35,26 @@ std::string DovEIlGiocatore(const Giocatore& giocatore, const Tramelo& tramelo, 
     std::string testo = giocatore.NonPartito() ? lingue.TestoLingua("0083", "Prima della partenza")
                                                : RigaEColonna(giocatore.CellaCorrente(), lingue);
     std::string prima = lingue.TestoLingua("0082", ". Strade aperte: ");
+    std::string uscita;
     for (const Lato lato : {Lato::Alto, Lato::Destra, Lato::Basso, Lato::Sinistra}) {
-        if (giocatore.Aperto(lato, tramelo)) {
+        if (giocatore.Esce(lato, tramelo)) {
+            uscita = Arrivo(lingue) + NomeDirezione(lato, lingue);
+        } else if (giocatore.Aperto(lato, tramelo)) {
             testo += prima + NomeDirezione(lato, lingue);
             prima = ", ";
         }
     }
-    return testo;
+    return testo + uscita;
 }
 
 std::string DescriviTramelo(const Giocatore& giocatore, const Tramelo& tramelo, Lingue& lingue) {
     if (giocatore.TrameloRisolto()) {
         return DescriviArrivo(lingue);
     }
-    return DovEIlGiocatore(giocatore, tramelo, lingue) + lingue.TestoLingua("0090", ". Arrivo: ") +
-           RigaEColonna(giocatore.Percorso().CellaArrivo, lingue);
+    return DovEIlGiocatore(giocatore, tramelo, lingue) +
+           (giocatore.AllArrivo()
+                ? std::string()
+                : Arrivo(lingue) + RigaEColonna(giocatore.Percorso().CellaArrivo, lingue));
 }
 
 std::string DescriviUrto(Lato lato, Lingue& lingue) {

@@ -11,10 +11,11 @@ namespace trameli {
 /// A direction, in the current language.
 std::string NomeDirezione(Lato lato, Lingue& lingue);
 
-/// Where the player stands, by row and column, and which ways are open from there.
+/// Where the player stands, by row and column, and which ways are open from there. From the last
+/// cell one of them is the way out, and is told as such.
 std::string DovEIlGiocatore(const Giocatore& giocatore, const Tramelo& tramelo, Lingue& lingue);
 
-/// The same, and where the finish lies.
+/// The same, and in which cell the finish lies.
 std::string DescriviTramelo(const Giocatore& giocatore, const Tramelo& tramelo, Lingue& lingue);
 
 /// A wall is in the way.
