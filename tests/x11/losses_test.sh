@@ -135,7 +135,7 @@ try_folder() {
 # Servers other than the one that the test runs on; the last one is `$server`.
 serve() {
     rm -f "$HOME/other"
-    "$@" -auth "$XAUTHORITY" -displayfd 3 3>"$HOME/other" &>/dev/null &
+    "$@" -noreset -auth "$XAUTHORITY" -displayfd 3 3>"$HOME/other" &>/dev/null &
     server=$!
     soon test -s "$HOME/other" || fail "no X server"
     DISPLAY=:$(<"$HOME/other")

@@ -25,6 +25,9 @@ start_test_server() {
     export HOME=$room XDG_CACHE_HOME=$room/cache XDG_CONFIG_HOME=$room/config
     export XDG_DATA_HOME=$room/data XDG_RUNTIME_DIR=$room
     unset SESSION_MANAGER
+    # Nor its bus, and none that the toolkit would have a program start: a process that forks under
+    # the sanitizers can be left waiting for itself.
+    export DBUS_SESSION_BUS_ADDRESS=disabled:
     # The server finds a free number itself, so that any number of these can run at once. Keys
     # repeat soon, and faster than the toolkit always keeps up with.
     on_its_own Xvfb -displayfd 3 -auth "$XAUTHORITY" -nolisten tcp -noreset -screen 0 1366x768x24 -ar1 100 -ar2 5 \

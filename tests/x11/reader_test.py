@@ -67,7 +67,8 @@ def walk(accessible):
         yield from walk(accessible.get_child_at_index(i))
 
 
-# The same of all windows of the game that are in front.
+# The same of all windows of the game that are in front, and the window's role. For a moment there
+# can be two.
 def everything():
     seen = []
     desktop = Atspi.get_desktop(0)
@@ -80,7 +81,7 @@ def everything():
             except GLib.Error:
                 continue  # it went while it was looked at
             if told and "active" in told[0][2]:
-                seen += told
+                seen += [(*each, told[0][0]) for each in told]
     return seen
 
 
@@ -107,7 +108,7 @@ def window(*lines, key=None):
     seen = await_that(f"window with {lines}", look)
     for told in seen:
         # The toolkit's own dialogs have some, which are named.
-        filler = told[0] in ("filler", "unknown", "invalid") and seen[0][0] != "dialog"
+        filler = told[0] in ("filler", "unknown", "invalid") and told[5] != "dialog"
         if filler or not told[1].strip():
             sys.exit(f"Nothing can be told of {told} on the window with {lines}.")
 

@@ -13,7 +13,6 @@
 #include "platform/label.h"
 #include "platform/qt/convert.h"
 #include "platform/qt/native.h"
-#include "platform/qt/x11_server.h"
 
 namespace trameli {
 
