@@ -128,8 +128,14 @@ TEST_F(ConInterruttori, WithOneKeyTheOfferStandsStillWhileTheKeyIsDownAndIsTheOn
     EXPECT_EQ(TrattiAllInizio(tavolo), std::vector{dentro});
     Release(tavolo.Form_, Qt::Key_Space);
     EXPECT_EQ(tavolo.Passi(), 1);
-    // A stroke that ended in another window stops no offers.
+    // A stroke that is held when nothing is on offer comes to nothing, and stops nothing.
+    partita_.Tempo.Advance(DopoUnTasto);
+    Press(tavolo.Form_, Qt::Key_Space);
     Tic();
+    EXPECT_EQ(Tratti(tavolo, partenza_, false), std::vector{(dentro + 1) % 4});
+    Release(tavolo.Form_, Qt::Key_Space);
+    // Nor does one that ended in another window.
+    partita_.Tempo.Advance(DopoUnTasto);
     Press(tavolo.Form_, Qt::Key_Space);
     Partita::ViaERitorno(tavolo.Form_);
     Tic();
