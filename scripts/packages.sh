@@ -6,8 +6,8 @@
 
 # Compiler, build tools, and the headers of the toolkit, of the X server's protocol, of the system's
 # fonts, of the sound mixer and of the print service.
-packages_build=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libxcb1-dev libfontconfig-dev
-    libsdl2-mixer-dev libcups2-dev)
+packages_build=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libxcb1-dev libxcb-xkb-dev
+    libfontconfig-dev libsdl2-mixer-dev libcups2-dev)
 # What the game loads while it runs: window plugins, the toolkit's own texts, the mixer, instruments
 # for its music, the way to the print service, and the fonts that stand in for Comic Sans MS and
 # Arial.

@@ -117,10 +117,15 @@ def press(*keys):
     subprocess.run(["xdotool", "key", "--clearmodifiers", *keys], check=True)
 
 
+# Long enough for the server to repeat it some dozen times.
+def hold(key):
+    subprocess.run(["xdotool", "keydown", key, "sleep", "0.5", "keyup", key], check=True)
+
+
 # What is announced after some keys, as a match; whatever was announced before does not count.
-def announced(pattern, *keys):
+def announced(pattern, *keys, by=press):
     before = len(said)
-    press(*keys)
+    by(*keys)
     def look():
         return next((match for text in said[before:] if (match := re.search(pattern, text))), None)
     return await_that(f"announcement of {pattern} after {keys}", look)
@@ -138,7 +143,8 @@ def play():
     row_to, column_to = map(int, finish)
     wall = next(word for word in KEYS if word != way)
     announced(f"Wand: {wall}$", KEYS[wall])
-    place = announced(PLACE, KEYS[way])
+    place = announced(PLACE, KEYS[way], by=hold)
+    steps = 1
     while True:
         row, column = int(place[1]), int(place[2])
         if (row, column) == (row_to, column_to):
@@ -147,8 +153,9 @@ def play():
                 "rechts" if column < column_to else "links")
         assert word in place[3].split(", "), place[0]
         place = announced(PLACE, KEYS[word])
+        steps += 1
     out = re.search(r"\. Ziel: (\w+)$", place.string)[1]
-    announced(r"Ziel erreicht. Schritte \d+, Boing 1. |Toll gemacht!", KEYS[out])
+    announced(f"Ziel erreicht. Schritte {steps + 1}, Boing 1. |Toll gemacht!", KEYS[out])
 
 
 MAZE = ("image|Labyrinth", "image|Ziel", "status bar|Statusleiste", "menu item|Trameli")

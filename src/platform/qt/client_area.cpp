@@ -37,7 +37,14 @@ void ClientArea::Resized() {
 }
 
 void ClientArea::Announce(const QString& text) {
-    static_cast<AccessibleClient*>(QAccessible::queryAccessibleInterface(this))->Announce(text);
+    // Later, or a control that gets the keyboard in the same routine would talk over it.
+    QMetaObject::invokeMethod(
+        this,
+        [this, text] {
+            static_cast<AccessibleClient*>(QAccessible::queryAccessibleInterface(this))
+                ->Announce(text);
+        },
+        Qt::QueuedConnection);
 }
 
 QAccessibleInterface* ClientArea::Describe() {

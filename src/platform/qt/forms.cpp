@@ -7,6 +7,7 @@
 
 #include "platform/qt/dialog_care.h"
 #include "platform/qt/form_window.h"
+#include "platform/qt/key_repeats.h"
 #include "platform/qt/lost_windows.h"
 #include "platform/timer.h"
 
@@ -25,6 +26,7 @@ struct Forms::Native {
     std::vector<Modal> Modals;  // one inside the other
     QObject Grave;              // receives the call that buries; gone with the program
     DialogCare Dialogs;
+    KeyRepeats Repeats;
     LostWindows Lost;
 };
 

@@ -1,118 +1,92 @@
 #include "platform/qt/key_repeats.h"
 
 #include <xcb/xcb.h>
+#define explicit explicit_  // the name of a field there
+#include <xcb/xkb.h>
+#undef explicit
 
 #include <QCoreApplication>
-#include <QMetaObject>
 #include <cstdlib>
-#include <string_view>
-#include <utility>
 
+#include "platform/qt/key_gate.h"
 #include "platform/qt/x11_server.h"
 
 namespace trameli {
 
-namespace {
-
-std::unique_ptr<QKeyEvent> Copy(const QKeyEvent& event, bool autoRepeat) {
-    auto copy = std::make_unique<QKeyEvent>(event.type(), event.key(), event.modifiers(),
-                                            event.nativeScanCode(), event.nativeVirtualKey(),
-                                            event.nativeModifiers(), event.text(), autoRepeat,
-                                            static_cast<quint16>(event.count()), event.device());
-    copy->setTimestamp(event.timestamp());
-    return copy;
-}
-
-/// Whether the server made both up.
-bool ArePair(const QKeyEvent& release, const QKeyEvent& press) {
-    return release.type() == QEvent::KeyRelease && press.type() == QEvent::KeyPress &&
-           release.nativeScanCode() == press.nativeScanCode() &&
-           release.timestamp() == press.timestamp();
-}
-
-}  // namespace
-
 KeyRepeats::KeyRepeats() {
-    if (X11Server()) {
-        qApp->installNativeEventFilter(this);
-    }
-}
-
-KeyRepeats::~KeyRepeats() = default;
-
-bool KeyRepeats::Withholds(QWindow& window, const QKeyEvent& event) {
-    if (&event == passing_ || !X11Server()) {
-        return false;
-    }
-    window_ = &window;
-    const bool release = event.type() == QEvent::KeyRelease && !event.isAutoRepeat();
-    if (waiting_.empty() && !release) {
-        return false;
-    }
-    if (!waiting_.empty() && ArePair(*waiting_.back().Event, event)) {
-        waiting_.back().Event = Copy(event, true);
-        return true;
-    }
-    waiting_.push_back({Copy(event, event.isAutoRepeat()), release});
-    if (release) {
-        AskServer(window);
-    }
-    return true;
-}
-
-/// Sends a message to our own window, which comes back behind everything that the server has sent
-/// up to then.
-void KeyRepeats::AskServer(const QWindow& window) {
     xcb_connection_t* const server = X11Server();
-    if (question_ == XCB_ATOM_NONE) {
-        constexpr std::string_view name = "_TRAMELI_KEYS";
-        xcb_intern_atom_reply_t* const reply = xcb_intern_atom_reply(
-            server, xcb_intern_atom(server, 0, name.size(), name.data()), nullptr);
-        if (reply) {
-            question_ = reply->atom;
-            std::free(reply);
-        }
+    if (!server) {
+        return;
     }
-    xcb_client_message_event_t question{};
-    question.response_type = XCB_CLIENT_MESSAGE;
-    question.format = 32;
-    question.window = static_cast<xcb_window_t>(window.winId());
-    question.type = question_;
-    xcb_send_event(server, 0, question.window, XCB_EVENT_MASK_NO_EVENT,
-                   reinterpret_cast<const char*>(&question));
-    xcb_flush(server);
+    constexpr std::uint32_t pressesAlone = XCB_XKB_PER_CLIENT_FLAG_DETECTABLE_AUTO_REPEAT;
+    xcb_discard_reply(server, xcb_xkb_per_client_flags(server, XCB_XKB_ID_USE_CORE_KBD,
+                                                       pressesAlone, pressesAlone, 0, 0, 0)
+                                  .sequence);
+    qApp->installEventFilter(this);
 }
 
-bool KeyRepeats::nativeEventFilter(const QByteArray& type, void* message, qintptr* /*result*/) {
-    if (type != "xcb_generic_event_t" || question_ == XCB_ATOM_NONE) {
-        return false;
+bool KeyRepeats::eventFilter(QObject* object, QEvent* event) {
+    if (event->type() == QEvent::Shortcut) {
+        held_.insert(asked_);  // its press goes no further
     }
-    constexpr int sentByProgram = 0x80;
-    const auto& event = *static_cast<const xcb_client_message_event_t*>(message);
-    if ((event.response_type & ~sentByProgram) != XCB_CLIENT_MESSAGE || event.type != question_ ||
-        !window_ || event.window != window_->winId()) {
-        return false;
-    }
-    // The toolkit has read the keys before this answer but not delivered them yet.
-    QMetaObject::invokeMethod(
-        &answers_, [this] { Answered(); }, Qt::QueuedConnection);
-    return true;
+    return object->isWindowType() && Takes(*object, *event);
 }
 
-void KeyRepeats::Answered() {
-    for (Waiting& waiting : waiting_) {
-        if (std::exchange(waiting.ForAnswer, false)) {
-            break;
+/// What the window system sends to a window. True if it goes no further.
+bool KeyRepeats::Takes(QObject& window, QEvent& event) {
+    switch (event.type()) {
+        case QEvent::ShortcutOverride:  // comes before each press
+            asked_ = IdentityOf(static_cast<QKeyEvent&>(event));
+            if (held_.contains(asked_)) {
+                event.accept();  // so that no shortcut has it again
+                return true;
+            }
+            return false;
+        case QEvent::KeyPress: {
+            const auto& press = static_cast<QKeyEvent&>(event);
+            if (press.isAutoRepeat() || !held_.contains(IdentityOf(press))) {
+                held_.insert(IdentityOf(press));
+                return false;
+            }
+            Repeat(window, press);
+            return true;
         }
+        case QEvent::KeyRelease: {
+            const auto& release = static_cast<QKeyEvent&>(event);
+            if (!release.isAutoRepeat()) {
+                held_.remove(IdentityOf(release));
+            }
+            return false;
+        }
+        case QEvent::FocusIn:
+            ForgetReleased();
+            return false;
+        default:
+            return false;
     }
-    // A key's routine can serve events, and more answers come meanwhile.
-    while (!waiting_.empty() && !waiting_.front().ForAnswer) {
-        const std::unique_ptr<QKeyEvent> event = std::move(waiting_.front().Event);
-        waiting_.pop_front();
-        passing_ = event.get();
-        QCoreApplication::sendEvent(window_, event.get());
-        passing_ = nullptr;
+}
+
+/// Sends a press on as what it is.
+void KeyRepeats::Repeat(QObject& window, const QKeyEvent& press) {
+    QKeyEvent repetition(press.type(), press.key(), press.modifiers(), press.nativeScanCode(),
+                         press.nativeVirtualKey(), press.nativeModifiers(), press.text(), true,
+                         static_cast<quint16>(press.count()), press.device());
+    repetition.setTimestamp(press.timestamp());
+    QCoreApplication::sendEvent(&window, &repetition);
+}
+
+/// What was let go while another program had the keyboard.
+void KeyRepeats::ForgetReleased() {
+    xcb_connection_t* const server = X11Server();
+    if (held_.isEmpty() || !server) {
+        return;
     }
+    xcb_query_keymap_reply_t* const down =
+        xcb_query_keymap_reply(server, xcb_query_keymap(server), nullptr);
+    held_.removeIf([down](quint64 key) {
+        return !down || key / 8 >= sizeof down->keys || !(down->keys[key / 8] >> key % 8 & 1);
+    });
+    std::free(down);
 }
 
 }  // namespace trameli

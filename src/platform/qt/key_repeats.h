@@ -1,46 +1,30 @@
 // Keys that the X server repeats.
 #pragma once
 
-#include <QAbstractNativeEventFilter>
 #include <QKeyEvent>
-#include <QWindow>
-#include <deque>
-#include <memory>
+#include <QObject>
+#include <QSet>
 
 namespace trameli {
 
-/// Makes sure that the releases and presses which the X server makes up for a held key are marked
-/// as auto-repeat. The server sends them in pairs of the same moment, and the toolkit marks a pair
-/// if it finds both halves waiting. On a busy machine they come apart, and then the release looks
-/// like a real one: a held switch would be many strokes. So each release waits here, with all keys
-/// behind it, until the server has answered to a message; if the release was made up, its press
-/// comes before that answer. Elsewhere than on X11 nothing waits.
-class KeyRepeats : private QAbstractNativeEventFilter {
+/// Sees to it that what the X server makes up while a key is held down is marked as auto-repeat, in
+/// all windows of the process. By itself the server sends pairs of a release and a press, which
+/// the toolkit knows by finding both halves at once; on a busy machine, or on the way round by a
+/// screen reader, they come apart, and a held switch would be many strokes. So the server is asked
+/// for presses alone, and one whose key is down already is a repetition. Elsewhere than on X11 the
+/// toolkit knows by itself.
+class KeyRepeats : public QObject {
 public:
     KeyRepeats();
-    ~KeyRepeats() override;
-    KeyRepeats(const KeyRepeats&) = delete;
-    KeyRepeats& operator=(const KeyRepeats&) = delete;
-
-    /// True if this key of the window has to wait. It is sent to the window again afterwards, and
-    /// passes then.
-    bool Withholds(QWindow& window, const QKeyEvent& event);
 
 private:
-    struct Waiting {
-        std::unique_ptr<QKeyEvent> Event;
-        bool ForAnswer;  // or only for those before it
-    };
+    bool eventFilter(QObject* object, QEvent* event) override;
+    bool Takes(QObject& window, QEvent& event);
+    static void Repeat(QObject& window, const QKeyEvent& press);
+    void ForgetReleased();
 
-    bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
-    void AskServer(const QWindow& window);
-    void Answered();
-
-    std::deque<Waiting> waiting_;
-    const QKeyEvent* passing_ = nullptr;
-    std::uint32_t question_ = 0;  // the name of our message to the server
-    QObject answers_;             // whose calls end with this
-    QWindow* window_ = nullptr;
+    QSet<quint64> held_;  // keys that are down, by what they are
+    quint64 asked_ = 0;   // the one for which a shortcut is looked for
 };
 
 }  // namespace trameli

@@ -21,13 +21,9 @@ bool KeyRoad::Takes(QEvent& event) {
             }
             return false;
         case QEvent::KeyPress:
-        case QEvent::KeyRelease: {
-            auto& key = static_cast<QKeyEvent&>(event);
-            if (repeats_.Withholds(*window_.windowHandle(), key)) {
-                return true;
-            }
-            return event.type() == QEvent::KeyPress ? TakesPress(key) : TakesRelease(key);
-        }
+            return TakesPress(static_cast<QKeyEvent&>(event));
+        case QEvent::KeyRelease:
+            return TakesRelease(static_cast<QKeyEvent&>(event));
         default:
             return false;
     }

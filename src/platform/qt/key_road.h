@@ -7,7 +7,6 @@
 
 #include "platform/form.h"
 #include "platform/qt/key_gate.h"
-#include "platform/qt/key_repeats.h"
 #include "platform/qt/switch_care.h"
 
 namespace trameli {
@@ -38,7 +37,6 @@ private:
 
     Form& form_;
     QWidget& window_;
-    KeyRepeats repeats_;
     SwitchCare care_;
     KeyGate gate_;
     QSet<int> kept_;           // keys held down that the form keeps from its controls
