@@ -78,12 +78,14 @@ void FormMenu::SeguiUtente() {
     }
 }
 
-/// Those who play with the arrow keys are passed over: no switch would lead back from them.
+/// Those who play in another way are passed over: whoever has these switches could not go on from
+/// there, or not come back.
 void FormMenu::ProssimoUtente() {
+    const int modo = servizi_.Stato.ModoInput;
     scorre_ = true;
     for (int i = 0; i < Combo1.ListCount() && Loaded(); ++i) {
         Combo1.ListIndex((Combo1.ListIndex() + 1) % Combo1.ListCount());
-        if (servizi_.Stato.ModoInput != Tastiera) {
+        if (servizi_.Stato.ModoInput == modo) {
             break;
         }
     }

@@ -80,10 +80,10 @@ TEST_P(SoliInterruttori, PlayFromTheSplashThroughTwoLevelsToAnotherOneAndOut) {
     modo_ = GetParam();
     file_ = Utente(modo_).Con(RigaLivello, 0);
     disco_.Scrivi("_predefinito", file_);
-    // Between two who play with switches, each in another way, one who does not.
-    const int altroModo = modo_ == Manuale ? Automatica : Manuale;
+    // Between two who play in one way, some who do not.
     disco_.Scrivi("Anna", Utente(Tastiera));
-    disco_.Scrivi("Bea", Utente(altroModo));
+    disco_.Scrivi("Bea", Utente(modo_ == Manuale ? Automatica : Manuale));
+    disco_.Scrivi("Carlo", Utente(modo_));
     partita_.Avvia();
     partita_.Tempo.Advance(DopoUnaNovita);
     Spazio(partita_.Finestra("FormAvvio"));
@@ -104,8 +104,7 @@ TEST_P(SoliInterruttori, PlayFromTheSplashThroughTwoLevelsToAnotherOneAndOut) {
 
     Form& menu = Menu();
     Prendi(Trova<ComboBox>(menu, "Combo1"));
-    EXPECT_EQ(partita_.Gioco.Stato().NomeUtente, "Bea");
-    modo_ = altroModo;
+    EXPECT_EQ(partita_.Gioco.Stato().NomeUtente, "Carlo");
     Prendi(Trova<Shape>(menu, "Shape3"));
     Prendi(Trova<OptionButton>(menu, "Option1", 9));
     Prendi(Trova<CommandButton>(menu, "Command1", 0));
