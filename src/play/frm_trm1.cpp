@@ -1,5 +1,6 @@
 #include "play/frm_trm1.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 
@@ -42,6 +43,10 @@ constexpr Lato DirezioneIniziale = Lato::Basso;  // the only way in from the sta
 constexpr int DecimoDiSecondo = 100;    // milliseconds
 constexpr double TempoPerGuardare = 3;  // seconds
 
+// What a switch player chooses from during a rest, in the smallest windows.
+constexpr double LarghezzaScelta = 4500;
+constexpr double AltezzaScelta = 1200;
+
 }  // namespace
 
 frmTrm1::frmTrm1(trameli::Forms& forms, Servizi& servizi, Casuale& casuale)
@@ -52,10 +57,10 @@ frmTrm1::frmTrm1(trameli::Forms& forms, Servizi& servizi, Casuale& casuale)
                SaltoVelocita),
       Label1(FrameSotto, "Label1", {3360, 720, 855, 255}, "lento"),
       Label2(FrameSotto, "Label2", {5880, 720, 855, 255}, "veloce"),
-      BottoneContinua(*this, "BottoneContinua", {0, 0, 4500, 1200}, "Continua") {
+      BottoneContinua(*this, "BottoneContinua", {0, 0, LarghezzaScelta, AltezzaScelta},
+                      "Continua") {
     mnuPausa.Click = [this] { mnuPausa_Click(); };
     BottoneContinua.TabIndex(4);
-    BottoneContinua.Font(ScritteGrandi);
     BottoneContinua.Visible(false);
     BottoneContinua.Click = [this] { BottoneContinua_Click(); };
 
@@ -161,18 +166,25 @@ void frmTrm1::ApriScelta() {
                  GiroOfferte::DiBottone(BottoneMenu, [this] { mnuEsci_Click(); })});
 }
 
+/// A third of the window across, with letters to match.
 void frmTrm1::AccomodaScelta() {
-    const double altezza = BottoneContinua.Height();
-    const Bounds continua{(Width() - BottoneContinua.Width()) / 2,
-                          pictureTramelo.Height() / 2 - altezza, BottoneContinua.Width(), altezza};
-    BottoneContinua.Place(continua);
-    BottoneMenu.Place({continua.Left, continua.Top + 5 * altezza / 4, continua.Width, altezza});
+    const double scala = std::max(1.0, Width() / 3 / LarghezzaScelta);
+    const double larghezza = LarghezzaScelta * scala;
+    const double altezza = AltezzaScelta * scala;
+    const double left = (Width() - larghezza) / 2;
+    const double top = pictureTramelo.Height() / 2 - altezza;
+    BottoneContinua.Place({left, top, larghezza, altezza});
+    BottoneMenu.Place({left, top + 5 * altezza / 4, larghezza, altezza});
+    for (CommandButton* bottone : {&BottoneContinua, &BottoneMenu}) {
+        bottone->Font({ScritteGrandi.Family, ScritteGrandi.Points * scala, ScritteGrandi.Bold});
+    }
 }
 
 void frmTrm1::ChiudiScelta() {
     giro_.Ferma();
     BottoneContinua.Visible(false);
     BottoneMenu.Visible(false);
+    BottoneMenu.Font(ScritteGrandi);
     ScriviPausa(false);
 }
 
