@@ -28,6 +28,7 @@ constexpr Colour GrigioChiaro = 14737632;
 
 constexpr double PrimoLeft = 240;
 constexpr double PassoLeft = 1200;
+constexpr double LarghezzaOpzione = 1000;
 
 struct Bottone {
     Bounds Posto;
@@ -133,7 +134,7 @@ void FormMenu::DisponiLivelli() {
     for (const Fascia& fascia : Fasce) {
         for (int livello = fascia.Primo; livello <= fascia.Ultimo; ++livello) {
             const double left = PrimoLeft + PassoLeft * (livello - fascia.Primo);
-            OptionButton& opzione = Option1.Add(Frame1, Bounds{left, fascia.Top, 1000, 375},
+            OptionButton& opzione = Option1.Add(Frame1, Bounds{left, fascia.Top, LarghezzaOpzione, 375},
                                                 std::to_string(livello + 1));
             opzione.Font(Grande);
             opzione.BackColor(Bianco);

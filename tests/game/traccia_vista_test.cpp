@@ -5,6 +5,7 @@
 #include <set>
 #include <utility>
 
+#include "base/combinazioni_spessori.h"
 #include "game/partita.h"
 
 namespace trameli {
@@ -122,13 +123,13 @@ class Spessore : public TracciaVista, public testing::WithParamInterface<int> {}
 
 INSTANTIATE_TEST_SUITE_P(Livelli, Spessore, testing::Values(3, 12), NomeLivello);
 
-TEST_P(Spessore, ComesBackAfterSevenChangesThatLeaveNothingBehind) {
+TEST_P(Spessore, ComesBackAfterAllChangesThatLeaveNothingBehind) {
     const Tavolo tavolo = Apri(GetParam(), Colorato);
     const auto passi = tavolo.Soluzione();
     for (const bool intere : {false, true}) {
         const QImage prima = tavolo.Guarda().Immagine();
         std::set<std::pair<int, int>> aspetti;
-        for (int volta = 0; volta < 7; ++volta) {
+        for (int volta = 0; volta < NumeroSpessori; ++volta) {
             SCOPED_TRACE(volta);
             const int simbolo = Quanti(tavolo, RigaSimbolo);
             const int pareti = Quanti(tavolo, RigaPareti);
@@ -141,9 +142,9 @@ TEST_P(Spessore, ComesBackAfterSevenChangesThatLeaveNothingBehind) {
             Comando(tavolo, Qt::Key_L);
             EXPECT_EQ(Quanti(tavolo, RigaAvanti) + Quanti(tavolo, RigaRitorno), 0);
         }
-        EXPECT_EQ(aspetti.size(), 7U);
+        EXPECT_EQ(aspetti.size(), std::size_t{NumeroSpessori});
         EXPECT_EQ(tavolo.Guarda().Immagine(), prima);
-        EXPECT_EQ(tavolo.Passi(), intere ? 42 : 21);
+        EXPECT_EQ(tavolo.Passi(), (intere ? 6 : 3) * NumeroSpessori);
         Comando(tavolo, Qt::Key_C);
     }
 }

@@ -33,6 +33,11 @@ struct Tavola {
     std::vector<Riga_> Righe;
 };
 
+/// How it is called in lists of tests, which would otherwise show its bytes.
+void PrintTo(const Tavola& tavola, std::ostream* lista) {
+    *lista << tavola.Titolo;
+}
+
 std::string Rifilato(const std::string& testo) {
     const std::size_t inizio = testo.find_first_not_of(' ');
     return inizio == std::string::npos
