@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <iterator>
+#include <utility>
 
 #include "base/rounding.h"
 #include "platform/qt/pixel_rows.h"
@@ -33,10 +34,17 @@ QImage InLargePages(const QSize& size) {
         QImage::Format_RGB32,        std::free,    memory};
 }
 
+constexpr std::size_t MostFills = 512;
+
 std::uint32_t PixelOf(Colour colour) {
     return 0xFF000000U | static_cast<std::uint32_t>(RedOf(colour)) << 16 |
            static_cast<std::uint32_t>(GreenOf(colour)) << 8 |
            static_cast<std::uint32_t>(BlueOf(colour));
+}
+
+Pixels PixelsOf(QImage& image) {
+    return {reinterpret_cast<std::uint32_t*>(image.bits()), image.width(), image.height(),
+            static_cast<int>(image.bytesPerLine() / 4)};
 }
 
 }  // namespace
@@ -94,7 +102,7 @@ void Surface::Native::Resize(const QSize& size, double devicePixelRatio) {
     if (size_ == wanted && ratio_ == devicePixelRatio) {
         return;
     }
-    const QImage before = blank_ ? QImage() : image_;
+    const QImage before = blank_ && fills_.empty() ? QImage() : Image();
     ratio_ = devicePixelRatio;
     size_ = wanted;
     Clear();
@@ -137,6 +145,7 @@ void Surface::Native::Adopt(const Native& drawing) {
 
 void Surface::Native::Clear() {
     blank_ = true;
+    fills_.clear();
     Touch(0, 0, size_.width(), size_.height());
 }
 
@@ -153,13 +162,23 @@ const QImage& Surface::Native::Image() const {
         QPainter painter(&image_);
         painter.drawImage(0, 0, picture);
     }
+    const Pixels target = PixelsOf(image_);
+    for (const auto& [where, pixel] : std::exchange(fills_, {})) {
+        FillRectangle(target, where.x(), where.y(), where.width(), where.height(), pixel);
+    }
     return image_;
 }
 
 void Surface::Native::Fill(double x1, double y1, double x2, double y2, Colour colour) {
     const Point a = ToDevice(std::min(x1, x2), std::min(y1, y2));
     const Point b = ToDevice(std::max(x1, x2), std::max(y1, y2));
-    FillRectangle(Target(), a.X, a.Y, b.X - a.X, b.Y - a.Y, PixelOf(colour));
+    const QRect where = QRect(QPoint(0, 0), size_) & QRect(a.X, a.Y, b.X - a.X, b.Y - a.Y);
+    if (blank_ && fills_.size() < MostFills) {
+        fills_.push_back({where, PixelOf(colour)});
+    } else {
+        FillRectangle(Target(), where.x(), where.y(), where.width(), where.height(),
+                      PixelOf(colour));
+    }
     Touch(a.X, a.Y, b.X, b.Y);
 }
 
@@ -234,6 +253,19 @@ bool Surface::Native::Stretch(const PixelRectangle& where, const PixelBlock& pic
 void Surface::Native::Paint(QPainter& painter, const QRect& where) {
     announced_ = QRect();
     if (blank_ && ratio_ == 1) {
+        PaintBlank(painter, where);
+        return;
+    }
+    const QRectF source(QPointF(where.topLeft()) * ratio_, QSizeF(where.size()) * ratio_);
+    painter.drawImage(QRectF(where), Image(), source);
+}
+
+void Surface::Native::PaintBlank(QPainter& painter, const QRect& where) const {
+    QRegion bare(where);
+    for (const Filled& fill : fills_) {
+        bare -= fill.Where;
+    }
+    if (!bare.isEmpty()) {
         const QImage& backdrop = SeenBackdrop();
         const QRect picture(QPoint(0, 0), backdrop.size());
         if (backdrop.hasAlphaChannel() || !picture.contains(where)) {
@@ -241,10 +273,10 @@ void Surface::Native::Paint(QPainter& painter, const QRect& where) {
         }
         const QRect seen = where & picture;
         painter.drawImage(seen.topLeft(), backdrop, seen);
-        return;
     }
-    const QRectF source(QPointF(where.topLeft()) * ratio_, QSizeF(where.size()) * ratio_);
-    painter.drawImage(QRectF(where), Image(), source);
+    for (const auto& [filled, pixel] : fills_) {
+        painter.fillRect(filled & where, QColor::fromRgb(pixel));
+    }
 }
 
 int Surface::Native::ToDevice(double twips) const {
@@ -258,8 +290,7 @@ int Surface::Native::PenOnDevice(int pen) const {
 
 Pixels Surface::Native::Target() {
     Image();
-    return {reinterpret_cast<std::uint32_t*>(image_.bits()), image_.width(), image_.height(),
-            static_cast<int>(image_.bytesPerLine() / 4)};
+    return PixelsOf(image_);
 }
 
 void Surface::Native::Touch(int left, int top, int right, int bottom) {

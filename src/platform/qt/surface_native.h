@@ -6,6 +6,7 @@
 #include <QRect>
 #include <QSize>
 #include <functional>
+#include <vector>
 
 #include "platform/qt/raster.h"
 #include "platform/surface.h"
@@ -61,9 +62,14 @@ private:
         int X;
         int Y;
     };
+    struct Filled {
+        QRect Where;  // in device pixels
+        std::uint32_t Pixel;
+    };
 
     /// The part of the backdrop that the surface has room for.
     const QImage& SeenBackdrop() const;
+    void PaintBlank(QPainter& painter, const QRect& where) const;
     int ToDevice(double twips) const;
     Point ToDevice(double x, double y) const { return {ToDevice(x), ToDevice(y)}; }
     int PenOnDevice(int pen) const;
@@ -75,7 +81,10 @@ private:
     // Made when it is first drawn on or read: the bars of a wall show nothing but their backdrop,
     // and there are seventy of them.
     mutable QImage image_;
-    mutable bool blank_ = true;  // nothing but background and backdrop, whatever `image_` holds
+    mutable bool blank_ = true;  // nothing but this and fills, whatever `image_` holds
+    // What was filled before anything else was drawn. A window that shows nothing but a background
+    // made of stripes needs no memory for a second picture of itself.
+    mutable std::vector<Filled> fills_;
     CornerOf backdrop_;
     mutable QImage seenBackdrop_;
     mutable QSize seenSize_;  // of the surface when that was asked for
