@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <cstdlib>
+#include <utility>
 
 #include "platform/qt/key_gate.h"
 #include "platform/qt/x11_server.h"
@@ -27,7 +28,7 @@ KeyRepeats::KeyRepeats() {
 
 bool KeyRepeats::eventFilter(QObject* object, QEvent* event) {
     if (event->type() == QEvent::Shortcut) {
-        held_.insert(asked_);  // its press goes no further
+        held_.insert(std::exchange(asked_, 0));  // its press goes no further
     }
     return object->isWindowType() && Takes(*object, *event);
 }
