@@ -4,14 +4,11 @@
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QScreen>
-#include <QTimer>
-#include <QWindow>
 #include <algorithm>
 #include <utility>
 
 #include "platform/forms.h"
 #include "platform/label.h"
-#include "platform/qt/convert.h"
 #include "platform/qt/native.h"
 
 namespace trameli {
